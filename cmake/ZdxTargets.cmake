@@ -1,0 +1,44 @@
+# The build's rules, in one place.
+
+# Warnings are errors; names are hidden unless marked.
+add_library(zdx_options INTERFACE)
+target_compile_features(zdx_options INTERFACE cxx_std_20)
+target_compile_options(zdx_options INTERFACE
+  -Wall -Wextra -Wpedantic -Wconversion -Werror -fvisibility=hidden -fvisibility-inlines-hidden)
+# GCC 12 sees overlaps in sums of strings where there are none (its bug 105651).
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+  set(ZDX_GCC12 ON)
+  target_compile_options(zdx_options INTERFACE -Wno-restrict)
+endif()
+target_include_directories(zdx_options INTERFACE ${PROJECT_SOURCE_DIR}/include)
+if(ZDX_SANITIZE)
+  target_compile_options(zdx_options INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(zdx_options INTERFACE -fsanitize=address,undefined)
+endif()
+
+# zdx_layer(NAME FOLDER target...): the static target zdx_NAME of the sources below src/FOLDER that
+# belong to no target further down, linked to the targets named.
+function(zdx_layer name folder)
+  file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${folder}/*.cpp)
+  add_library(zdx_${name} STATIC ${sources})
+  set_target_properties(zdx_${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+  target_include_directories(zdx_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+  target_compile_definitions(zdx_${name} PUBLIC ZDXENGINE_STATIC PRIVATE ZDXENGINE_BUILDING)
+  target_link_libraries(zdx_${name} PUBLIC zdx_options ${ARGN})
+endfunction()
+
+# zdx_test(NAME source... [LINK target...]): a GoogleTest program of which each test is one of CTest.
+function(zdx_test name)
+  cmake_parse_arguments(arg "" "" "LINK" ${ARGN})
+  add_executable(${name} ${arg_UNPARSED_ARGUMENTS})
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  target_compile_definitions(${name} PRIVATE ZDX_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+  target_link_libraries(${name} PRIVATE zdx_options ${arg_LINK} GTest::gmock GTest::gtest_main)
+  target_precompile_headers(${name} REUSE_FROM zdx_test_headers)
+  if(ZDX_GCC12)
+    # Nor are the overruns that it sees in sums of temporary strings, which tests are full of.
+    target_compile_options(${name} PRIVATE -Wno-array-bounds -Wno-stringop-overflow)
+  endif()
+  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT 120)
+endfunction()

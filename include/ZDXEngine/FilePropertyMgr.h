@@ -1,0 +1,79 @@
+// Reading the properties of a drawing.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "ZDXEngine/Export.h"
+#include "ZDXEngine/FormatIds.h"
+#include "ZDXEngine/PropData.h"
+
+namespace ZDXEngine {
+
+// Which product of the family made a drawing.
+enum class DwgFileType : std::int32_t {
+  Unrecognized = 0,
+  Zent = 1,
+  ZentVariant = 2,
+  Zne = 3,
+  Partonic = 4,
+  Znm = 5,
+  Zmt = 6,
+  Terrane3D = 7,
+};
+
+// Names a block whose attribute values are wanted.
+struct BlockFilterParam {
+  // Compared without regard to case.
+  std::wstring blockName;
+  // The property set under which this block's values are published.
+  GUID formatId = {};
+  // Set by the engine where it looks blocks up by name; GetProperties leaves it alone.
+  bool matched = false;
+  // True: a value is named after the attribute definition's prompt, or its tag if the prompt is
+  // empty.  False: after its tag.
+  bool usePrompt = true;
+};
+
+// The one object through which properties are read.  Holds nothing between calls; the client makes
+// one call at a time, after the engine was started through ZDXService.
+class ZDXENGINE_API FilePropertyMgr {
+ public:
+  // What GetProperties is to collect: a bit set, in which 0 means everything.
+  enum FilePropertiesSet : std::int32_t {
+    AllProperties = 0,
+    BlockAttributes = 0x001,
+    NamedObjects = 0x002,
+    CreatorInfo = 0x004,
+    DrawingFlavour = 0x008,
+    DatabaseSettings = 0x010,
+    GeoLocation = 0x020,
+    SummaryInfo = 0x040,
+    Thumbnail = 0x080,
+    SymbolTables = 0x100,
+    CustomSummary = 0x200,
+  };
+
+  static FilePropertyMgr& Instance();
+
+  // Opens the drawing at `path` and tells which product made it.  Throws a FileError if the drawing
+  // can't be opened.
+  DwgFileType GetFileType(const std::wstring& path);
+
+  // Opens the drawing at `path` and collects what `selection` names, in a fixed order.  Throws a
+  // FileError if the drawing can't be opened, and _com_error if a value can't be allocated; there
+  // is no partial result.  A value that can't be read is left out.
+  std::vector<_PropData> GetProperties(const std::wstring& path,
+                                       std::vector<BlockFilterParam>& filters,
+                                       FilePropertiesSet selection);
+
+  FilePropertyMgr(const FilePropertyMgr&) = delete;
+
+ private:
+  FilePropertyMgr() = default;
+  ~FilePropertyMgr() = default;
+  FilePropertyMgr& operator=(const FilePropertyMgr&);
+};
+
+}  // namespace ZDXEngine

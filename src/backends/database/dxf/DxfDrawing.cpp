@@ -1,0 +1,295 @@
+#include "backends/database/dxf/DxfDrawing.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "backends/database/dxf/Lines.h"
+#include "backends/database/dxf/Tokens.h"
+#include "backends/database/model/BuiltIns.h"
+#include "base/CodePage.h"
+
+namespace zdx::dxf {
+namespace {
+
+model::ObjectKey KeyOf(const ObjectStart& start) { return model::ObjectKey{start.at}; }
+
+bool IsDictionary(std::string_view type) {
+  return type == kDictionary || type == kDictionaryWithDefault;
+}
+
+bool IsProxy(std::string_view type) { return type == kProxyObject || type == kProxyEntity; }
+
+std::wstring Widen(std::string_view ascii) { return {ascii.begin(), ascii.end()}; }
+
+}  // namespace
+
+DxfDrawing::DxfDrawing(file::MappedFile file, Form form, std::shared_ptr<model::Report> report)
+    : file_(std::move(file)),
+      stream_(file_.bytes(), form),
+      report_(std::move(report)),
+      sections_(stream_) {
+  ReadHeader();
+  ReportHeader();
+}
+
+void DxfDrawing::ReadHeader() {
+  if (const auto section = FindSection(kHeaderSection)) {
+    header_ = HeaderVariables(stream_, section->begin, section->end);
+  }
+  if (const auto magic = header_.Find(kVersionVariable)) {
+    if (const auto version = model::VersionByMagic(Trimmed(magic->value))) version_ = *version;
+  }
+  CodePageId page = kWestern;
+  if (const auto name = header_.Find(kCodePageVariable)) {
+    const auto known = CodePageByName(Trimmed(name->value));
+    page = known.value_or(kWestern);
+    if (!known && version_ < model::kVersion1021) {
+      Warn(L"The code page isn't known; Western (1252) is used.", name->at);
+    }
+  }
+  decoder_.emplace(version_, page, model::ControlCharacters::kCaret);
+}
+
+void DxfDrawing::ReportHeader() {
+  report_->format = stream_.form() == Form::kText ? L"DXF (text)" : L"DXF (binary)";
+  if (const auto magic = header_.Find(kVersionVariable)) {
+    report_->version = Text(*magic, model::TextUse::kValue);
+    if (!model::VersionByMagic(Trimmed(magic->value))) {
+      Warn(L"The version isn't known; the file is read as AC1009.", magic->at);
+    } else if (version_ == model::kVersionUnknownNewer) {
+      Warn(L"The version is newer than those that are known.", magic->at);
+    }
+  }
+  if (const auto page = header_.Find(kCodePageVariable)) {
+    report_->codePage = Text(*page, model::TextUse::kValue);
+  }
+  for (const std::size_t at : header_.damages()) WarnOfDamage(at);
+}
+
+std::optional<Section> DxfDrawing::FindSection(std::string_view name) {
+  const std::optional<Section> section = sections_.Find(name);
+  const std::vector<std::size_t>& missing = sections_.missingEnds();
+  for (; toldMissingEnds_ < missing.size(); ++toldMissingEnds_) {
+    Warn(L"A section lacks its end; the file may have been cut.", missing[toldMissingEnds_]);
+  }
+  return section;
+}
+
+const DxfDrawing::Tables& DxfDrawing::ReadTables() {
+  if (!tables_) {
+    Tables tables;
+    CollectRecords(tables);
+    if (tables.blocks.empty()) CollectBlocks(tables.blocks);
+    const auto order = [this](model::TableKind kind, std::vector<model::ObjectKey>& records) {
+      model::PutBuiltInsFirst(kind, records,
+                              [&](model::ObjectKey record) { return RecordName(kind, record); });
+    };
+    order(model::TableKind::kBlock, tables.blocks);
+    order(model::TableKind::kLinetype, tables.linetypes);
+    tables_ = std::move(tables);
+  }
+  return *tables_;
+}
+
+// Goes by the type of each record, not by the heads, ends and counts around them.
+void DxfDrawing::CollectRecords(Tables& tables) {
+  const auto section = FindSection(kTablesSection);
+  if (!section) return;
+  ObjectStart start = stream_.NextObject(section->begin);
+  for (; start.Found() && start.at < section->end; start = stream_.NextObject(start.body)) {
+    if (start.type == kLayerRecord) tables.layers.push_back(KeyOf(start));
+    if (start.type == kLinetypeRecord) tables.linetypes.push_back(KeyOf(start));
+    if (start.type == kViewRecord) tables.views.push_back(KeyOf(start));
+    if (start.type == kBlockRecord) tables.blocks.push_back(KeyOf(start));
+  }
+}
+
+// Where a drawing has no block records, as AC1009, its blocks stand for them.
+void DxfDrawing::CollectBlocks(std::vector<model::ObjectKey>& blocks) {
+  const auto section = FindSection(kBlocksSection);
+  if (!section) return;
+  ObjectStart start = stream_.NextObject(section->begin);
+  for (; start.Found() && start.at < section->end; start = stream_.NextObject(start.body)) {
+    if (start.type == kBlock) blocks.push_back(KeyOf(start));
+  }
+}
+
+const std::vector<model::ObjectKey>& DxfDrawing::TableRecords(model::TableKind table) {
+  const Tables& tables = ReadTables();
+  switch (table) {
+    case model::TableKind::kBlock:
+      return tables.blocks;
+    case model::TableKind::kLayer:
+      return tables.layers;
+    case model::TableKind::kLinetype:
+      return tables.linetypes;
+    default:
+      return tables.views;
+  }
+}
+
+std::optional<std::wstring> DxfDrawing::RecordName(model::TableKind /*table*/,
+                                                   model::ObjectKey record) {
+  return ObjectText(record, kNameCode, model::TextUse::kName);
+}
+
+std::optional<std::wstring> DxfDrawing::LinetypeComments(model::ObjectKey record) {
+  if (!FirstTag(record, kDescriptionCode)) return std::wstring();
+  return ObjectText(record, kDescriptionCode, model::TextUse::kValue);
+}
+
+std::optional<model::ObjectKey> DxfDrawing::RootDictionary() {
+  const auto section = FindSection(kObjectsSection);
+  if (!section) return std::nullopt;
+  ObjectStart start = stream_.NextObject(section->begin);
+  for (; start.Found() && start.at < section->end; start = stream_.NextObject(start.body)) {
+    if (IsDictionary(start.type)) return KeyOf(start);
+  }
+  return std::nullopt;
+}
+
+std::vector<model::DictionaryEntry> DxfDrawing::DictionaryEntries(model::ObjectKey dictionary) {
+  std::vector<model::DictionaryEntry> entries;
+  ObjectTags tags(stream_, StartOf(dictionary).body);
+  Tag tag;
+  while (tags.Next(tag)) {
+    if (tag.code == kKeyCode) {
+      entries.push_back({Text(tag, model::TextUse::kName), 0});
+    } else if ((tag.code == kSoftValueCode || tag.code == kHardValueCode) && !entries.empty() &&
+               entries.back().target == 0) {
+      entries.back().target = ParseHandle(tag.value);
+    }
+  }
+  if (tags.damagedAt() != kNowhere) WarnOfDamage(tags.damagedAt());
+  return entries;
+}
+
+std::wstring DxfDrawing::DictionaryName(model::DictionaryKind kind) const {
+  switch (kind) {
+    case model::DictionaryKind::kGroup:
+      return std::wstring(kGroupKey);
+    case model::DictionaryKind::kMlineStyle:
+      return std::wstring(kMlineStyleKey);
+    case model::DictionaryKind::kLayout:
+      return std::wstring(kLayoutKey);
+    default:
+      return std::wstring(kPlotSettingsKey);
+  }
+}
+
+// Looks first where nearly everything is that other objects name, and only then at the rest.
+std::optional<model::ObjectKey> DxfDrawing::Find(model::Handle handle) {
+  if (handle == 0) return std::nullopt;
+  const std::optional<Section> objects = FindSection(kObjectsSection);
+  if (objects) {
+    if (const auto at = IndexOf(*objects).Find(handle)) return model::ObjectKey{*at};
+  }
+  for (const Section& section : sections_.All()) {
+    if (objects && section.begin == objects->begin) continue;
+    if (const auto at = IndexOf(section).Find(handle)) return model::ObjectKey{*at};
+  }
+  return std::nullopt;
+}
+
+const ObjectIndex& DxfDrawing::IndexOf(const Section& section) {
+  for (const SectionIndex& known : indexes_) {
+    if (known.begin == section.begin) return known.index;
+  }
+  indexes_.push_back({section.begin, ObjectIndex::Build(stream_, section.begin, section.end)});
+  return indexes_.back().index;
+}
+
+const ClassTable& DxfDrawing::Classes() {
+  if (!classes_) {
+    const auto section = FindSection(kClassesSection);
+    classes_ = section ? ClassTable(stream_, section->begin, section->end) : ClassTable();
+  }
+  return *classes_;
+}
+
+model::ObjectDescription DxfDrawing::Describe(model::ObjectKey object) {
+  using Kind = model::ObjectDescription::Kind;
+  const ObjectStart start = StartOf(object);
+  if (IsProxy(start.type)) return {Kind::kProxy, ProxiedClassName(start)};
+  return {IsDictionary(start.type) ? Kind::kDictionary : Kind::kObject, ClassName(start)};
+}
+
+std::wstring DxfDrawing::ProxiedClassName(const ObjectStart& start) {
+  const auto number = FirstTag(KeyOf(start), kProxyClassCode);
+  std::int64_t value = 0;
+  if (!number || !ParseInteger(stream_.form(), number->value, value)) return {};
+  const auto name = Classes().ClassOfNumber(value);
+  return name ? Widen(*name) : std::wstring();
+}
+
+// The declared class; without one the object's last subclass marker, which names its own class; the
+// type where there is none either.
+std::wstring DxfDrawing::ClassName(const ObjectStart& start) {
+  if (const auto declared = Classes().ClassOfType(start.type)) return Widen(*declared);
+  std::string_view name = start.type;
+  ObjectTags tags(stream_, start.body);
+  Tag tag;
+  while (tags.Next(tag)) {
+    if (tag.code == kSubclassCode) name = Trimmed(tag.value);
+  }
+  return Widen(name);
+}
+
+ObjectStart DxfDrawing::StartOf(model::ObjectKey object) const {
+  return stream_.ObjectAt(static_cast<std::size_t>(object));
+}
+
+std::optional<Tag> DxfDrawing::FirstTag(model::ObjectKey object, int code) {
+  ObjectTags tags(stream_, StartOf(object).body);
+  Tag tag;
+  while (tags.Next(tag)) {
+    if (tag.code == code) return tag;
+  }
+  return std::nullopt;
+}
+
+std::optional<std::wstring> DxfDrawing::ObjectText(model::ObjectKey object, int code,
+                                                   model::TextUse use) {
+  if (const auto tag = FirstTag(object, code)) return Text(*tag, use);
+  Warn(L"A record has no name.", static_cast<std::size_t>(object));
+  return std::nullopt;
+}
+
+std::wstring DxfDrawing::Text(const Tag& tag, model::TextUse use) {
+  model::TextFlaws flaws;
+  std::wstring text = decoder_->Decode(tag.value, use, flaws);
+  if (flaws.notInEncoding) Warn(L"A text isn't valid in the file's encoding.", tag.at);
+  if (flaws.hasNul) Warn(L"A text holds NUL characters, which are left out.", tag.at);
+  return text;
+}
+
+void DxfDrawing::WarnOfDamage(std::size_t at) {
+  Warn(L"Something here isn't a group code with its value; the rest of its object is passed over.",
+       at);
+}
+
+void DxfDrawing::Warn(std::wstring text, std::size_t at) {
+  model::Finding finding = {std::move(text), {}, {}, {}};
+  if (stream_.form() != Form::kText) {
+    finding.offset = at;
+  } else if (report_->KeepsMoreWarnings()) {
+    finding.line = LineOf(at);
+  }
+  report_->Warn(std::move(finding));
+}
+
+// The number of the line that begins at `at`.
+std::uint64_t DxfDrawing::LineOf(std::size_t at) {
+  if (at < countedTo_) {
+    countedTo_ = 0;
+    countedLines_ = 1;
+  }
+  const std::string_view bytes = stream_.bytes();
+  while (countedTo_ < std::min(at, bytes.size())) {
+    TakeLine(bytes, countedTo_);
+    ++countedLines_;
+  }
+  return countedLines_;
+}
+
+}  // namespace zdx::dxf

@@ -1,0 +1,96 @@
+// A drawing that stands in a DXF file.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "backends/database/dxf/ClassTable.h"
+#include "backends/database/dxf/HeaderVariables.h"
+#include "backends/database/dxf/ObjectIndex.h"
+#include "backends/database/dxf/SectionMap.h"
+#include "backends/database/dxf/TagStream.h"
+#include "backends/database/file/MappedFile.h"
+#include "backends/database/model/Drawing.h"
+#include "backends/database/model/Report.h"
+#include "backends/database/model/StoredText.h"
+
+namespace zdx::dxf {
+
+// Keeps the file mapped and finds things when they are asked for: the header at once, each other
+// section at the first question that needs it.  An object's key is the place where it begins.
+class DxfDrawing : public model::Drawing {
+ public:
+  // The drawing in `file`, whose bytes were recognised as `form`.  What is found goes to `report`.
+  DxfDrawing(file::MappedFile file, Form form, std::shared_ptr<model::Report> report);
+
+  model::Version version() const override { return version_; }
+  const std::vector<model::ObjectKey>& TableRecords(model::TableKind table) override;
+  std::optional<std::wstring> RecordName(model::TableKind table, model::ObjectKey record) override;
+  std::optional<std::wstring> LinetypeComments(model::ObjectKey record) override;
+  std::optional<model::ObjectKey> RootDictionary() override;
+  std::vector<model::DictionaryEntry> DictionaryEntries(model::ObjectKey dictionary) override;
+  std::wstring DictionaryName(model::DictionaryKind kind) const override;
+  std::optional<model::ObjectKey> Find(model::Handle handle) override;
+  model::ObjectDescription Describe(model::ObjectKey object) override;
+  std::optional<std::wstring> SettingText(model::Setting setting) override;
+  std::optional<model::Summary> ReadSummary() override;
+
+ private:
+  struct Tables {
+    std::vector<model::ObjectKey> blocks;
+    std::vector<model::ObjectKey> layers;
+    std::vector<model::ObjectKey> linetypes;
+    std::vector<model::ObjectKey> views;
+  };
+  struct SectionIndex {
+    std::size_t begin;
+    ObjectIndex index;
+  };
+
+  void ReadHeader();
+  void ReportHeader();
+  std::optional<Section> FindSection(std::string_view name);
+  const Tables& ReadTables();
+  void CollectRecords(Tables& tables);
+  void CollectBlocks(std::vector<model::ObjectKey>& blocks);
+  const ClassTable& Classes();
+  const ObjectIndex& IndexOf(const Section& section);
+  std::wstring ProxiedClassName(const ObjectStart& start);
+  std::wstring ClassName(const ObjectStart& start);
+
+  std::optional<Tag> FirstTag(model::ObjectKey object, int code);
+  std::optional<std::wstring> ObjectText(model::ObjectKey object, int code, model::TextUse use);
+  std::wstring VariableText(std::string_view name);
+  std::wstring BlockSpelling(const std::wstring& name);
+  model::Summary SummaryOfHeader();
+  model::Summary SummaryOfRecord();
+
+  ObjectStart StartOf(model::ObjectKey object) const;
+  std::wstring Text(const Tag& tag, model::TextUse use);
+  void Warn(std::wstring text, std::size_t at);
+  void WarnOfDamage(std::size_t at);
+  std::uint64_t LineOf(std::size_t at);
+
+  file::MappedFile file_;
+  TagStream stream_;
+  std::shared_ptr<model::Report> report_;
+  SectionMap sections_;
+  std::size_t toldMissingEnds_ = 0;
+  HeaderVariables header_;
+  model::Version version_ = model::kVersion1009;
+  std::optional<model::StoredTextDecoder> decoder_;
+
+  // Filled at the first question that needs them.
+  std::optional<Tables> tables_;
+  std::optional<ClassTable> classes_;
+  std::vector<SectionIndex> indexes_;
+
+  // The last line that was counted, from which the next is.
+  std::size_t countedTo_ = 0;
+  std::uint64_t countedLines_ = 1;
+};
+
+}  // namespace zdx::dxf

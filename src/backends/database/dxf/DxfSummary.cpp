@@ -1,0 +1,144 @@
+// The texts about the drawing as a whole: summary, custom entries and settings.
+#include <algorithm>
+#include <array>
+#include <iterator>
+
+#include "backends/database/dxf/DxfDrawing.h"
+#include "backends/database/dxf/Tokens.h"
+#include "backends/database/model/BuiltIns.h"
+#include "base/CaseFold.h"
+
+namespace zdx::dxf {
+namespace {
+
+using model::Setting;
+using model::Summary;
+
+struct SettingRow {
+  std::string_view variable;
+  Setting setting;
+  // The first version whose header holds it.
+  model::Version since;
+};
+
+constexpr SettingRow kSettings[] = {
+    {kMenuVariable, Setting::kMenu, 0},
+    {kProjectNameVariable, Setting::kProjectName, model::kVersion1018},
+    {kHyperlinkBaseVariable, Setting::kHyperlinkBase, model::kVersion1015},
+    {kStyleSheetVariable, Setting::kStyleSheet, model::kVersion1015},
+    {kDimpostVariable, Setting::kDimpost, 0},
+    {kDimapostVariable, Setting::kDimapost, 0},
+    {kDimblkVariable, Setting::kDimblk, 0},
+    {kDimblk1Variable, Setting::kDimblk1, 0},
+    {kDimblk2Variable, Setting::kDimblk2, 0},
+};
+
+bool NamesAnArrow(Setting setting) {
+  return setting == Setting::kDimblk || setting == Setting::kDimblk1 ||
+         setting == Setting::kDimblk2;
+}
+
+// A field of the summary: its header variable from AC1018 on, and its group code in the record in
+// which AC1012 to AC1015 keep it.
+struct SummaryRow {
+  std::wstring Summary::*field;
+  std::string_view variable;
+  int code;
+};
+
+constexpr SummaryRow kSummaryFields[] = {
+    {&Summary::title, kTitleVariable, 2},
+    {&Summary::subject, kSubjectVariable, 3},
+    {&Summary::author, kAuthorVariable, 4},
+    {&Summary::comments, kCommentsVariable, 6},
+    {&Summary::keywords, kKeywordsVariable, 7},
+    {&Summary::lastSavedBy, kLastSavedByVariable, 8},
+    {&Summary::revisionNumber, kRevisionNumberVariable, 9},
+};
+
+// The record holds custom entries as "name=value"; an unused place holds "=".
+constexpr int kFirstCustomCode = 300;
+constexpr int kLastCustomCode = 309;
+constexpr wchar_t kCustomSeparator = L'=';
+
+void AddCustomEntry(Summary& summary, const std::wstring& text) {
+  const std::size_t separator = std::min(text.find(kCustomSeparator), text.size());
+  const std::size_t value = std::min(separator + 1, text.size());
+  if (separator == 0 && value == text.size()) return;
+  summary.custom.emplace_back(text.substr(0, separator), text.substr(value));
+}
+
+}  // namespace
+
+std::optional<std::wstring> DxfDrawing::SettingText(Setting setting) {
+  const auto* const row =
+      std::find_if(std::begin(kSettings), std::end(kSettings),
+                   [setting](const SettingRow& r) { return r.setting == setting; });
+  const std::optional<Tag> tag = header_.Find(row->variable);
+  if (!tag) return version_ < row->since ? std::nullopt : std::optional<std::wstring>(L"");
+  if (!NamesAnArrow(setting)) return Text(*tag, model::TextUse::kValue);
+  return model::ArrowBlockName(Text(*tag, model::TextUse::kName),
+                               [this](const std::wstring& name) { return BlockSpelling(name); });
+}
+
+// The block table's own spelling of a name; empty if it has no such block.
+std::wstring DxfDrawing::BlockSpelling(const std::wstring& name) {
+  for (const model::ObjectKey block : TableRecords(model::TableKind::kBlock)) {
+    std::optional<std::wstring> spelled = RecordName(model::TableKind::kBlock, block);
+    if (spelled && CompareIgnoringCase(*spelled, name) == 0) return *std::move(spelled);
+  }
+  return {};
+}
+
+std::optional<Summary> DxfDrawing::ReadSummary() {
+  if (version_ < model::kVersion1012) return std::nullopt;
+  return version_ >= model::kVersion1018 ? SummaryOfHeader() : SummaryOfRecord();
+}
+
+std::wstring DxfDrawing::VariableText(std::string_view name) {
+  const std::optional<Tag> tag = header_.Find(name);
+  return tag ? Text(*tag, model::TextUse::kValue) : std::wstring();
+}
+
+Summary DxfDrawing::SummaryOfHeader() {
+  Summary summary;
+  for (const SummaryRow& row : kSummaryFields) summary.*row.field = VariableText(row.variable);
+  for (const HeaderVariables::Variable& variable : header_.all()) {
+    if (variable.name == kCustomNameVariable) {
+      summary.custom.emplace_back(Text(variable.value, model::TextUse::kValue), std::wstring());
+    } else if (variable.name == kCustomValueVariable && !summary.custom.empty()) {
+      summary.custom.back().second = Text(variable.value, model::TextUse::kValue);
+    }
+  }
+  return summary;
+}
+
+Summary DxfDrawing::SummaryOfRecord() {
+  Summary summary;
+  const std::optional<model::ObjectKey> root = RootDictionary();
+  if (!root) return summary;
+  const std::vector<model::DictionaryEntry> entries = DictionaryEntries(*root);
+  const auto entry = std::find_if(entries.begin(), entries.end(), [](const auto& e) {
+    return CompareIgnoringCase(e.key, kSummaryKey) == 0;
+  });
+  if (entry == entries.end()) return summary;
+  const std::optional<model::ObjectKey> record = Find(entry->target);
+  if (!record || StartOf(*record).type != kXrecord) return summary;
+  ObjectTags tags(stream_, StartOf(*record).body);
+  Tag tag;
+  while (tags.Next(tag) && !(tag.code == kSubclassCode && tag.value == kXrecordMarker)) {
+  }
+  while (tags.Next(tag)) {
+    if (tag.code >= kFirstCustomCode && tag.code <= kLastCustomCode) {
+      AddCustomEntry(summary, Text(tag, model::TextUse::kValue));
+      continue;
+    }
+    for (const SummaryRow& row : kSummaryFields) {
+      if (row.code == tag.code) summary.*row.field = Text(tag, model::TextUse::kValue);
+    }
+  }
+  if (tags.damagedAt() != kNowhere) WarnOfDamage(tags.damagedAt());
+  return summary;
+}
+
+}  // namespace zdx::dxf

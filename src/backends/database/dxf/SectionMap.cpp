@@ -1,0 +1,58 @@
+#include "backends/database/dxf/SectionMap.h"
+
+#include "backends/database/dxf/Lines.h"
+#include "backends/database/dxf/Tokens.h"
+
+namespace zdx::dxf {
+
+std::optional<Section> SectionMap::Find(std::string_view name) {
+  std::size_t i = 0;
+  do {
+    for (; i < sections_.size(); ++i) {
+      if (sections_[i].name == name) return sections_[i];
+    }
+  } while (FindNext());
+  return std::nullopt;
+}
+
+const std::vector<Section>& SectionMap::All() {
+  while (FindNext()) {
+  }
+  return sections_;
+}
+
+// Adds the next section; false if there is none.
+bool SectionMap::FindNext() {
+  while (!complete_) {
+    const ObjectStart start = stream_->NextObject(next_);
+    if (!start.Found() || start.type == kEndOfFile) break;
+    next_ = start.body;
+    if (start.type != kSection) continue;
+    Tag name;
+    std::size_t at = start.body;
+    if (stream_->Read(at, name) != TagStream::Outcome::kTag || name.code != kNameCode) continue;
+    const std::size_t end = FindEnd(at);
+    sections_.push_back({Trimmed(name.value), at, end});
+    next_ = end;
+    return true;
+  }
+  complete_ = true;
+  return false;
+}
+
+// The place of the section's end mark, or of whatever ends it for want of one.
+std::size_t SectionMap::FindEnd(std::size_t from) {
+  while (true) {
+    const ObjectStart start = stream_->NextObject(from);
+    if (start.type == kEndOfSection) return start.at;
+    const bool another = start.type == kSection || start.type == kEndOfFile;
+    if (!start.Found() || another) {
+      const std::size_t end = start.Found() ? start.at : stream_->bytes().size();
+      missingEnds_.push_back(end);
+      return end;
+    }
+    from = start.body;
+  }
+}
+
+}  // namespace zdx::dxf

@@ -1,0 +1,44 @@
+// Where the sections of a file lie.
+#pragma once
+
+#include <optional>
+#include <string_view>
+#include <vector>
+
+#include "backends/database/dxf/TagStream.h"
+
+namespace zdx::dxf {
+
+// One section: its objects begin at `begin` and end before `end`.
+struct Section {
+  std::string_view name;
+  std::size_t begin = 0;
+  std::size_t end = 0;
+};
+
+// Finds sections in the order of the file, and no further than asked: a question that the header
+// answers costs no look at the rest.
+class SectionMap {
+ public:
+  explicit SectionMap(const TagStream& stream) : stream_(&stream), next_(stream.Begin()) {}
+
+  // The first section of that name; nullopt if the file has none.
+  std::optional<Section> Find(std::string_view name);
+  // All sections of the file.
+  const std::vector<Section>& All();
+
+  // Where a section lacked its end, in order; grows as sections are found.
+  const std::vector<std::size_t>& missingEnds() const { return missingEnds_; }
+
+ private:
+  bool FindNext();
+  std::size_t FindEnd(std::size_t from);
+
+  const TagStream* stream_;
+  std::size_t next_;
+  bool complete_ = false;
+  std::vector<Section> sections_;
+  std::vector<std::size_t> missingEnds_;
+};
+
+}  // namespace zdx::dxf

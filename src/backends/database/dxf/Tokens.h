@@ -1,0 +1,80 @@
+// The words of the format, spelled as files spell them.
+#pragma once
+
+#include <string_view>
+
+namespace zdx::dxf {
+
+// Structure.
+inline constexpr std::string_view kSection = "SECTION";
+inline constexpr std::string_view kEndOfSection = "ENDSEC";
+inline constexpr std::string_view kTable = "TABLE";
+inline constexpr std::string_view kEndOfTable = "ENDTAB";
+inline constexpr std::string_view kEndOfFile = "EOF";
+inline constexpr std::string_view kBlock = "BLOCK";
+inline constexpr std::string_view kClass = "CLASS";
+
+// A binary file begins with this product name, kBinaryMark and the bytes after it.
+inline constexpr std::string_view kBinaryProduct = "AutoCAD";
+inline constexpr std::string_view kBinaryMark = " Binary DXF";
+inline constexpr std::string_view kBinaryTail("\r\n\x1A\0", 4);
+inline constexpr std::size_t kBinarySentinelSize =
+    kBinaryProduct.size() + kBinaryMark.size() + kBinaryTail.size();
+static_assert(kBinarySentinelSize == 22);
+
+// A text in UTF-8 may begin with this mark.
+inline constexpr std::string_view kUtf8Mark = "\xEF\xBB\xBF";
+
+// Sections.
+inline constexpr std::string_view kHeaderSection = "HEADER";
+inline constexpr std::string_view kClassesSection = "CLASSES";
+inline constexpr std::string_view kTablesSection = "TABLES";
+inline constexpr std::string_view kBlocksSection = "BLOCKS";
+inline constexpr std::string_view kEntitiesSection = "ENTITIES";
+inline constexpr std::string_view kObjectsSection = "OBJECTS";
+
+// Records of the symbol tables.
+inline constexpr std::string_view kLayerRecord = "LAYER";
+inline constexpr std::string_view kLinetypeRecord = "LTYPE";
+inline constexpr std::string_view kViewRecord = "VIEW";
+inline constexpr std::string_view kBlockRecord = "BLOCK_RECORD";
+inline constexpr std::string_view kDimensionStyleRecord = "DIMSTYLE";
+
+// Objects.
+inline constexpr std::string_view kDictionary = "DICTIONARY";
+inline constexpr std::string_view kDictionaryWithDefault = "ACDBDICTIONARYWDFLT";
+inline constexpr std::string_view kXrecord = "XRECORD";
+inline constexpr std::string_view kXrecordMarker = "AcDbXrecord";
+inline constexpr std::string_view kProxyObject = "ACAD_PROXY_OBJECT";
+inline constexpr std::string_view kProxyEntity = "ACAD_PROXY_ENTITY";
+
+// Keys of the root dictionary.
+inline constexpr std::wstring_view kGroupKey = L"ACAD_GROUP";
+inline constexpr std::wstring_view kMlineStyleKey = L"ACAD_MLINESTYLE";
+inline constexpr std::wstring_view kLayoutKey = L"ACAD_LAYOUT";
+inline constexpr std::wstring_view kPlotSettingsKey = L"ACAD_PLOTSETTINGS";
+inline constexpr std::wstring_view kSummaryKey = L"DWGPROPS";
+
+// Header variables.
+inline constexpr std::string_view kVersionVariable = "$ACADVER";
+inline constexpr std::string_view kCodePageVariable = "$DWGCODEPAGE";
+inline constexpr std::string_view kTitleVariable = "$TITLE";
+inline constexpr std::string_view kSubjectVariable = "$SUBJECT";
+inline constexpr std::string_view kAuthorVariable = "$AUTHOR";
+inline constexpr std::string_view kKeywordsVariable = "$KEYWORDS";
+inline constexpr std::string_view kCommentsVariable = "$COMMENTS";
+inline constexpr std::string_view kLastSavedByVariable = "$LASTSAVEDBY";
+inline constexpr std::string_view kRevisionNumberVariable = "$REVISIONNUMBER";
+inline constexpr std::string_view kCustomNameVariable = "$CUSTOMPROPERTYTAG";
+inline constexpr std::string_view kCustomValueVariable = "$CUSTOMPROPERTY";
+inline constexpr std::string_view kMenuVariable = "$MENU";
+inline constexpr std::string_view kProjectNameVariable = "$PROJECTNAME";
+inline constexpr std::string_view kHyperlinkBaseVariable = "$HYPERLINKBASE";
+inline constexpr std::string_view kStyleSheetVariable = "$STYLESHEET";
+inline constexpr std::string_view kDimpostVariable = "$DIMPOST";
+inline constexpr std::string_view kDimapostVariable = "$DIMAPOST";
+inline constexpr std::string_view kDimblkVariable = "$DIMBLK";
+inline constexpr std::string_view kDimblk1Variable = "$DIMBLK1";
+inline constexpr std::string_view kDimblk2Variable = "$DIMBLK2";
+
+}  // namespace zdx::dxf

@@ -1,0 +1,81 @@
+#include "backends/database/file/MappedFile.h"
+
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <utility>
+
+#include "ZDXEngine/Utf8.h"
+
+namespace zdx::file {
+namespace {
+
+OpenFailure FailureOf(int error) {
+  switch (error) {
+    case ENOENT:
+    case ENOTDIR:
+    case ENAMETOOLONG:
+      return OpenFailure::kNotFound;
+    case EACCES:
+    case EPERM:
+      return OpenFailure::kNoAccess;
+    default:
+      return OpenFailure::kOther;
+  }
+}
+
+// Closes a descriptor at the end of its scope; a mapping outlives it.
+class Descriptor {
+ public:
+  explicit Descriptor(int number) : number_(number) {}
+  ~Descriptor() {
+    if (number_ >= 0) close(number_);
+  }
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  int number() const { return number_; }
+
+ private:
+  int number_;
+};
+
+}  // namespace
+
+std::variant<MappedFile, OpenFailure> MappedFile::Open(const std::wstring& path) {
+  const std::string name = ZDXEngine::BytesFromWide(path);
+  if (name.find('\0') != std::string::npos) return OpenFailure::kNotFound;
+  // Not blocking: opening a pipe that nobody writes to would wait for ever.
+  const Descriptor descriptor(open(name.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+  if (descriptor.number() < 0) return FailureOf(errno);
+  struct stat status = {};
+  if (fstat(descriptor.number(), &status) != 0) return FailureOf(errno);
+  if (!S_ISREG(status.st_mode)) return OpenFailure::kNotAFile;
+  MappedFile mapped;
+  mapped.size_ = static_cast<std::size_t>(status.st_size);
+  if (mapped.size_ == 0) return mapped;
+  void* const data = mmap(nullptr, mapped.size_, PROT_READ, MAP_PRIVATE, descriptor.number(), 0);
+  if (data == MAP_FAILED) {
+    mapped.size_ = 0;
+    return FailureOf(errno);
+  }
+  mapped.data_ = static_cast<const char*>(data);
+  return mapped;
+}
+
+MappedFile::~MappedFile() {
+  if (data_ != nullptr) munmap(const_cast<char*>(data_), size_);
+}
+
+MappedFile::MappedFile(MappedFile&& other) noexcept
+    : data_(std::exchange(other.data_, nullptr)), size_(std::exchange(other.size_, 0)) {}
+
+MappedFile& MappedFile::operator=(MappedFile&& other) noexcept {
+  std::swap(data_, other.data_);
+  std::swap(size_, other.size_);
+  return *this;
+}
+
+}  // namespace zdx::file

@@ -1,0 +1,35 @@
+// A file seen as bytes, without reading it.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <variant>
+
+namespace zdx::file {
+
+// Why a file can't be mapped; the first is told apart by callers.
+enum class OpenFailure { kNotFound, kNotAFile, kNoAccess, kOther };
+
+// The bytes of a file, mapped for reading and never changed.  An empty file has no bytes and is
+// mapped all the same.  Another program that shortens the file while it is mapped makes the lost
+// bytes unreadable for the process: drawings are written by replacing them, so this isn't handled.
+class MappedFile {
+ public:
+  // Maps the file at `path`, whose wide form is turned into a file name as Utf8.h tells.
+  static std::variant<MappedFile, OpenFailure> Open(const std::wstring& path);
+
+  MappedFile() = default;
+  ~MappedFile();
+  MappedFile(MappedFile&& other) noexcept;
+  MappedFile& operator=(MappedFile&& other) noexcept;
+
+  // Valid as long as the object.
+  std::string_view bytes() const { return {data_, size_}; }
+
+ private:
+  const char* data_ = nullptr;
+  std::size_t size_ = 0;
+};
+
+}  // namespace zdx::file

@@ -1,0 +1,104 @@
+// One drawing, whatever its format.
+//
+// This is all that the database's operations know of a drawing.  Each format fills it in its own
+// folder: values are decoded when they are asked for, and a value that can't be read costs only
+// itself and a warning in the drawing's report.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "backends/database/model/Version.h"
+
+namespace zdx::model {
+
+// The number of an object in its drawing; 0 for none.
+using Handle = std::uint64_t;
+
+// Where a format keeps an object; only the format's reader knows what the number means.
+enum class ObjectKey : std::uint64_t {};
+
+enum class TableKind { kBlock, kLayer, kLinetype, kView };
+
+// The standard dictionaries below the root.
+enum class DictionaryKind { kGroup, kMlineStyle, kLayout, kPlotSettings };
+
+enum class Setting {
+  kMenu,
+  kProjectName,
+  kHyperlinkBase,
+  kStyleSheet,
+  kDimpost,
+  kDimapost,
+  kDimblk,
+  kDimblk1,
+  kDimblk2,
+};
+
+struct DictionaryEntry {
+  std::wstring key;
+  Handle target = 0;
+};
+
+// What an object is.
+struct ObjectDescription {
+  enum class Kind { kObject, kDictionary, kProxy };
+  Kind kind = Kind::kObject;
+  // The name of the object's class; of the class it stands for if it is a proxy.
+  std::wstring className;
+};
+
+// The summary, as the drawing's version keeps it.  What the file leaves out is empty.
+struct Summary {
+  std::wstring title;
+  std::wstring subject;
+  std::wstring author;
+  std::wstring keywords;
+  std::wstring comments;
+  std::wstring lastSavedBy;
+  std::wstring revisionNumber;
+  // Names and values, in stored order.
+  std::vector<std::pair<std::wstring, std::wstring>> custom;
+};
+
+class Drawing {
+ public:
+  virtual ~Drawing() = default;
+
+  virtual Version version() const = 0;
+
+  // The records of a table in the drawing's order, the built-in ones first.  A drawing that lacks
+  // the table has an empty one.
+  virtual const std::vector<ObjectKey>& TableRecords(TableKind table) = 0;
+  // The name of such a record; nullopt if it can't be read.
+  virtual std::optional<std::wstring> RecordName(TableKind table, ObjectKey record) = 0;
+  // The comments of a line type.
+  virtual std::optional<std::wstring> LinetypeComments(ObjectKey record) = 0;
+
+  // The root dictionary; nullopt if the drawing has none.
+  virtual std::optional<ObjectKey> RootDictionary() = 0;
+  // The entries of a dictionary in stored order.
+  virtual std::vector<DictionaryEntry> DictionaryEntries(ObjectKey dictionary) = 0;
+  // The key under which a standard dictionary stands in the root.
+  virtual std::wstring DictionaryName(DictionaryKind kind) const = 0;
+
+  // The object of that handle; nullopt if the drawing has none.
+  virtual std::optional<ObjectKey> Find(Handle handle) = 0;
+  virtual ObjectDescription Describe(ObjectKey object) = 0;
+
+  // A text setting; nullopt if the drawing's version can't hold it.  An arrow's name is that of its
+  // block.
+  virtual std::optional<std::wstring> SettingText(Setting setting) = 0;
+  // nullopt if the drawing's version has no summary.
+  virtual std::optional<Summary> ReadSummary() = 0;
+
+ protected:
+  Drawing() = default;
+  Drawing(const Drawing&) = default;
+  Drawing& operator=(const Drawing&) = default;
+};
+
+}  // namespace zdx::model

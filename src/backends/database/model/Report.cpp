@@ -1,0 +1,28 @@
+#include "backends/database/model/Report.h"
+
+#include <utility>
+
+namespace zdx::model {
+namespace {
+
+std::shared_ptr<Report>& LastReport() {
+  static std::shared_ptr<Report> last;
+  return last;
+}
+
+}  // namespace
+
+void Report::Warn(Finding finding) {
+  ++warningCount;
+  if (KeepsMoreWarnings()) warnings.push_back(std::move(finding));
+}
+
+std::shared_ptr<Report> Report::Begin(std::wstring path) {
+  LastReport() = std::make_shared<Report>();
+  LastReport()->path = std::move(path);
+  return LastReport();
+}
+
+Report Report::Last() { return LastReport() == nullptr ? Report() : *LastReport(); }
+
+}  // namespace zdx::model

@@ -1,0 +1,93 @@
+#include "backends/database/zndb/EmbeddedDatabase.h"
+
+#include <utility>
+#include <variant>
+
+#include "backends/database/dxf/DxfDrawing.h"
+#include "backends/database/dxf/Recognition.h"
+#include "backends/database/file/MappedFile.h"
+#include "backends/database/zndb/Objects.h"
+
+namespace zdx::database {
+namespace {
+
+struct FailureRow {
+  Zent::ErrorStatus status;
+  const wchar_t* reason;
+};
+
+FailureRow RowOf(file::OpenFailure failure) {
+  switch (failure) {
+    case file::OpenFailure::kNotFound:
+      return {Zent::kFileNotFound, L"There is no such file."};
+    case file::OpenFailure::kNotAFile:
+      return {Zent::kFileAccess, L"This isn't a file."};
+    case file::OpenFailure::kNoAccess:
+      return {Zent::kFileAccess, L"The file may not be read."};
+    default:
+      return {Zent::kFileAccess, L"The system can't open the file."};
+  }
+}
+
+}  // namespace
+
+Zent::ErrorStatus EmbeddedDatabase::Fail(Zent::ErrorStatus status, std::wstring reason) {
+  report_->errors.push_back({std::move(reason), {}, {}, {}});
+  return status;
+}
+
+Zent::ErrorStatus EmbeddedDatabase::readDwgFile(const wchar_t* path, int /*openMode*/,
+                                                bool /*allowCodePageConversion*/,
+                                                const wchar_t* /*password*/) {
+  path_ = path;
+  report_ = model::Report::Begin(path_);
+  const auto opened = file::MappedFile::Open(path_);
+  if (const auto* failure = std::get_if<file::OpenFailure>(&opened)) {
+    return Fail(RowOf(*failure).status, RowOf(*failure).reason);
+  }
+  return Fail(Zent::kNotADrawing, L"This version reads DXF drawings alone.");
+}
+
+Zent::ErrorStatus EmbeddedDatabase::dxfIn(const wchar_t* path, const wchar_t* /*logPath*/) {
+  path_ = path;
+  report_ = model::Report::Begin(path_);
+  auto opened = file::MappedFile::Open(path_);
+  if (const auto* failure = std::get_if<file::OpenFailure>(&opened)) {
+    return Fail(RowOf(*failure).status, RowOf(*failure).reason);
+  }
+  auto& mapped = std::get<file::MappedFile>(opened);
+  dxf::Recognition recognition = dxf::Recognise(mapped.bytes());
+  if (!recognition.form) return Fail(Zent::kNotADrawing, std::move(recognition.reason));
+  drawing_ = std::make_unique<dxf::DxfDrawing>(std::move(mapped), *recognition.form, report_);
+  KeepTexts();
+  return Zent::kOk;
+}
+
+// These two are handed out by pointer.
+void EmbeddedDatabase::KeepTexts() {
+  dimpost_ = drawing_->SettingText(model::Setting::kDimpost).value_or(L"");
+  dimapost_ = drawing_->SettingText(model::Setting::kDimapost).value_or(L"");
+}
+
+Zent::ErrorStatus EmbeddedDatabase::saveAs(const wchar_t* /*path*/, bool /*backUp*/,
+                                           int /*version*/, const SecurityParams* /*security*/) {
+  return Zent::kNotApplicable;
+}
+
+Zent::ErrorStatus EmbeddedDatabase::dxfOut(const wchar_t* /*path*/, int /*decimalPlaces*/,
+                                           int /*version*/, bool /*thumbnail*/) {
+  return Zent::kNotApplicable;
+}
+
+int EmbeddedDatabase::lastSavedAsVersion() const { return 0; }
+
+int EmbeddedDatabase::originalFileVersion() const {
+  return drawing_ == nullptr ? 0 : drawing_->version();
+}
+
+Zent::ErrorStatus EmbeddedDatabase::getFilename(const wchar_t*& name) const {
+  name = path_.c_str();
+  return path_.empty() ? Zent::kNotApplicable : Zent::kOk;
+}
+
+}  // namespace zdx::database

@@ -1,0 +1,90 @@
+// What stands behind a ZnDbDatabase: a drawing that was read, and the objects handed out from it.
+#pragma once
+
+#include <deque>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <unordered_map>
+
+#include "backends/database/model/Drawing.h"
+#include "backends/database/model/Report.h"
+#include "backends/database/zndb/Stub.h"
+#include "platform/zndb/Provider.h"
+
+namespace zdx::database {
+
+class EmbeddedDatabase : public ::zndb::DatabaseBody {
+ public:
+  // The drawing that was read; null before, and after a reading that failed.
+  model::Drawing* drawing() const { return drawing_.get(); }
+
+  // The ids of a table's record and of the object with a handle, which need not exist.
+  ZnDbObjectId RecordId(model::TableKind table, model::ObjectKey record);
+  ZnDbObjectId HandleId(model::Handle handle);
+  // The object that `stub` stands for; null if there is none.
+  ZnDbObject* Open(ZnDbStub& stub);
+
+  Zent::ErrorStatus readDwgFile(const wchar_t* path, int openMode, bool allowCodePageConversion,
+                                const wchar_t* password) override;
+  Zent::ErrorStatus dxfIn(const wchar_t* path, const wchar_t* logPath) override;
+  Zent::ErrorStatus saveAs(const wchar_t* path, bool backUp, int version,
+                           const SecurityParams* security) override;
+  Zent::ErrorStatus dxfOut(const wchar_t* path, int decimalPlaces, int version,
+                           bool thumbnail) override;
+  int lastSavedAsVersion() const override;
+  int originalFileVersion() const override;
+  Zent::ErrorStatus getFilename(const wchar_t*& name) const override;
+
+  Zent::ErrorStatus getSymbolTable(ZnDbBlockTable*& table, int mode) override;
+  Zent::ErrorStatus getSymbolTable(ZnDbLayerTable*& table, int mode) override;
+  Zent::ErrorStatus getSymbolTable(ZnDbLinetypeTable*& table, int mode) override;
+  Zent::ErrorStatus getSymbolTable(ZnDbViewTable*& table, int mode) override;
+
+  ZnDbObjectId namedObjectsDictionaryId() const override;
+  Zent::ErrorStatus getGroupDictionary(ZnDbDictionary*& dictionary, int mode) override;
+  Zent::ErrorStatus getMLStyleDictionary(ZnDbDictionary*& dictionary, int mode) override;
+  Zent::ErrorStatus getLayoutDictionary(ZnDbDictionary*& dictionary, int mode) override;
+  Zent::ErrorStatus getNamedObjectsDictionary(ZnDbDictionary*& dictionary, int mode) override;
+  Zent::ErrorStatus getPlotSettingsDictionary(ZnDbDictionary*& dictionary, int mode) override;
+
+  Zent::ErrorStatus getMenu(ZnString& text) const override;
+  Zent::ErrorStatus getProjectName(ZnString& text) const override;
+  Zent::ErrorStatus getHyperlinkBase(ZnString& text) const override;
+  Zent::ErrorStatus getStyleSheet(ZnString& text) const override;
+  Zent::ErrorStatus getDimblk(ZnString& text) const override;
+  Zent::ErrorStatus getDimblk1(ZnString& text) const override;
+  Zent::ErrorStatus getDimblk2(ZnString& text) const override;
+  const wchar_t* dimpost() const override;
+  const wchar_t* dimapost() const override;
+
+ private:
+  template <class Table>
+  Zent::ErrorStatus OpenTable(Table*& table, model::TableKind kind);
+  std::unique_ptr<ZnDbObject> MakeRecord(ZnDbStub& stub) const;
+  std::unique_ptr<ZnDbObject> MakeObject(ZnDbStub& stub);
+  ZnRxClass* ClassNamed(const std::wstring& name);
+  Zent::ErrorStatus OpenDictionary(ZnDbObjectId id, ZnDbDictionary*& dictionary);
+  Zent::ErrorStatus OpenStandardDictionary(model::DictionaryKind kind, ZnDbDictionary*& dictionary);
+  Zent::ErrorStatus Fail(Zent::ErrorStatus status, std::wstring reason);
+  void KeepTexts();
+  Zent::ErrorStatus GiveSetting(model::Setting setting, ZnString& text) const;
+
+  std::wstring path_;
+  std::shared_ptr<model::Report> report_;
+  std::unique_ptr<model::Drawing> drawing_;
+  std::wstring dimpost_;
+  std::wstring dimapost_;
+
+  // Stubs stay where they are: ids point at them.
+  mutable std::deque<ZnDbStub> stubs_;
+  std::unordered_map<std::uint64_t, ZnDbStub*> recordStubs_;
+  std::unordered_map<model::Handle, ZnDbStub*> handleStubs_;
+  std::map<model::TableKind, ZnDbStub*> tableStubs_;
+  mutable ZnDbStub* rootStub_ = nullptr;
+  // The classes of objects that have no operations of their own here.
+  std::map<std::wstring, std::unique_ptr<ZnRxClass>> classes_;
+};
+
+}  // namespace zdx::database

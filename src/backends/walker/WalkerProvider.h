@@ -1,0 +1,16 @@
+// The dependency-walking library's own implementation.
+#pragma once
+
+#include "platform/econvey/ZnDwgDepends.h"
+
+namespace zdx {
+
+// Starting and stopping succeed and do nothing: the walker is compiled in and keeps no state for
+// the process.
+class WalkerProvider : public ZnDwgDepends::Provider {
+ public:
+  bool initializeEconveyEngine() override;
+  bool unInitializeEconveyEngine() override;
+};
+
+}  // namespace zdx

@@ -1,0 +1,42 @@
+#include "host/ZDXHostApplication.h"
+
+#include "platform/os/Os.h"
+
+namespace ZDXEngine {
+
+ZDXHostApplication::ZDXHostApplication(const HostApplicationParam& param)
+    : ZnDbHostApplicationServices(1), param_(param) {
+  os::OutputDebugStringW(L"ZDXHostApplication");
+  os::CoInitialize(nullptr);
+}
+
+ZDXHostApplication::~ZDXHostApplication() {
+  os::OutputDebugStringW(L"~ZDXHostApplication");
+  os::CoUninitialize();
+}
+
+void* ZDXHostApplication::workingServiceObject() const { return storedServiceObject_; }
+
+const wchar_t* ZDXHostApplication::getHostIdentityPrimary() const {
+  return param_.hostIdentityPrimary.c_str();
+}
+
+const wchar_t* ZDXHostApplication::getHostIdentitySecondary() const {
+  return param_.hostIdentitySecondary.c_str();
+}
+
+bool ZDXHostApplication::substituteFontRequest(ZnFontRequest* request) {
+  return getSubstituteFont(request);
+}
+
+bool ZDXHostApplication::acceptHostQuery(void* /*query*/) { return true; }
+
+void ZDXHostApplication::UpdateParam(const HostApplicationParam& param) {
+  if (&param == &param_) return;
+  param_.enableSupportFileSearch = param.enableSupportFileSearch;
+  param_.supportSearchPath = param.supportSearchPath;
+  param_.hostIdentityPrimary = param.hostIdentityPrimary;
+  param_.hostIdentitySecondary = param.hostIdentitySecondary;
+}
+
+}  // namespace ZDXEngine

@@ -1,0 +1,34 @@
+#include "library/Defaults.h"
+
+#include "backends/common/CommonProvider.h"
+#include "backends/database/zndb/DatabaseProvider.h"
+#include "backends/posix/ModuleStrings.h"
+#include "backends/posix/PosixProvider.h"
+#include "backends/walker/WalkerProvider.h"
+#include "platform/common/CommonUtils.h"
+#include "platform/econvey/ZnDwgDepends.h"
+#include "platform/os/Os.h"
+#include "platform/zndb/Provider.h"
+
+namespace ZDXEngine {
+namespace {
+
+// A provider made once and never destroyed: objects destroyed at exit still call it.
+template <class Provider, class... Arguments>
+Provider* Lasting(Arguments... arguments) {
+  static Provider* const provider = new Provider(arguments...);
+  return provider;
+}
+
+ZnDwgDepends::Provider* BindWalker() { return Lasting<zdx::WalkerProvider>(); }
+
+}  // namespace
+
+void InstallDefaultProviders() {
+  os::InstallProvider(Lasting<zdx::PosixProvider>());
+  Common::InstallProvider(Lasting<zdx::CommonProvider>(zdx::LoadModuleString));
+  zndb::InstallProvider(zdx::database::EmbeddedProvider());
+  ZnDwgDepends::InstallBinder(BindWalker);
+}
+
+}  // namespace ZDXEngine

@@ -1,0 +1,48 @@
+// The operating system's operations that the engine calls, with Windows' names and meanings.
+#pragma once
+
+#include "ZDXEngine/Automation.h"
+
+namespace os {
+
+// A loaded module; null for none.
+using ModuleHandle = void*;
+
+// Makes `variant` empty without looking at what it held.
+void VariantInit(VARIANT* variant);
+// Clears `target` and makes it a copy of `source`, which keeps its value: texts and arrays are
+// duplicated.  S_OK, or a failure that leaves `target` empty: E_OUTOFMEMORY, DISP_E_BADVARTYPE.
+HRESULT VariantCopy(VARIANT* target, const VARIANT* source);
+// Releases what `variant` holds and makes it empty.
+HRESULT VariantClear(VARIANT* variant);
+// A new text with the characters of `text` up to its terminator; null if `text` is null or memory
+// ran out, which the caller tells apart by its argument.  VariantClear releases it.
+BSTR SysAllocString(const wchar_t* text);
+// Starts COM on this thread; `reserved` is null.
+HRESULT CoInitialize(void* reserved);
+// Stops COM on this thread.
+void CoUninitialize();
+// Sends `text` to whoever watches the debug output, if anyone does.
+void OutputDebugStringW(const wchar_t* text);
+// Gives back one reference to `module`.  Nonzero on success.
+int FreeLibrary(ModuleHandle module);
+
+// What stands behind the operations above; each virtual operation is the one of the same name.
+class Provider {
+ public:
+  virtual ~Provider() = default;
+  virtual void VariantInit(VARIANT* variant) = 0;
+  virtual HRESULT VariantCopy(VARIANT* target, const VARIANT* source) = 0;
+  virtual HRESULT VariantClear(VARIANT* variant) = 0;
+  virtual BSTR SysAllocString(const wchar_t* text) = 0;
+  virtual HRESULT CoInitialize(void* reserved) = 0;
+  virtual void CoUninitialize() = 0;
+  virtual void OutputDebugStringW(const wchar_t* text) = 0;
+  virtual int FreeLibrary(ModuleHandle module) = 0;
+};
+
+// Makes `provider`, which must live until the process ends, answer from now on.  Returns the one
+// before it, or null.
+Provider* InstallProvider(Provider* provider);
+
+}  // namespace os

@@ -1,0 +1,64 @@
+// The object that the library asks about its host, and the library's setup.
+#pragma once
+
+#include "platform/zndb/Status.h"
+#include "platform/zndb/ZnRx.h"
+
+class ZnDbDatabase;
+
+// A locale by its Windows identifier.
+class ZnLocale {
+ public:
+  explicit ZnLocale(int id) : id_(id) {}
+  int id() const { return id_; }
+
+ private:
+  int id_;
+};
+
+// Which font the library looks for, and where the answer goes.  The engine passes it on unread.
+struct ZnFontRequest;
+
+// The base of every host services object.  The operations that a host doesn't override are the
+// library's own.
+class ZnDbHostApplicationServices : public ZnRxObject {
+ public:
+  explicit ZnDbHostApplicationServices(int loadTranslations);
+  ~ZnDbHostApplicationServices() override;
+  ZnDbHostApplicationServices(const ZnDbHostApplicationServices&) = delete;
+  ZnDbHostApplicationServices& operator=(const ZnDbHostApplicationServices&) = delete;
+
+  ZnRxClass* isA() const override;
+
+  // An object of the library's that the base class keeps; the engine neither sets nor reads it.
+  virtual void* workingServiceObject() const = 0;
+  // The product code: 4 where the library runs inside a host of this engine's kind.
+  virtual int prodcode() const;
+  // Who the host says it is.  Valid until the host's parameters change; never null.
+  virtual const wchar_t* getHostIdentityPrimary() const = 0;
+  virtual const wchar_t* getHostIdentitySecondary() const = 0;
+  // Asked when a font is missing.
+  virtual bool substituteFontRequest(ZnFontRequest* request) = 0;
+  // The library's own answer to the same question: true if it found a substitute.
+  virtual bool getSubstituteFont(ZnFontRequest* request);
+  // Whether the host answers a question of the library's.
+  virtual bool acceptHostQuery(void* query) = 0;
+
+  // The working database of the process; null if there is none.
+  ZnDbDatabase* workingDatabase() const;
+  // Makes `database`, which may be null, the working one.
+  void setWorkingDatabase(ZnDbDatabase* database);
+
+ protected:
+  // What the base class keeps for workingServiceObject.
+  void* storedServiceObject_ = nullptr;
+};
+
+// The installed services object; null before any was installed.
+ZnDbHostApplicationServices* zndbHostApplicationServices();
+// Installs `services`, which the caller keeps.
+Zent::ErrorStatus zndbSetHostApplicationServices(ZnDbHostApplicationServices* services);
+// The library's own check of its setup.
+Zent::ErrorStatus zndbValidateSetup(const ZnLocale& locale);
+// Gives back what the library holds for the process.
+void zndbCleanUp();

@@ -1,0 +1,31 @@
+#include "properties/ReadSteps.h"
+
+#include "properties/read/DatabaseProperties.h"
+#include "properties/read/DrawingFlavour.h"
+#include "properties/read/NamedObjects.h"
+#include "properties/read/SummaryProperties.h"
+
+namespace ZDXEngine {
+namespace {
+
+// A step that needs nothing but the database.
+template <void (*collect)(std::vector<_PropData>&, ZnDbDatabase*)>
+void FromDatabase(std::vector<_PropData>& properties, const ReadRequest& request) {
+  collect(properties, request.database);
+}
+
+// No step depends on an earlier one, but clients rely on the order of the records.
+constexpr ReadStep kSteps[] = {
+    {FilePropertyMgr::SummaryInfo, FromDatabase<CollectSummaryProperties>},
+    {FilePropertyMgr::CustomSummary, FromDatabase<CollectCustomSummaryProperties>},
+    {FilePropertyMgr::DrawingFlavour, FromDatabase<CollectDrawingFlavour>},
+    {FilePropertyMgr::DatabaseSettings, FromDatabase<CollectDatabaseProperties>},
+    {FilePropertyMgr::NamedObjects, FromDatabase<ListDictionaries>},
+    {FilePropertyMgr::SymbolTables, FromDatabase<ListSymbolTables>},
+};
+
+}  // namespace
+
+std::span<const ReadStep> ReadSteps() { return kSteps; }
+
+}  // namespace ZDXEngine
