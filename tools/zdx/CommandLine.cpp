@@ -1,0 +1,111 @@
+#include "CommandLine.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <string_view>
+#include <vector>
+
+#include "ReadableText.h"
+#include "ZDXEngine/Utf8.h"
+
+namespace zdx {
+
+namespace {
+
+constexpr const char* kExitCodes =
+    "Exit codes: 0 all files were read, 2 a file failed (the others were told), 64 wrong usage,\n"
+    "74 the output couldn't be written.";
+
+// The parser reads "[a,b]", "{}", "++" and an empty argument in ways of its own, but any of them
+// may be a file's name.  No argument of a process can hold this character, and before such a name
+// it makes the parser leave it alone.
+constexpr char kMark = '\0';
+
+std::string Marked(std::string_view argument) {
+  const bool special =
+      argument.empty() || std::string_view("[{+%").find(argument[0]) != std::string_view::npos;
+  return special ? kMark + std::string(argument) : std::string(argument);
+}
+
+std::string Unmarked(std::string argument) {
+  if (!argument.empty() && argument[0] == kMark) argument.erase(0, 1);
+  return argument;
+}
+
+// The parser takes them from the back.
+std::vector<std::string> ReversedArguments(int count, const char* const* arguments) {
+  std::vector<std::string> reversed;
+  for (int i = count - 1; i > 0; --i) reversed.push_back(Marked(arguments[i]));
+  return reversed;
+}
+
+std::string CheckSelection(const std::string& list) {
+  std::string unknown;
+  if (ParseSelection(Unmarked(list), unknown)) return {};
+  return "'" + unknown + "' isn't one of " + SelectionNames();
+}
+
+// The words of the command line, before they are understood.
+struct Words {
+  std::string format = "text";
+  std::string selection = "all";
+  std::vector<std::string> files;
+};
+
+void AddInfo(CLI::App& app, Words& words) {
+  CLI::App* const info = app.add_subcommand("info", "Tells the properties of drawings.");
+  info->add_option("-o,--output", words.format, "text for people, json for programs; default text")
+      ->check(CLI::IsMember({"text", "json"}))
+      ->type_name("FORMAT");
+  info->add_option("--select", words.selection,
+                   "what to tell: names of the list below, separated by commas; default all")
+      ->check(CheckSelection)
+      ->type_name("LIST");
+  info->add_option("FILE", words.files, "drawings; names that begin with '-' go after --")
+      ->required()
+      ->type_name("");
+  info->footer("LIST: " + SelectionNames() + "\n\n" + kExitCodes);
+}
+
+InfoOptions Understood(const Words& words) {
+  InfoOptions options;
+  options.format = words.format == "json" ? OutputFormat::kJson : OutputFormat::kText;
+  std::string unknown;
+  options.selection = ParseSelection(words.selection, unknown).value_or(options.selection);
+  std::transform(words.files.begin(), words.files.end(), std::back_inserter(options.files),
+                 Unmarked);
+  return options;
+}
+
+// The parser's sentence may quote any bytes of the command line.
+WrongUsage Refusal(const CLI::ParseError& error) {
+  std::string quoted = error.what();
+  std::erase(quoted, kMark);
+  return {"zdx: " + ReadableText(ZDXEngine::WideFromUtf8(quoted)) +
+          "\nRun 'zdx --help' or 'zdx info --help' to see what can be asked for.\n"};
+}
+
+}  // namespace
+
+Request ParseCommandLine(int count, const char* const* arguments) {
+  CLI::App app("Tells what CAD drawings say about themselves.", "zdx");
+  app.set_version_flag("--version", "zdx " ZDX_VERSION);
+  // Not more than one, or a file with a command's name would count as a second command.
+  app.require_subcommand(0, 1);
+  app.footer("Run 'zdx info --help' for the options of info.");
+  Words words;
+  AddInfo(app, words);
+  try {
+    app.parse(ReversedArguments(count, arguments));
+  } catch (const CLI::CallForHelp&) {
+    return PrintAndLeave{app.help()};
+  } catch (const CLI::CallForVersion& version) {
+    return PrintAndLeave{std::string(version.what()) + "\n"};
+  } catch (const CLI::ParseError& error) {
+    return Refusal(error);
+  }
+  if (app.get_subcommands().empty()) return WrongUsage{app.help()};
+  return Understood(words);
+}
+
+}  // namespace zdx

@@ -1,0 +1,27 @@
+// What the command line asks for.
+#pragma once
+
+#include <string>
+#include <variant>
+
+#include "InfoCommand.h"
+
+namespace zdx {
+
+// Text that was asked for: help or the version.
+struct PrintAndLeave {
+  std::string text;
+};
+
+// A command line that can't be followed.
+struct WrongUsage {
+  // Whole lines for standard error.
+  std::string text;
+};
+
+using Request = std::variant<InfoOptions, PrintAndLeave, WrongUsage>;
+
+// Reads the arguments of main.
+Request ParseCommandLine(int count, const char* const* arguments);
+
+}  // namespace zdx

@@ -1,0 +1,15 @@
+// What the process tells the shell.
+#pragma once
+
+namespace zdx {
+
+inline constexpr int kAllFilesRead = 0;
+// At least one file failed; the others were told.
+inline constexpr int kFileFailed = 2;
+inline constexpr int kWrongUsage = 64;
+// A fault of the tool itself.
+inline constexpr int kInternalFault = 70;
+// Standard output couldn't be written; files that weren't told yet were left out.
+inline constexpr int kOutputFailed = 74;
+
+}  // namespace zdx

@@ -1,0 +1,100 @@
+#include "JsonOutput.h"
+
+#include <nlohmann/json.hpp>
+#include <utility>
+
+#include "Base64.h"
+#include "Messages.h"
+#include "PropertyNames.h"
+#include "PropertyValue.h"
+#include "ZDXEngine/Utf8.h"
+
+namespace zdx {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+using ZDXEngine::Utf8FromWide;
+
+constexpr const char* kSchema = "zdx/1";
+
+struct MakeValue {
+  Json operator()(std::monostate) const { return nullptr; }
+  Json operator()(bool flag) const { return flag; }
+  Json operator()(double number) const { return number; }
+  Json operator()(std::wstring_view text) const { return Utf8FromWide(text); }
+  Json operator()(std::span<const std::uint8_t> bytes) const { return Base64(bytes); }
+};
+
+// Filled in place: a braced list would be copied, and a drawing may have thousands of properties.
+Json PropertyJson(const ZDXEngine::_PropData& property) {
+  Json object = Json::object();
+  auto& members = object.get_ref<Json::object_t&>();
+  members.reserve(4);
+  members.emplace("formatId", Utf8FromWide(property.formatId));
+  members.emplace("name", Utf8FromWide(property.name));
+  members.emplace("typeCode", property.typeCode);
+  members.emplace("value", std::visit(MakeValue{}, ValueOf(property)));
+  return object;
+}
+
+Json PropertiesJson(const DrawingReport& report) {
+  Json list = Json::array();
+  for (const ZDXEngine::_PropData& property : report.properties) {
+    if (!report.drawingTypeSelected && IsDrawingType(property)) continue;
+    list.push_back(PropertyJson(property));
+  }
+  return list;
+}
+
+void AddPlace(Json& object, const ZDXEngine::DiagnosticPlace& place) {
+  if (place.line) object["line"] = *place.line;
+  if (place.offset) object["offset"] = *place.offset;
+  if (place.handle) object["handle"] = HandleText(*place.handle);
+}
+
+Json WarningsJson(const ZDXEngine::Diagnostics& diagnostics) {
+  Json list = Json::array();
+  for (const ZDXEngine::DiagnosticMessage& warning : diagnostics.warnings) {
+    Json entry = {{"message", Utf8FromWide(warning.text)}};
+    AddPlace(entry, warning.place);
+    list.push_back(std::move(entry));
+  }
+  return list;
+}
+
+Json ErrorJson(const Failure& failure) {
+  Json error = {{"class", failure.className}, {"code", nullptr}, {"message", failure.message}};
+  if (failure.code) error["code"] = *failure.code;
+  Json place;
+  AddPlace(place, failure.place);
+  error["place"] = std::move(place);
+  if (!failure.reason.empty()) error["reason"] = failure.reason;
+  return error;
+}
+
+Json Document(const std::wstring& path, const char* status) {
+  return {{"schema", kSchema}, {"file", Utf8FromWide(path)}, {"status", status}};
+}
+
+std::string Line(const Json& document) { return document.dump() + "\n"; }
+
+}  // namespace
+
+std::string JsonOf(const std::wstring& path, const DrawingReport& report) {
+  Json document = Document(path, "ok");
+  document["drawingType"] = Utf8FromWide(report.drawingType);
+  document["properties"] = PropertiesJson(report);
+  document["warnings"] = WarningsJson(report.diagnostics);
+  const std::uint64_t leftOut = WarningsLeftOut(report.diagnostics);
+  if (leftOut > 0) document["warningsLeftOut"] = leftOut;
+  return Line(document);
+}
+
+std::string JsonOf(const std::wstring& path, const Failure& failure) {
+  Json document = Document(path, "error");
+  document["error"] = ErrorJson(failure);
+  return Line(document);
+}
+
+}  // namespace zdx

@@ -1,0 +1,137 @@
+#include "TextOutput.h"
+
+#include <array>
+#include <charconv>
+#include <vector>
+
+#include "PropertyNames.h"
+#include "PropertyValue.h"
+#include "ReadableText.h"
+#include "TextGroups.h"
+#include "TextTable.h"
+
+namespace zdx {
+
+namespace {
+
+using ZDXEngine::_PropData;
+
+// Turns a value into the lines that show it.
+struct ShowValue {
+  using Lines = std::vector<std::string>;
+
+  Lines operator()(std::monostate) const { return {"(none)"}; }
+  Lines operator()(bool flag) const { return {flag ? "yes" : "no"}; }
+  Lines operator()(double number) const {
+    std::array<char, 32> digits = {};
+    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
+    return {std::string(digits.data(), end)};
+  }
+  Lines operator()(std::wstring_view text) const {
+    return text.empty() ? Lines{"(empty)"} : ReadableLines(text);
+  }
+  Lines operator()(std::span<const std::uint8_t> bytes) const {
+    std::string size = "(";
+    return {size.append(std::to_string(bytes.size())).append(" bytes)")};
+  }
+};
+
+std::vector<std::string> Shown(const _PropData& property) {
+  return std::visit(ShowValue{}, ValueOf(property));
+}
+
+bool IsEmptyText(const _PropData& property) {
+  const PropertyValue value = ValueOf(property);
+  const auto* const text = std::get_if<std::wstring_view>(&value);
+  return text != nullptr && text->empty();
+}
+
+std::wstring LabelOf(const _PropData& property) {
+  switch (SetOf(property)) {
+    case PropertySet::kSummary:
+      return SummaryName(property.name);
+    case PropertySet::kCustom:
+    case PropertySet::kStorage:
+      return property.name;
+    case PropertySet::kUnknown:
+      break;
+  }
+  return property.formatId + L" " + property.name;
+}
+
+std::string OnOneLine(const _PropData& property) {
+  const PropertyValue value = ValueOf(property);
+  const auto* const text = std::get_if<std::wstring_view>(&value);
+  if (text != nullptr && !text->empty()) return ReadableText(*text);
+  return Shown(property).front();
+}
+
+// One group as it grows.
+struct Rows {
+  std::vector<TextRow> rows;
+  // The last row has its first column only, and its second may follow.
+  bool awaitsSecond = false;
+};
+
+void AddToPairs(Rows& group, const _PropData& property) {
+  if (!IsSecondOfPair(property)) {
+    group.rows.push_back({OnOneLine(property), {}});
+    group.awaitsSecond = true;
+    return;
+  }
+  if (!group.awaitsSecond) group.rows.push_back({"(no name)", {}});
+  // Most line types have no comment, and "(empty)" behind each would only be noise.
+  if (!IsEmptyText(property)) group.rows.back().lines = Shown(property);
+  group.awaitsSecond = false;
+}
+
+void AddRow(Rows& group, GroupLayout layout, const _PropData& property) {
+  switch (layout) {
+    case GroupLayout::kFields:
+      group.rows.push_back({ReadableText(LabelOf(property)), Shown(property)});
+      break;
+    case GroupLayout::kList:
+      group.rows.push_back({OnOneLine(property), {}});
+      break;
+    case GroupLayout::kPairs:
+      AddToPairs(group, property);
+      break;
+  }
+}
+
+// "Zent drawing, DXF (text), AC1032, code page ANSI_1252", as far as it is known.
+std::string HeadLine(const DrawingReport& report) {
+  const ZDXEngine::Diagnostics& found = report.diagnostics;
+  const std::string type = ReadableText(report.drawingType);
+  std::string line = type.empty() ? "Drawing" : type + " drawing";
+  if (!found.format.empty()) line += ", " + ReadableText(found.format);
+  if (!found.version.empty()) line += ", " + ReadableText(found.version);
+  if (!found.codePage.empty()) line += ", code page " + ReadableText(found.codePage);
+  return line;
+}
+
+}  // namespace
+
+std::string TextOf(const std::wstring& path, const DrawingReport& report) {
+  const std::span<const TextGroup> groups = TextGroups();
+  std::vector<Rows> filled(groups.size());
+  for (const _PropData& property : report.properties) {
+    // The head line tells it.
+    if (IsDrawingType(property)) continue;
+    const std::size_t at = GroupOf(property);
+    AddRow(filled[at], groups[at].layout, property);
+  }
+
+  std::string text = ReadableText(path) + "\n  " + HeadLine(report) + "\n";
+  for (std::size_t i = 0; i < groups.size(); ++i) {
+    const std::vector<TextRow>& rows = filled[i].rows;
+    if (rows.empty()) continue;
+    std::string title(groups[i].title);
+    if (groups[i].layout != GroupLayout::kFields) title += " (" + std::to_string(rows.size()) + ")";
+    text.push_back('\n');
+    AppendTable(text, title, rows);
+  }
+  return text;
+}
+
+}  // namespace zdx

@@ -1,0 +1,34 @@
+// The command-line tool: it only translates between a person or a program and the engine.
+#include <cstdio>
+#include <exception>
+
+#include "CommandLine.h"
+#include "ExitCode.h"
+#include "InfoCommand.h"
+#include "Messages.h"
+#include "StandardStreams.h"
+
+namespace {
+
+struct Follow {
+  int operator()(const zdx::InfoOptions& options) const { return zdx::RunInfo(options); }
+  int operator()(const zdx::PrintAndLeave& print) const {
+    return zdx::WriteOutput(print.text) ? zdx::kAllFilesRead : zdx::kOutputFailed;
+  }
+  int operator()(const zdx::WrongUsage& refusal) const {
+    std::fputs(refusal.text.c_str(), stderr);
+    return zdx::kWrongUsage;
+  }
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  zdx::PrepareStandardStreams();
+  try {
+    return std::visit(Follow{}, zdx::ParseCommandLine(argc, argv));
+  } catch (const std::exception& error) {
+    zdx::Complain(error.what());
+    return zdx::kInternalFault;
+  }
+}
