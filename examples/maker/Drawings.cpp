@@ -1,0 +1,12 @@
+#include "maker/Drawings.h"
+
+namespace examples {
+
+std::vector<ExampleDrawing> AllDrawings() {
+  return {{"site-plan.dxf", SitePlan()},
+          {"grading.dxf", Grading()},
+          {"survey-r2000.dxf", Survey()},
+          {"legacy-r12.dxf", LegacyPlan()}};
+}
+
+}  // namespace examples

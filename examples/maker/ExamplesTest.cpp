@@ -1,0 +1,34 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "maker/Drawings.h"
+#include "maker/Photo.h"
+#include "support/dxf/DxfMaker.h"
+
+namespace examples {
+namespace {
+
+std::filesystem::path Folder() { return std::filesystem::path(ZDX_SOURCE_DIR) / "examples"; }
+
+std::string Contents(const std::filesystem::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+TEST(Examples, TheFilesOfTheFolderAreWhatTheMakerMakes) {
+  for (const ExampleDrawing& drawing : AllDrawings()) {
+    // Not EXPECT_EQ: the files would fill the screen.
+    EXPECT_TRUE(Contents(Folder() / drawing.fileName) == dxf::Make(drawing.spec))
+        << drawing.fileName << " differs; run make_examples";
+  }
+}
+
+TEST(Examples, ThePictureOfTheSitePlanIsThere) {
+  EXPECT_TRUE(std::filesystem::exists(Folder() / kPhotoName));
+}
+
+}  // namespace
+}  // namespace examples

@@ -1,0 +1,90 @@
+#include <gmock/gmock.h>
+
+#include "cli/CliTest.h"
+#include "cli/SmallDrawing.h"
+
+namespace zdx_test {
+
+namespace {
+
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::MatchesRegex;
+using ::testing::Not;
+
+constexpr int kWrongUsage = 64;
+
+class Usage : public CliTest {
+ protected:
+  void ExpectRefused(const std::vector<std::string>& arguments, const std::string& word) const {
+    const Outcome outcome = Zdx(arguments);
+    EXPECT_EQ(outcome.exitCode, kWrongUsage);
+    EXPECT_THAT(outcome.out, IsEmpty());
+    EXPECT_THAT(outcome.err, HasSubstr(word));
+  }
+};
+
+TEST_F(Usage, TheVersionIsTold) {
+  const Outcome outcome = Zdx({"--version"});
+  EXPECT_EQ(outcome.exitCode, 0);
+  EXPECT_THAT(outcome.out, MatchesRegex("zdx [0-9]+\\.[0-9]+\\.[0-9]+\n"));
+  EXPECT_THAT(outcome.err, IsEmpty());
+}
+
+TEST_F(Usage, HelpNamesTheCommands) {
+  const Outcome outcome = Zdx({"--help"});
+  EXPECT_EQ(outcome.exitCode, 0);
+  EXPECT_THAT(outcome.out, HasSubstr("info"));
+  EXPECT_THAT(outcome.err, IsEmpty());
+}
+
+TEST_F(Usage, HelpOfInfoNamesItsOptionsAndSelections) {
+  const Outcome outcome = Zdx({"info", "--help"});
+  EXPECT_EQ(outcome.exitCode, 0);
+  for (const char* const word :
+       {"--output", "--select", "FILE", "summary", "custom", "thumbnail", "creator", "flavour",
+        "settings", "geo", "dictionaries", "tables", "blocks", "Exit codes"}) {
+    EXPECT_THAT(outcome.out, HasSubstr(word));
+  }
+}
+
+TEST_F(Usage, NoCommandGetsHelpOnStandardError) { ExpectRefused({}, "Usage: zdx"); }
+
+TEST_F(Usage, AnUnknownCommandIsRefused) { ExpectRefused({"inform"}, "inform"); }
+
+TEST_F(Usage, AnUnknownOptionIsRefused) { ExpectRefused({"info", "--loud", "a.dxf"}, "--loud"); }
+
+TEST_F(Usage, InfoWithoutAFileIsRefused) { ExpectRefused({"info"}, "FILE"); }
+
+TEST_F(Usage, AnUnknownOutputFormatIsRefused) {
+  ExpectRefused({"info", "-o", "xml", "a.dxf"}, "json");
+}
+
+TEST_F(Usage, AnUnknownSelectionIsRefusedWithTheNamesThatAreKnown) {
+  ExpectRefused({"info", "--select", "summary,colours", "a.dxf"}, "'colours'");
+  ExpectRefused({"info", "--select", "summary,colours", "a.dxf"}, "summary, custom, thumbnail");
+}
+
+TEST_F(Usage, AnEmptyNameInASelectionIsRefused) {
+  ExpectRefused({"info", "--select", "summary,", "a.dxf"}, "''");
+  ExpectRefused({"info", "--select", "", "a.dxf"}, "''");
+}
+
+TEST_F(Usage, AnOptionGivenTwiceIsRefused) {
+  ExpectRefused({"info", "--select", "summary", "--select", "custom", "a.dxf"}, "--select");
+}
+
+TEST_F(Usage, EscapeSequencesOfTheCommandLineDoNotReachTheTerminal) {
+  const Outcome outcome = Zdx({"info", "--\033[31mred", "a.dxf"});
+  EXPECT_EQ(outcome.exitCode, kWrongUsage);
+  EXPECT_THAT(outcome.err, Not(HasSubstr("\033")));
+}
+
+TEST_F(Usage, WrongUsageReadsNoFile) {
+  Write("plan.dxf", DxfText());
+  ExpectRefused({"info", "plan.dxf", "--loud"}, "--loud");
+}
+
+}  // namespace
+
+}  // namespace zdx_test

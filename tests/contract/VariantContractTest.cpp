@@ -1,0 +1,262 @@
+// What every provider of the operating system's operations does with variants and texts.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <cstring>
+#include <memory>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "backends/posix/PosixProvider.h"
+#include "support/scripted/System.h"
+
+namespace {
+
+// The stand-in with what it writes into, which must end up even.
+class ScriptedSystem : public scripted::System {
+ public:
+  ScriptedSystem() : System(log_, ledger_) {}
+  ~ScriptedSystem() override { EXPECT_THAT(ledger_.Leftovers(), testing::IsEmpty()); }
+
+ private:
+  scripted::CallLog log_;
+  scripted::Ledger ledger_;
+};
+
+struct Subject {
+  const char* name;
+  std::unique_ptr<os::Provider> (*make)();
+};
+
+// How a failing test names its subject.
+void PrintTo(const Subject& subject, std::ostream* out) { *out << subject.name; }
+
+const Subject kSubjects[] = {
+    {"Posix",
+     []() -> std::unique_ptr<os::Provider> { return std::make_unique<zdx::PosixProvider>(); }},
+    {"Scripted",
+     []() -> std::unique_ptr<os::Provider> { return std::make_unique<ScriptedSystem>(); }},
+};
+
+std::uint32_t LengthPrefixOf(const wchar_t* text) {
+  std::uint32_t length = 0;
+  std::memcpy(&length, reinterpret_cast<const char*>(text) - sizeof length, sizeof length);
+  return length;
+}
+
+// A text that may hold terminators, laid out as an automation string is; lives as long as this.
+class RawText {
+ public:
+  explicit RawText(const std::wstring& characters) : block_(kPrefixUnits + characters.size() + 1) {
+    const auto length = static_cast<std::uint32_t>(characters.size() * sizeof(wchar_t));
+    std::memcpy(reinterpret_cast<char*>(Text()) - sizeof length, &length, sizeof length);
+    std::memcpy(Text(), characters.data(), length);
+  }
+  wchar_t* Text() { return block_.data() + kPrefixUnits; }
+
+ private:
+  static constexpr std::size_t kPrefixUnits = 8 / sizeof(wchar_t);
+  std::vector<wchar_t> block_;
+};
+
+VARIANT Text(wchar_t* text) {
+  VARIANT variant{};
+  variant.vt = VT_BSTR;
+  variant.bstrVal = text;
+  return variant;
+}
+
+VARIANT Bytes(SAFEARRAY* array) {
+  VARIANT variant{};
+  variant.vt = VT_ARRAY | VT_UI1;
+  variant.parray = array;
+  return variant;
+}
+
+class Variants : public testing::TestWithParam<Subject> {
+ protected:
+  std::unique_ptr<os::Provider> os = GetParam().make();
+};
+
+TEST_P(Variants, InitMakesEmptyWithoutLookingAtWhatWasThere) {
+  VARIANT variant;
+  std::memset(static_cast<void*>(&variant), 0xFF, sizeof variant);
+  os->VariantInit(&variant);
+  EXPECT_EQ(variant.vt, VT_EMPTY);
+}
+
+TEST_P(Variants, ANewTextHasItsLengthInBytesBeforeIt) {
+  VARIANT variant = Text(os->SysAllocString(L"Walls"));
+  EXPECT_EQ(LengthPrefixOf(variant.bstrVal), 5 * sizeof(wchar_t));
+  os->VariantClear(&variant);
+}
+
+TEST_P(Variants, ANewTextIsATerminatedCopy) {
+  const std::wstring original = L"Walls";
+  VARIANT variant = Text(os->SysAllocString(original.c_str()));
+  EXPECT_NE(variant.bstrVal, original.c_str());
+  EXPECT_EQ(std::wstring(variant.bstrVal), original);
+  os->VariantClear(&variant);
+}
+
+TEST_P(Variants, ANewTextOfAnEmptyTextIsEmptyAndNotNull) {
+  VARIANT variant = Text(os->SysAllocString(L""));
+  ASSERT_NE(variant.bstrVal, nullptr);
+  EXPECT_EQ(LengthPrefixOf(variant.bstrVal), 0u);
+  EXPECT_EQ(variant.bstrVal[0], L'\0');
+  os->VariantClear(&variant);
+}
+
+TEST_P(Variants, ANewTextOfNullIsNull) { EXPECT_EQ(os->SysAllocString(nullptr), nullptr); }
+
+TEST_P(Variants, ClearingATextMakesEmpty) {
+  VARIANT variant = Text(os->SysAllocString(L"Walls"));
+  EXPECT_EQ(os->VariantClear(&variant), S_OK);
+  EXPECT_EQ(variant.vt, VT_EMPTY);
+}
+
+TEST_P(Variants, ClearingANullTextMakesEmpty) {
+  VARIANT variant = Text(nullptr);
+  EXPECT_EQ(os->VariantClear(&variant), S_OK);
+  EXPECT_EQ(variant.vt, VT_EMPTY);
+}
+
+TEST_P(Variants, ClearingANumberOrAFlagMakesEmpty) {
+  for (const VARTYPE type : {VT_R8, VT_BOOL}) {
+    VARIANT variant{};
+    variant.vt = type;
+    EXPECT_EQ(os->VariantClear(&variant), S_OK) << type;
+    EXPECT_EQ(variant.vt, VT_EMPTY) << type;
+  }
+}
+
+TEST_P(Variants, ClearingTwiceIsFine) {
+  VARIANT variant = Text(os->SysAllocString(L"Walls"));
+  os->VariantClear(&variant);
+  EXPECT_EQ(os->VariantClear(&variant), S_OK);
+  EXPECT_EQ(variant.vt, VT_EMPTY);
+}
+
+TEST_P(Variants, ACopiedTextIsEqualAndItsOwn) {
+  VARIANT source = Text(os->SysAllocString(L"Walls"));
+  VARIANT target{};
+  EXPECT_EQ(os->VariantCopy(&target, &source), S_OK);
+  EXPECT_EQ(target.vt, VT_BSTR);
+  EXPECT_NE(target.bstrVal, source.bstrVal);
+  EXPECT_EQ(std::wstring(target.bstrVal), L"Walls");
+  os->VariantClear(&source);
+  EXPECT_EQ(std::wstring(target.bstrVal), L"Walls");
+  os->VariantClear(&target);
+}
+
+TEST_P(Variants, TheSourceOfACopyKeepsItsValue) {
+  VARIANT source = Text(os->SysAllocString(L"Walls"));
+  VARIANT target{};
+  os->VariantCopy(&target, &source);
+  EXPECT_EQ(source.vt, VT_BSTR);
+  EXPECT_EQ(std::wstring(source.bstrVal), L"Walls");
+  os->VariantClear(&source);
+  os->VariantClear(&target);
+}
+
+TEST_P(Variants, ACopiedTextKeepsWhatStandsBehindATerminator) {
+  const std::wstring characters(L"a\0b\0", 4);
+  RawText raw(characters);
+  VARIANT source = Text(raw.Text());
+  VARIANT target{};
+  ASSERT_EQ(os->VariantCopy(&target, &source), S_OK);
+  ASSERT_EQ(LengthPrefixOf(target.bstrVal), 4 * sizeof(wchar_t));
+  EXPECT_EQ(std::wstring(target.bstrVal, 4), characters);
+  EXPECT_EQ(target.bstrVal[4], L'\0');
+  os->VariantClear(&target);
+}
+
+TEST_P(Variants, ACopiedNullTextIsANullText) {
+  VARIANT source = Text(nullptr);
+  VARIANT target{};
+  EXPECT_EQ(os->VariantCopy(&target, &source), S_OK);
+  EXPECT_EQ(target.vt, VT_BSTR);
+  EXPECT_EQ(target.bstrVal, nullptr);
+}
+
+TEST_P(Variants, ACopiedEmptyTextIsEmptyAndNotNull) {
+  VARIANT source = Text(os->SysAllocString(L""));
+  VARIANT target{};
+  EXPECT_EQ(os->VariantCopy(&target, &source), S_OK);
+  ASSERT_NE(target.bstrVal, nullptr);
+  EXPECT_EQ(LengthPrefixOf(target.bstrVal), 0u);
+  os->VariantClear(&source);
+  os->VariantClear(&target);
+}
+
+TEST_P(Variants, ACopyReleasesWhatTheTargetHeld) {
+  VARIANT source{};
+  source.vt = VT_R8;
+  source.dblVal = 1.5;
+  VARIANT target = Text(os->SysAllocString(L"Walls"));
+  EXPECT_EQ(os->VariantCopy(&target, &source), S_OK);
+  EXPECT_EQ(target.vt, VT_R8);
+  EXPECT_EQ(target.dblVal, 1.5);
+}
+
+TEST_P(Variants, AFlagIsCopied) {
+  VARIANT source{};
+  source.vt = VT_BOOL;
+  source.boolVal = VARIANT_TRUE;
+  VARIANT target{};
+  EXPECT_EQ(os->VariantCopy(&target, &source), S_OK);
+  EXPECT_EQ(target.vt, VT_BOOL);
+  EXPECT_EQ(target.boolVal, VARIANT_TRUE);
+}
+
+TEST_P(Variants, CopyingFromEmptyMakesEmpty) {
+  const VARIANT source{};
+  VARIANT target = Text(os->SysAllocString(L"Walls"));
+  EXPECT_EQ(os->VariantCopy(&target, &source), S_OK);
+  EXPECT_EQ(target.vt, VT_EMPTY);
+}
+
+TEST_P(Variants, CopiedBytesAreEqualAndTheirOwn) {
+  std::uint8_t bytes[] = {1, 0, 255};
+  SAFEARRAY array{1, 0, 1, 0, bytes, {{3, 0}}};
+  const VARIANT source = Bytes(&array);
+  VARIANT target{};
+  ASSERT_EQ(os->VariantCopy(&target, &source), S_OK);
+  ASSERT_EQ(target.vt, VT_ARRAY | VT_UI1);
+  ASSERT_NE(target.parray, source.parray);
+  ASSERT_NE(target.parray->pvData, source.parray->pvData);
+  EXPECT_EQ(target.parray->cDims, 1);
+  EXPECT_EQ(target.parray->cbElements, 1u);
+  ASSERT_EQ(target.parray->rgsabound[0].cElements, 3u);
+  EXPECT_EQ(std::memcmp(target.parray->pvData, bytes, 3), 0);
+  EXPECT_EQ(os->VariantClear(&target), S_OK);
+  EXPECT_EQ(target.vt, VT_EMPTY);
+}
+
+TEST_P(Variants, NoBytesAreCopiedAsNoBytes) {
+  SAFEARRAY array{1, 0, 1, 0, nullptr, {{0, 0}}};
+  const VARIANT source = Bytes(&array);
+  VARIANT target{};
+  ASSERT_EQ(os->VariantCopy(&target, &source), S_OK);
+  EXPECT_EQ(target.parray->rgsabound[0].cElements, 0u);
+  os->VariantClear(&target);
+}
+
+TEST_P(Variants, ATypeThatIsNotKnownIsRefusedAndLeavesTheTargetEmpty) {
+  constexpr VARTYPE kDispatch = 9;
+  for (const VARTYPE type : {kDispatch, static_cast<VARTYPE>(VT_ARRAY | VT_BSTR)}) {
+    VARIANT source{};
+    source.vt = type;
+    VARIANT target = Text(os->SysAllocString(L"Walls"));
+    EXPECT_EQ(os->VariantCopy(&target, &source), DISP_E_BADVARTYPE) << type;
+    EXPECT_EQ(target.vt, VT_EMPTY) << type;
+    os->VariantClear(&target);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, Variants, testing::ValuesIn(kSubjects),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+}  // namespace

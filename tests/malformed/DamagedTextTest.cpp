@@ -1,0 +1,216 @@
+// Damaged text files: what is unreadable costs only itself, and the warning tells the line.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "malformed/Damage.h"
+#include "support/PublicRead.h"
+
+namespace {
+
+using damage::Replaced;
+using damage::SoundText;
+using damage::Without;
+using testing::Contains;
+using testing::ElementsAre;
+using testing::Not;
+using zdx_test::kSummary;
+using zdx_test::ReadBytes;
+using zdx_test::Reading;
+
+// The number of the line that begins with the first `text`.
+std::uint64_t LineOf(const std::string& bytes, const std::string& text) {
+  const auto end = bytes.begin() + static_cast<std::ptrdiff_t>(bytes.find(text));
+  return static_cast<std::uint64_t>(std::count(bytes.begin(), end, '\n')) + 1;
+}
+
+void ExpectWarningAt(const Reading& reading, std::uint64_t line) {
+  std::vector<std::uint64_t> lines;
+  for (const auto& warning : reading.diagnostics.warnings) {
+    if (warning.place.line) lines.push_back(*warning.place.line);
+  }
+  EXPECT_THAT(lines, Contains(line));
+}
+
+TEST(DamagedText, WithoutItsEndMarkOpensInFull) {
+  const Reading reading = ReadBytes(Without(SoundText(), "  0\nEOF\n"));
+  EXPECT_THAT(reading.Texts(L"Layer Name"), ElementsAre("0", "First", "Second", "Third"));
+  EXPECT_THAT(reading.Texts(L"Group Name"), ElementsAre("Pair"));
+}
+
+TEST(DamagedText, WithoutTheLastLineEndOpensInFull) {
+  std::string text = SoundText();
+  text.pop_back();
+  EXPECT_THAT(ReadBytes(text).Texts(L"Group Name"), ElementsAre("Pair"));
+}
+
+TEST(DamagedText, ASectionWithoutItsEndIsReadAndToldOf) {
+  const std::string text = Replaced(SoundText(), "ENDTAB\n  0\nENDSEC\n", "ENDTAB\n");
+  const Reading reading = ReadBytes(text);
+  EXPECT_THAT(reading.Texts(L"Layer Name"), ElementsAre("0", "First", "Second", "Third"));
+  EXPECT_THAT(reading.Texts(L"Group Name"), ElementsAre("Pair"));
+  EXPECT_GE(reading.diagnostics.warningCount, 1u);
+}
+
+TEST(DamagedText, ATableWithoutItsEndIsRead) {
+  EXPECT_THAT(ReadBytes(Without(SoundText(), "  0\nENDTAB\n")).Texts(L"Layer Name"),
+              ElementsAre("0", "First", "Second", "Third"));
+}
+
+TEST(DamagedText, WrongCountsAreNotBelieved) {
+  std::string text = SoundText();
+  for (std::size_t at = 0; (at = text.find("\n 70\n", at)) != std::string::npos;) {
+    const std::size_t value = at + 5;
+    text.replace(value, text.find('\n', value) - value, "9999999");
+    at = value;
+  }
+  EXPECT_THAT(ReadBytes(text).Texts(L"Layer Name"), ElementsAre("0", "First", "Second", "Third"));
+}
+
+TEST(DamagedText, ABlankLineBetweenTagsIsPassedOver) {
+  const Reading reading = ReadBytes(Replaced(SoundText(), "  2\nSecond\n", "\n  2\nSecond\n"));
+  EXPECT_THAT(reading.Texts(L"Layer Name"), ElementsAre("0", "First", "Second", "Third"));
+}
+
+TEST(DamagedText, ALostCodeLineCostsItsRecordAlone) {
+  const std::string text = Replaced(SoundText(), "  2\nSecond\n", "Second\n");
+  const Reading reading = ReadBytes(text);
+  EXPECT_THAT(reading.Texts(L"Layer Name"), ElementsAre("0", "First", "Third"));
+  EXPECT_GE(reading.diagnostics.warningCount, 1u);
+}
+
+TEST(DamagedText, DamageInTheHeaderCostsItsVariableAlone) {
+  const std::string text = Replaced(SoundText(), "  9\n$TITLE\n  1\n", "  9\n$TITLE\nrubbish\n");
+  const Reading reading = ReadBytes(text);
+  EXPECT_THAT(reading.Texts(kSummary, L"2"), ElementsAre(""));
+  EXPECT_THAT(reading.Texts(L"Menu"), ElementsAre("."));
+  EXPECT_THAT(reading.Custom(), ElementsAre(testing::Pair("Key", "Value")));
+  ExpectWarningAt(reading, LineOf(text, "rubbish"));
+}
+
+TEST(DamagedText, DamageInTheRootDictionaryCostsTheEntriesBehindIt) {
+  const std::string text = Replaced(SoundText(), "  3\nMY_DATA\n350\n", "rubbish\n");
+  const Reading reading = ReadBytes(text);
+  EXPECT_THAT(reading.Texts(L"Named Object Name"), Contains("ACAD_GROUP"));
+  EXPECT_THAT(reading.Texts(L"Group Name"), ElementsAre("Pair"));
+  ExpectWarningAt(reading, LineOf(text, "rubbish"));
+}
+
+TEST(DamagedText, UnknownGroupCodesAreNoDamage) {
+  const Reading reading =
+      ReadBytes(Replaced(SoundText(), "  2\nSecond\n", "-17\na\n  88\nb\n65000\nc\n  2\nSecond\n"));
+  EXPECT_THAT(reading.Texts(L"Layer Name"), ElementsAre("0", "First", "Second", "Third"));
+  EXPECT_EQ(reading.diagnostics.warningCount, 0u);
+}
+
+TEST(DamagedText, RepeatedHandlesLoseNothing) {
+  std::string text = SoundText();
+  for (std::size_t at = text.find("OBJECTS"); (at = text.find("\n  5\n", at)) != std::string::npos;
+       ++at) {
+    text.replace(at, text.find('\n', at + 5) - at, "\n  5\nC");
+  }
+  const Reading reading = ReadBytes(text);
+  EXPECT_THAT(reading.Texts(L"Named Object Name"), Contains("MY_DATA"));
+  EXPECT_THAT(reading.Texts(L"Layer Name"), ElementsAre("0", "First", "Second", "Third"));
+}
+
+TEST(DamagedText, ZeroHandlesLoseOnlyWhatIsNamedByThem) {
+  std::string text = SoundText();
+  for (std::size_t at = 0; (at = text.find("\n  5\n", at)) != std::string::npos; ++at) {
+    text.replace(at, text.find('\n', at + 5) - at, "\n  5\n0");
+  }
+  const Reading reading = ReadBytes(text);
+  EXPECT_THAT(reading.Texts(L"Named Object Name"), Contains("ACAD_GROUP"));
+  EXPECT_THAT(reading.Texts(L"Group Name"), ElementsAre());
+  EXPECT_THAT(reading.Texts(L"Layer Name"), ElementsAre("0", "First", "Second", "Third"));
+}
+
+TEST(DamagedText, ADictionaryThatHoldsItselfEnds) {
+  // The group dictionary's entry leads to the root dictionary.
+  const std::string text = SoundText();
+  const std::size_t root = text.find("  0\nDICTIONARY\n  5\n") + 19;
+  const std::string handle = text.substr(root, text.find('\n', root) - root);
+  const std::size_t entry = text.find("  3\nACAD_GROUP\n350\n") + 19;
+  std::string circle = text;
+  circle.replace(entry, text.find('\n', entry) - entry, handle);
+  EXPECT_THAT(ReadBytes(circle).Texts(L"Group Name"), Contains("ACAD_GROUP"));
+}
+
+TEST(DamagedText, ADictionaryEntryThatLeadsToALineIsNoDictionary) {
+  dxf::DrawingSpec spec = damage::Sound();
+  spec.rootEntries.push_back({"Root", dxf::ObjectAt("FFFFFF")});
+  const Reading reading = ReadBytes(dxf::Make(spec));
+  EXPECT_THAT(reading.Texts(L"DWG Type"), ElementsAre("Zent"));
+  EXPECT_THAT(reading.Texts(L"Named Object Name"), Contains("Root"));
+}
+
+TEST(DamagedText, ANulInATextIsLeftOutAndToldOf) {
+  const std::string text =
+      Replaced(SoundText(), "  2\nSecond\n", std::string("  2\nSec\0ond\n", 12));
+  const Reading reading = ReadBytes(text);
+  EXPECT_THAT(reading.Texts(L"Layer Name"), Contains("Second"));
+  ExpectWarningAt(reading, LineOf(text, std::string("  2\nSec\0ond\n", 12)));
+}
+
+TEST(DamagedText, TextOfAnotherEncodingIsReadAndToldOf) {
+  const std::string text = Replaced(SoundText(), "  2\nSecond\n", "  2\nCaf\xE9\n");
+  const Reading reading = ReadBytes(text);
+  EXPECT_THAT(reading.Texts(L"Layer Name"), Contains("Café"));
+  ExpectWarningAt(reading, LineOf(text, "  2\nCaf\xE9\n"));
+}
+
+TEST(DamagedText, MixedLineEndsAreRead) {
+  std::string text = SoundText();
+  int line = 0;
+  for (std::size_t at = 0; (at = text.find('\n', at)) != std::string::npos; ++line) {
+    const std::string end = line % 3 == 0 ? "\r\n" : line % 3 == 1 ? "\r" : "\n";
+    text.replace(at, 1, end);
+    at += end.size();
+  }
+  // An empty value between a lone return and a line feed can't be told from CR LF.
+  EXPECT_THAT(ReadBytes(text).Texts(L"Layer Name"), ElementsAre("0", "First", "Second", "Third"));
+}
+
+TEST(DamagedText, AnUnknownVersionIsReadAsTheOldestAndToldOf) {
+  const Reading reading = ReadBytes(Replaced(SoundText(), "AC1032", "XYZ"));
+  EXPECT_THAT(reading.Texts(L"Layer Name"), ElementsAre("0", "First", "Second", "Third"));
+  EXPECT_GE(reading.diagnostics.warningCount, 1u);
+}
+
+TEST(DamagedText, ANewerVersionIsReadAndToldOf) {
+  const Reading reading = ReadBytes(Replaced(SoundText(), "AC1032", "AC1050"));
+  EXPECT_THAT(reading.Texts(kSummary, L"2"), ElementsAre("Sound"));
+  EXPECT_GE(reading.diagnostics.warningCount, 1u);
+}
+
+TEST(DamagedText, AnUnknownCodePageIsWesternAndToldOf) {
+  const Reading reading = ReadBytes(Replaced(SoundText("AC1015"), "ANSI_1252", "ANSI_0815"));
+  EXPECT_THAT(reading.Texts(L"Layer Name"), Contains("Second"));
+  EXPECT_GE(reading.diagnostics.warningCount, 1u);
+}
+
+TEST(DamagedText, OfEndlessWarningsAHundredAreKeptAndAllCounted) {
+  std::string text = SoundText();
+  std::string layers;
+  for (int i = 0; i < 500; ++i) layers += "  0\nLAYER\n  5\n0\n 70\n0\n";
+  const Reading reading = ReadBytes(Replaced(text, "  0\nENDTAB\n", layers + "  0\nENDTAB\n"));
+  EXPECT_EQ(reading.diagnostics.warnings.size(), 100u);
+  EXPECT_GE(reading.diagnostics.warningCount, 500u);
+}
+
+TEST(DamagedText, NothingButItsEndIsAnEmptyDrawing) {
+  const Reading reading = ReadBytes("  0\nEOF\n");
+  EXPECT_THAT(reading.Texts(L"DWG Type"), ElementsAre("Zent"));
+  EXPECT_THAT(reading.Texts(L"Layer Name"), ElementsAre());
+}
+
+TEST(DamagedText, WithoutAHeaderItIsOfTheOldestVersion) {
+  const Reading reading = ReadBytes(
+      "  0\nSECTION\n  2\nTABLES\n  0\nTABLE\n  2\nLAYER\n 70\n1\n  0\nLAYER\n  2\nWALLS\n"
+      "  0\nENDTAB\n  0\nENDSEC\n  0\nEOF\n");
+  EXPECT_THAT(reading.Texts(L"Layer Name"), ElementsAre("WALLS"));
+  EXPECT_THAT(reading.Texts(kSummary, L"2"), ElementsAre());
+}
+
+}  // namespace

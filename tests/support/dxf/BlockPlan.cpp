@@ -1,0 +1,96 @@
+#include "support/dxf/Drawing.h"
+
+namespace dxf {
+namespace {
+
+constexpr int kHasDefinitions = 2;
+constexpr int kIsXref = 4;
+constexpr int kIsOverlay = 8;
+constexpr int kIsResolved = 32;
+
+struct SpaceNames {
+  const char* model;
+  const char* paper;
+};
+
+SpaceNames NamesOfSpaces(Version version) {
+  if (!HasObjects(version)) return {"$MODEL_SPACE", "$PAPER_SPACE"};
+  if (!HasLayouts(version)) return {"*MODEL_SPACE", "*PAPER_SPACE"};
+  return {"*Model_Space", "*Paper_Space"};
+}
+
+void GiveHandles(PlannedBlock& block, Handles& handles, const std::string& chosen = {}) {
+  block.recordHandle = handles.Or(chosen);
+  block.beginHandle = handles.Next();
+  block.endHandle = handles.Next();
+}
+
+PlannedBlock Space(std::string name, const std::vector<EntitySpec>& entities, Version version,
+                   Handles& handles) {
+  PlannedBlock block;
+  block.name = std::move(name);
+  block.entities = &entities;
+  GiveHandles(block, handles);
+  if (HasLayouts(version)) block.layoutHandle = handles.Next();
+  return block;
+}
+
+int FlagsOf(const BlockSpec& block) {
+  int flags = block.flags;
+  for (const AttributeSpec& definition : block.definitions) {
+    if ((definition.flags & kConstant) == 0) flags |= kHasDefinitions;
+  }
+  if (block.xref != Xref::None) flags |= kIsXref | kIsResolved;
+  if (block.xref == Xref::Overlaid) flags |= kIsOverlay;
+  return flags;
+}
+
+PlannedBlock Planned(const BlockSpec& spec, Handles& handles) {
+  PlannedBlock block;
+  block.name = spec.name;
+  block.flags = FlagsOf(spec);
+  block.path = spec.path;
+  block.description = spec.description;
+  block.definitions = &spec.definitions;
+  block.entities = &spec.entities;
+  block.extension = &spec.extension;
+  block.extendedData = &spec.extendedData;
+  GiveHandles(block, handles, spec.handle);
+  return block;
+}
+
+// The first layout's paper is the active one; the others are numbered from 0.
+std::string PaperName(const char* name, std::size_t layout) {
+  return layout == 0 ? name : name + std::to_string(layout - 1);
+}
+
+}  // namespace
+
+BlockSpec XrefBlock(std::string name, std::string path, Xref xref) {
+  BlockSpec block;
+  block.name = std::move(name);
+  block.path = std::move(path);
+  block.xref = xref;
+  return block;
+}
+
+std::vector<PlannedBlock> PlanBlocks(const DrawingSpec& spec, Version version, Handles& handles) {
+  static const std::vector<EntitySpec> kNone;
+  const SpaceNames names = NamesOfSpaces(version);
+  std::vector<PlannedBlock> blocks;
+  blocks.push_back(Space(names.model, spec.entities, version, handles));
+  blocks.back().extension = &spec.modelExtension;
+  blocks.back().isActiveSpace = true;
+
+  const std::size_t papers = HasLayouts(version) ? spec.layouts.size() : 1;
+  for (std::size_t i = 0; i < papers; ++i) {
+    const auto& entities = i < spec.layouts.size() ? spec.layouts[i].entities : kNone;
+    blocks.push_back(Space(PaperName(names.paper, i), entities, version, handles));
+    blocks.back().isPaper = true;
+    blocks.back().isActiveSpace = i == 0;
+  }
+  for (const BlockSpec& block : spec.blocks) blocks.push_back(Planned(block, handles));
+  return blocks;
+}
+
+}  // namespace dxf

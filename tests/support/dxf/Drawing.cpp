@@ -1,0 +1,40 @@
+#include "support/dxf/Drawing.h"
+
+#include "support/dxf/Tokens.h"
+
+namespace dxf {
+
+Drawing::Drawing(const DrawingSpec& drawingSpec, TagWriter& writer)
+    : spec(drawingSpec), version(writer.TargetVersion()), out(writer), handles(drawingSpec) {
+  blocks = PlanBlocks(spec, version, handles);
+  classes = ClassesOf(spec, version);
+  imageDictionary = handles.Next();
+  for (std::size_t i = 0; i < spec.images.size(); ++i) imageDefinitions.push_back(handles.Next());
+  plotStyle = handles.Next();
+}
+
+void Drawing::PutHandle(const std::string& handle, int code) {
+  if (HasObjects(version)) out.Put({code, handle});
+}
+
+void Drawing::PutEntityHandle(const std::string& handle) {
+  if (HasObjects(version) || spec.hasHandles) out.Put({5, handle});
+}
+
+void Drawing::PutOwner(const std::string& owner) {
+  if (HasObjects(version) && spec.statesOwners) out.Put({330, owner});
+}
+
+void Drawing::PutExtension(const std::vector<NamedObject>& entries, const std::string& host) {
+  if (entries.empty() || !HasObjects(version)) return;
+  PendingObject dictionary{Dictionary(entries), handles.Next(), host, false};
+  dictionary.object.ownsEntries = true;
+  out.Put({{102, kExtensionGroup}, {360, dictionary.handle}, {102, kGroupEnd}});
+  pending.push_back(std::move(dictionary));
+}
+
+void Drawing::BeginSection(const char* name) { out.Put({{0, "SECTION"}, {2, name}}); }
+
+void Drawing::EndSection() { out.Put({0, "ENDSEC"}); }
+
+}  // namespace dxf

@@ -1,0 +1,37 @@
+// Runs a piece of a test in a process of its own, to the end of its exit handlers.
+//
+// What the engine keeps for the life of a process can't be started anew in this one, and what it
+// does at exit can't be seen from inside.
+#pragma once
+
+#include <functional>
+#include <initializer_list>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "support/scripted/World.h"
+
+namespace scripted {
+
+// What came back from the process.
+struct Afterlife {
+  // 0 if the body returned and the process then ended cleanly; kBodyThrew if it threw.
+  int exitCode = -1;
+  // The calls, those of the exit handlers included.
+  std::vector<Call> log;
+
+  std::vector<std::string> Calls() const { return Texts(log); }
+  std::vector<std::string> Calls(std::initializer_list<std::string_view> operations) const {
+    return Texts(log, operations);
+  }
+};
+
+inline constexpr int kBodyThrew = 70;
+
+// Forks, runs `body` in the child in a world that is never torn down, and leaves by std::exit, so
+// that the exit handlers run.  `body` tells what it finds by World::Note: an expectation that fails
+// in the child wouldn't reach the parent.
+Afterlife InFreshProcess(const std::function<void(World& world)>& body);
+
+}  // namespace scripted

@@ -1,0 +1,66 @@
+// The drawing-database library of a scripted world.
+#pragma once
+
+#include <map>
+#include <memory>
+#include <string>
+
+#include "platform/zndb/Provider.h"
+#include "support/scripted/OpenObjects.h"
+
+namespace scripted {
+
+class Library : public zndb::Provider {
+ public:
+  Library(CallLog& calls, Ledger& ledger);
+  ~Library() override;
+
+  // What every database of this library holds.
+  Drawing drawing;
+  // What the services object answers.
+  int productCode = 4;
+  bool hasSubstituteFont = true;
+  ZnDbHostApplicationServices* services = nullptr;
+  ZnDbDatabase* working = nullptr;
+  // The last request that came to getSubstituteFont.
+  ZnFontRequest* fontRequest = nullptr;
+
+  ZnRxDictionary* znrxSysRegistry() override;
+
+  ZnDbHostApplicationServices* zndbHostApplicationServices() override;
+  Zent::ErrorStatus zndbSetHostApplicationServices(ZnDbHostApplicationServices* host) override;
+  Zent::ErrorStatus zndbValidateSetup(const ZnLocale& locale) override;
+  void zndbCleanUp() override;
+
+  void constructServices(ZnDbHostApplicationServices* host, int loadTranslations) override;
+  void destroyServices(ZnDbHostApplicationServices* host) override;
+  int prodcode(const ZnDbHostApplicationServices* host) override;
+  bool getSubstituteFont(ZnDbHostApplicationServices* host, ZnFontRequest* request) override;
+  ZnDbDatabase* workingDatabase(const ZnDbHostApplicationServices* host) override;
+  void setWorkingDatabase(ZnDbHostApplicationServices* host, ZnDbDatabase* database) override;
+
+  std::unique_ptr<zndb::DatabaseBody> createDatabase(ZnDbDatabase* database, bool buildDefault,
+                                                     bool noDocument) override;
+  Zent::ErrorStatus zndbOpenObject(ZnDbObject*& object, ZnDbObjectId id, const ZnRxClass* expected,
+                                   int mode, bool openErased) override;
+  Zent::ErrorStatus zndbGetSummaryInfo(ZnDbDatabase* database,
+                                       ZnDbDatabaseSummaryInfo*& info) override;
+
+  void* znHeapAlloc(void* heap, std::size_t size) override;
+  void znHeapFree(void* heap, void* block) override;
+  Zent::ErrorStatus znutNewString(const wchar_t* source, wchar_t*& buffer) override;
+  void znutDelBuffer(wchar_t*& buffer) override;
+
+ private:
+  // "database 1" for the first that was made, "null" for none.
+  std::string NameOf(const ZnDbDatabase* database) const;
+
+  CallLog& calls_;
+  Ledger& ledger_;
+  OpenObjects objects_;
+  std::unique_ptr<ZnRxDictionary> registry_;
+  std::map<const ZnDbDatabase*, std::string> names_;
+  int databases_ = 0;
+};
+
+}  // namespace scripted

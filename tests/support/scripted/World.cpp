@@ -1,0 +1,72 @@
+#include "support/scripted/World.h"
+
+#include <algorithm>
+
+#include "support/scripted/ForeignServices.h"
+
+namespace scripted {
+namespace {
+
+World* current = nullptr;
+
+}  // namespace
+
+World::World()
+    : library(log_, ledger_),
+      utilities(log_),
+      system(log_, ledger_),
+      walker(log_),
+      previousLibrary_(zndb::InstallProvider(&library)),
+      previousUtilities_(Common::InstallProvider(&utilities)),
+      previousSystem_(os::InstallProvider(&system)) {
+  current = this;
+  ZnDwgDepends::InstallBinder(&World::Bind);
+}
+
+World::~World() {
+  foreignServices_.reset();
+  ZnDwgDepends::InstallBinder(nullptr);
+  os::InstallProvider(previousSystem_);
+  Common::InstallProvider(previousUtilities_);
+  zndb::InstallProvider(previousLibrary_);
+  current = nullptr;
+}
+
+void World::Fail(std::string call, Zent::ErrorStatus status, int nth) {
+  log_.Add({.call = std::move(call), .outcome = {.status = status}, .nth = nth});
+}
+
+void World::FailWithNull(std::string call, Zent::ErrorStatus status, int nth) {
+  log_.Add({.call = std::move(call), .outcome = {.status = status, .null = true}, .nth = nth});
+}
+
+void World::ReturnNull(std::string call, int nth) {
+  log_.Add({.call = std::move(call), .outcome = {.null = true}, .nth = nth});
+}
+
+void World::Throw(std::string call, int nth) {
+  log_.Add({.call = std::move(call), .outcome = {}, .throws = true, .nth = nth});
+}
+
+void World::InstallServices() {
+  foreignServices_ = NewForeignServices();
+  library.services = foreignServices_.get();
+  ForgetCalls();
+}
+
+std::vector<std::string> World::Calls() const { return Texts(log_.Calls()); }
+
+std::vector<std::string> World::Calls(std::initializer_list<std::string_view> operations) const {
+  return Texts(log_.Calls(), operations);
+}
+
+int World::Count(std::string_view operation) const {
+  return static_cast<int>(std::ranges::count(log_.Calls(), operation, &Call::operation));
+}
+
+ZnDwgDepends::Provider* World::Bind() {
+  ++current->timesBound_;
+  return &current->walker;
+}
+
+}  // namespace scripted

@@ -1,0 +1,87 @@
+#include <gtest/gtest.h>
+
+#include "ZDXEngine/Utf8.h"
+#include "base/CodePage.h"
+
+namespace zdx {
+namespace {
+
+using ZDXEngine::WideFromUtf8;
+
+TEST(CodePage, NamesAreKnownInAnyCase) {
+  EXPECT_EQ(CodePageByName("ANSI_1252"), 1252);
+  EXPECT_EQ(CodePageByName("ansi_932"), 932);
+  EXPECT_EQ(CodePageByName("dos850"), 850);
+  EXPECT_EQ(CodePageByName("ISO8859-5"), 28595);
+  EXPECT_EQ(CodePageByName("JOHAB"), 1361);
+}
+
+TEST(CodePage, OtherNamesAreNotKnown) {
+  for (const char* name : {"", "ANSI_", "ANSI_12", "ANSI_99999", "ANSI_1252x", "ANSI_-1", "pages",
+                           "ANSI_000000000000001252"}) {
+    EXPECT_EQ(CodePageByName(name), std::nullopt) << name;
+  }
+}
+
+TEST(CodePage, WesternDecodesItsHighHalf) {
+  EXPECT_EQ(CodePageDecoder(1252).Decode("caf\xE9 \x80"), WideFromUtf8("café €"));
+}
+
+TEST(CodePage, WesternRefusesTheBytesItLacks) {
+  EXPECT_EQ(CodePageDecoder(1252).Decode("a\x81"), std::nullopt);
+}
+
+TEST(CodePage, TheLenientWesternTakesEveryByte) {
+  std::string all;
+  for (int byte = 0; byte < 256; ++byte) all.push_back(static_cast<char>(byte));
+  const std::wstring text = DecodeWesternLeniently(all);
+  ASSERT_EQ(text.size(), 256u);
+  EXPECT_EQ(text[0x81], static_cast<wchar_t>(0x81));
+  EXPECT_EQ(text[0x80], static_cast<wchar_t>(0x20AC));
+}
+
+TEST(CodePage, CyrillicGreekAndJapaneseDecode) {
+  EXPECT_EQ(CodePageDecoder(1251).Decode("\xCF\xEB\xE0\xED"), WideFromUtf8("План"));
+  EXPECT_EQ(CodePageDecoder(1253).Decode("\xD3\xF7\xDD\xE4\xE9\xEF"), WideFromUtf8("Σχέδιο"));
+  EXPECT_EQ(CodePageDecoder(932).Decode("\x90\x7D\x96\xCA"), WideFromUtf8("図面"));
+}
+
+TEST(CodePage, ATrailByteThatLooksLikeABackslashBelongsToItsCharacter) {
+  EXPECT_EQ(CodePageDecoder(932).Decode("\x95\x5C"), WideFromUtf8("表"));
+}
+
+TEST(CodePage, AHalfCharacterIsRefused) {
+  EXPECT_EQ(CodePageDecoder(932).Decode("\x90"), std::nullopt);
+}
+
+TEST(CodePage, ADecoderForgetsWhatItRefused) {
+  CodePageDecoder decoder(932);
+  EXPECT_EQ(decoder.Decode("\x90"), std::nullopt);
+  EXPECT_EQ(decoder.Decode("\x96\xCA"), WideFromUtf8("面"));
+}
+
+TEST(CodePage, Utf8RefusesWhatIsNotValid) {
+  CodePageDecoder decoder(kUtf8);
+  EXPECT_EQ(decoder.Decode("\xC3\xA9"), WideFromUtf8("é"));
+  for (const char* bytes : {"\xC3", "\xC0\x80", "\xED\xA0\x80", "\xF4\x90\x80\x80", "\xFF"}) {
+    EXPECT_EQ(decoder.Decode(bytes), std::nullopt);
+  }
+}
+
+TEST(CodePage, EveryNameLeadsToAPageThatDecodes) {
+  for (const char* name :
+       {"ASCII",     "ISO8859-1", "ISO8859-2", "ISO8859-3", "ISO8859-4", "ISO8859-5", "ISO8859-6",
+        "ISO8859-7", "ISO8859-8", "ISO8859-9", "DOS437",    "DOS850",    "DOS852",    "DOS855",
+        "DOS857",    "DOS860",    "DOS861",    "DOS863",    "DOS864",    "DOS865",    "DOS866",
+        "DOS869",    "DOS932",    "MAC-ROMAN", "BIG5",      "KSC5601",   "JOHAB",     "GB2312",
+        "ANSI_874",  "ANSI_932",  "ANSI_936",  "ANSI_949",  "ANSI_950",  "ANSI_1250", "ANSI_1251",
+        "ANSI_1252", "ANSI_1253", "ANSI_1254", "ANSI_1255", "ANSI_1256", "ANSI_1257", "ANSI_1258",
+        "ANSI_1361"}) {
+    const auto page = CodePageByName(name);
+    ASSERT_TRUE(page) << name;
+    EXPECT_EQ(CodePageDecoder(*page).Decode("Az9 "), L"Az9 ") << name;
+  }
+}
+
+}  // namespace
+}  // namespace zdx

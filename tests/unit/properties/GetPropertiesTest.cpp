@@ -1,0 +1,260 @@
+// The front door: which steps run, in which order, and how a call ends.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "ZDXEngine/FilePropertyMgr.h"
+#include "ZDXEngine/ZdxEngineException.h"
+#include "support/scripted/ScriptedTest.h"
+#include "unit/properties/Outages.h"
+#include "unit/properties/Shown.h"
+
+using testing::Contains;
+using testing::Each;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::StartsWith;
+using ZDXEngine::_PropData;
+using ZDXEngine::BlockFilterParam;
+using ZDXEngine::DwgFileType;
+using ZDXEngine::FilePropertyMgr;
+
+namespace {
+
+using Set = FilePropertyMgr::FilePropertiesSet;
+
+// A drawing with one mark for each step.
+void FillDrawing(scripted::World& world) {
+  world.drawing.summary.title = L"House";
+  world.drawing.summary.custom = {{L"Client", L"Smith"}};
+  world.drawing.settings.menu = L"m";
+  world.drawing.layouts.Add(L"Model");
+  world.drawing.layers.Add(L"0");
+  world.drawing.linetypes.Add(L"DASHED", L"- - -");
+  world.drawing.views.Add(L"Front");
+}
+
+std::vector<_PropData> Get(int selection, std::vector<BlockFilterParam> filters = {}) {
+  return FilePropertyMgr::Instance().GetProperties(L"C:\\a.dwg", filters,
+                                                   static_cast<Set>(selection));
+}
+
+class GetProperties : public scripted::ScriptedTest {
+ protected:
+  GetProperties() { FillDrawing(world); }
+};
+
+TEST(Instance, IsOneObject) {
+  EXPECT_EQ(&FilePropertyMgr::Instance(), &FilePropertyMgr::Instance());
+}
+
+TEST(BlockFilter, AFreshOneHasItsDefaults) {
+  const BlockFilterParam filter;
+  EXPECT_EQ(filter.blockName, L"");
+  EXPECT_EQ(filter.formatId, GUID{});
+  EXPECT_FALSE(filter.matched);
+  EXPECT_TRUE(filter.usePrompt);
+}
+
+TEST(Selection, EveryBitHasItsValue) {
+  EXPECT_EQ(static_cast<int>(FilePropertyMgr::AllProperties), 0);
+  EXPECT_EQ(static_cast<int>(FilePropertyMgr::BlockAttributes), 0x001);
+  EXPECT_EQ(static_cast<int>(FilePropertyMgr::NamedObjects), 0x002);
+  EXPECT_EQ(static_cast<int>(FilePropertyMgr::CreatorInfo), 0x004);
+  EXPECT_EQ(static_cast<int>(FilePropertyMgr::DrawingFlavour), 0x008);
+  EXPECT_EQ(static_cast<int>(FilePropertyMgr::DatabaseSettings), 0x010);
+  EXPECT_EQ(static_cast<int>(FilePropertyMgr::GeoLocation), 0x020);
+  EXPECT_EQ(static_cast<int>(FilePropertyMgr::SummaryInfo), 0x040);
+  EXPECT_EQ(static_cast<int>(FilePropertyMgr::Thumbnail), 0x080);
+  EXPECT_EQ(static_cast<int>(FilePropertyMgr::SymbolTables), 0x100);
+  EXPECT_EQ(static_cast<int>(FilePropertyMgr::CustomSummary), 0x200);
+}
+
+TEST(Selection, EveryFlavourHasItsValue) {
+  EXPECT_EQ(static_cast<int>(DwgFileType::Unrecognized), 0);
+  EXPECT_EQ(static_cast<int>(DwgFileType::Zent), 1);
+  EXPECT_EQ(static_cast<int>(DwgFileType::ZentVariant), 2);
+  EXPECT_EQ(static_cast<int>(DwgFileType::Zne), 3);
+  EXPECT_EQ(static_cast<int>(DwgFileType::Partonic), 4);
+  EXPECT_EQ(static_cast<int>(DwgFileType::Znm), 5);
+  EXPECT_EQ(static_cast<int>(DwgFileType::Zmt), 6);
+  EXPECT_EQ(static_cast<int>(DwgFileType::Terrane3D), 7);
+}
+
+// The steps of the row, each told by the first call that only it makes.
+std::vector<std::string> StepsOf(const scripted::World& world) {
+  return world.Calls(
+      {"getTitle", "numCustomInfo", "namedObjectsDictionaryId", "getMenu", "getGroupDictionary"});
+}
+
+TEST_F(GetProperties, SummaryAloneGivesTheSevenFields) {
+  EXPECT_THAT(expected::Shown(Get(0x040)),
+              ElementsAre("2=House", "3=", "4=", "5=", "6=", "8=", "9="));
+}
+
+TEST_F(GetProperties, CustomAloneGivesTheEntries) {
+  EXPECT_THAT(expected::Shown(Get(0x200)), ElementsAre("Client=Smith"));
+}
+
+TEST_F(GetProperties, FlavourAloneGivesTheDwgType) {
+  EXPECT_THAT(expected::Shown(Get(0x008)), ElementsAre("DWG Type=Zent"));
+}
+
+TEST_F(GetProperties, SettingsAloneGiveTheNineTexts) {
+  EXPECT_THAT(expected::Shown(Get(0x010)),
+              ElementsAre("Menu=m", "ProjectName=", "HyperlinkBase=", "StyleSheet=", "Dimpost=",
+                          "Dimapost=", "Dimblk=", "Dimblk1=", "Dimblk2="));
+}
+
+TEST_F(GetProperties, NamedObjectsAloneGiveTheDictionaries) {
+  EXPECT_THAT(expected::Shown(Get(0x002)), ElementsAre("Layout Name=Model"));
+}
+
+TEST_F(GetProperties, SymbolTablesAloneGiveTheThreeTables) {
+  EXPECT_THAT(expected::Shown(Get(0x100)),
+              ElementsAre("Layer Name=0", "LineType Name=DASHED", "LineType Comments=- - -",
+                          "View Name=Front"));
+}
+
+TEST_F(GetProperties, EverythingRunsTheStepsInTheirOrder) {
+  Get(0);
+  EXPECT_THAT(StepsOf(world),
+              ElementsAre("getTitle()", "numCustomInfo()", "namedObjectsDictionaryId()",
+                          "getMenu()", "getGroupDictionary(0)"));
+  EXPECT_THAT(
+      world.Calls({"getGroupDictionary", "getSymbolTable"}),
+      ElementsAre("getSymbolTable(ZnDbBlockTable, 0)", "getGroupDictionary(0)",
+                  "getSymbolTable(ZnDbLayerTable, 0)", "getSymbolTable(ZnDbLinetypeTable, 0)",
+                  "getSymbolTable(ZnDbViewTable, 0)"));
+}
+
+TEST_F(GetProperties, EveryBitSetRunsTheSameStepsInTheSameOrder) {
+  const std::vector<std::string> all = expected::Shown(Get(0));
+  EXPECT_EQ(expected::Shown(Get(0x3FF)), all);
+}
+
+TEST_F(GetProperties, TheOrderIsTheRowsWhateverTheBits) {
+  EXPECT_THAT(expected::Shown(Get(0x008 | 0x002 | 0x200)),
+              ElementsAre("Client=Smith", "DWG Type=Zent", "Layout Name=Model"));
+}
+
+TEST_F(GetProperties, OnlyTheStepsNamedRun) {
+  Get(0x010);
+  EXPECT_THAT(StepsOf(world), ElementsAre("getMenu()"));
+  EXPECT_EQ(world.Count("getSymbolTable"), 0);
+}
+
+TEST_F(GetProperties, AnUnknownBitOpensTheFileAndGivesNothing) {
+  EXPECT_THAT(Get(0x400), IsEmpty());
+  EXPECT_EQ(world.Count("readDwgFile"), 1);
+}
+
+TEST_F(GetProperties, BlockAttributesWithoutFiltersOpenTheFileAndGiveNothing) {
+  EXPECT_THAT(Get(0x001), IsEmpty());
+  EXPECT_EQ(world.Count("readDwgFile"), 1);
+  EXPECT_EQ(world.Count("getSymbolTable"), 0);
+}
+
+TEST_F(GetProperties, SummaryAndBlocksWithoutFiltersGiveTheSummaryAlone) {
+  EXPECT_THAT(expected::Shown(Get(0x041)),
+              ElementsAre("2=House", "3=", "4=", "5=", "6=", "8=", "9="));
+}
+
+TEST_F(GetProperties, ReadsTheFileForReadingAloneIntoADatabaseOfItsOwn) {
+  Get(0x400);
+  EXPECT_THAT(world.Calls({"ZnDbDatabase", "readDwgFile", "~ZnDbDatabase"}),
+              ElementsAre("ZnDbDatabase(false, true)", "readDwgFile(C:\\a.dwg, 4, false, null)",
+                          "~ZnDbDatabase(database 1)"));
+}
+
+TEST_F(GetProperties, ReadsTheFileAnewForEachCall) {
+  Get(0x400);
+  Get(0x400);
+  EXPECT_EQ(world.Count("readDwgFile"), 2);
+  EXPECT_THAT(world.Calls({"~ZnDbDatabase"}),
+              ElementsAre("~ZnDbDatabase(database 1)", "~ZnDbDatabase(database 2)"));
+}
+
+TEST_F(GetProperties, ASecondCallGivesTheSameList) {
+  EXPECT_EQ(expected::Shown(Get(0)), expected::Shown(Get(0)));
+}
+
+TEST_F(GetProperties, TheResultOutlivesTheDatabase) {
+  const std::vector<_PropData> properties = Get(0x200);
+  EXPECT_EQ(world.Count("~ZnDbDatabase"), 1);
+  EXPECT_THAT(expected::Shown(properties), ElementsAre("Client=Smith"));
+}
+
+TEST_F(GetProperties, AFileThatIsNotThereThrowsNotFoundAndRunsNoStep) {
+  world.Fail("readDwgFile", 76);
+  EXPECT_THROW(Get(0), ZDXEngine::NotFound);
+  EXPECT_THAT(StepsOf(world), IsEmpty());
+  EXPECT_EQ(world.Count("~ZnDbDatabase"), 1);
+}
+
+TEST_F(GetProperties, TheSentenceOfAFailedOpenNamesTheFile) {
+  world.utilities.texts[103] = L"<%1!s!>";
+  world.Fail("readDwgFile", 314);
+  try {
+    Get(0);
+    FAIL() << "nothing was thrown";
+  } catch (const ZDXEngine::InvalidFormat& error) {
+    EXPECT_EQ(error.errorMessage, L"<C:\\a.dwg>");
+  }
+}
+
+TEST_F(GetProperties, WhatTheFlavourStepThrowsReachesTheClient) {
+  world.utilities.texts[101] = L"<%1!s!>";
+  world.Fail("getSymbolTable(ZnDbBlockTable, 0)", 5);
+  try {
+    Get(0);
+    FAIL() << "nothing was thrown";
+  } catch (const ZDXEngine::ReadError& error) {
+    EXPECT_EQ(error.errorMessage, L"<>");
+  }
+  EXPECT_EQ(world.Count("~ZnDbDatabase"), 1);
+}
+
+TEST_F(GetProperties, ATableThatDoesNotOpenCostsOnlyItsOwnNames) {
+  world.Fail("getSymbolTable(ZnDbLinetypeTable, 0)", 5);
+  EXPECT_THAT(expected::Shown(Get(0x100)), ElementsAre("Layer Name=0", "View Name=Front"));
+}
+
+TEST_F(GetProperties, TheWorkingDatabaseIsLeftAlone) {
+  Get(0);
+  EXPECT_EQ(world.Count("setWorkingDatabase"), 0);
+}
+
+TEST(GetPropertiesWithoutMemory, RaisesTheComErrorAndLeaksNothing) {
+  outages::FailEachAllocation(FillDrawing, [] { Get(0); });
+}
+
+class GetFileType : public scripted::ScriptedTest {
+ protected:
+  DwgFileType Type() { return FilePropertyMgr::Instance().GetFileType(L"C:\\a.dwg"); }
+};
+
+TEST_F(GetFileType, IsTheFlavourOfTheDrawing) {
+  world.drawing.namedObjects.Add(L"IDW_DICT_ROOT");
+  EXPECT_EQ(Type(), DwgFileType::Partonic);
+}
+
+TEST_F(GetFileType, ReadsTheFileForReadingAloneIntoADatabaseOfItsOwn) {
+  Type();
+  EXPECT_THAT(world.Calls({"ZnDbDatabase", "readDwgFile", "~ZnDbDatabase"}),
+              ElementsAre("ZnDbDatabase(false, true)", "readDwgFile(C:\\a.dwg, 4, false, null)",
+                          "~ZnDbDatabase(database 1)"));
+}
+
+TEST_F(GetFileType, AFileThatIsNotThereThrowsNotFound) {
+  world.Fail("readDwgFile", 76);
+  EXPECT_THROW(Type(), ZDXEngine::NotFound);
+  EXPECT_EQ(world.Count("~ZnDbDatabase"), 1);
+}
+
+TEST_F(GetFileType, WhatTheDetectionThrowsReachesTheClient) {
+  world.Fail("getSymbolTable", 314);
+  EXPECT_THROW(Type(), ZDXEngine::InvalidFormat);
+  EXPECT_EQ(world.Count("~ZnDbDatabase"), 1);
+}
+
+}  // namespace
