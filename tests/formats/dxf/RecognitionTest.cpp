@@ -14,7 +14,7 @@ const std::string kSentinel = "AutoCAD Binary DXF\r\n\x1A\0"s;
 void ExpectRefused(std::string_view bytes) {
   const Recognition recognition = Recognise(bytes);
   EXPECT_EQ(recognition.form, std::nullopt);
-  EXPECT_FALSE(recognition.reason.empty());
+  EXPECT_FALSE(recognition.refusal.text.empty());
 }
 
 TEST(Recognition, ATextBeginsWithASection) {
@@ -51,7 +51,7 @@ TEST(Recognition, ABinaryFileOfItsMarkAloneIsRefused) {
 TEST(Recognition, ADwgDrawingIsToldByItsVersion) {
   const Recognition recognition = Recognise("AC1032\0\0\0\0\0\0"s);
   EXPECT_EQ(recognition.form, std::nullopt);
-  EXPECT_NE(recognition.reason.find(L"AC1032"), std::wstring::npos);
+  EXPECT_NE(recognition.refusal.text.find(L"AC1032"), std::wstring::npos);
 }
 
 TEST(Recognition, OtherFilesAreRefused) {
@@ -61,6 +61,18 @@ TEST(Recognition, OtherFilesAreRefused) {
   ExpectRefused("  0\nLINE\n  8\n0\n");
   ExpectRefused(std::string(1000, '\0'));
   ExpectRefused("AutoCAD");
+}
+
+TEST(Recognition, ARefusedTextTellsTheLine) {
+  EXPECT_EQ(Recognise("999\nby hand\n  0\nLINE\n").refusal.line, 3u);
+  EXPECT_EQ(Recognise("<html>\n").refusal.line, 1u);
+}
+
+TEST(Recognition, OtherRefusedFilesTellTheOffset) {
+  EXPECT_EQ(Recognise("").refusal.offset, 0u);
+  EXPECT_EQ(Recognise("\x89PNG\r\n\x1A\n\0\0\0\rIHDR"s).refusal.offset, 0u);
+  EXPECT_EQ(Recognise(kSentinel + "\x05").refusal.offset, 22u);
+  EXPECT_EQ(Recognise("AutoCAD Binary DXF\n\x1A\0\0\0SECTION\0"s).refusal.offset, 18u);
 }
 
 TEST(Recognition, TheFirstSectionIsNotSoughtForEver) {

@@ -168,17 +168,18 @@ TEST(BinaryTags, EveryCutIsTheEndOrDamageNeverMore) {
 }
 
 TEST(BinaryTags, ATextWithoutItsEndIsDamage) {
-  const TagStream stream(kSentinel + "\x02\x00name"s, Form::kBinaryTwoByte);
+  const std::string bytes = kSentinel + "\x02\x00name"s;
+  const TagStream stream(bytes, Form::kBinaryTwoByte);
   std::size_t at = stream.Begin();
   Tag tag;
   EXPECT_EQ(stream.Read(at, tag), Outcome::kDamaged);
 }
 
 TEST(BinaryTags, BytesThatClaimMoreThanIsLeftAreDamage) {
-  const TagStream stream(kSentinel +
-                             "\x36\x01\xFF"
-                             "ab"s,
-                         Form::kBinaryTwoByte);
+  const std::string bytes = kSentinel +
+                            "\x36\x01\xFF"
+                            "ab"s;
+  const TagStream stream(bytes, Form::kBinaryTwoByte);
   std::size_t at = stream.Begin();
   Tag tag;
   EXPECT_EQ(stream.Read(at, tag), Outcome::kDamaged);
@@ -194,7 +195,8 @@ TEST(BinaryTags, BehindACodeOfUnknownKindTheNextObjectIsFound) {
 TEST(BinaryTags, DamageAtTheVeryEndFindsNothingMore) {
   for (const Form form : {Form::kBinaryOneByte, Form::kBinaryTwoByte}) {
     for (const std::string& tail : {"\x50"s, "\x50\x00"s, "\x50\x00\x00"s, "\x50\x00\x00\x00"s}) {
-      EXPECT_THAT(TypesOf(TagStream(kSentinel + tail, form)), ElementsAre());
+      const std::string bytes = kSentinel + tail;
+      EXPECT_THAT(TypesOf(TagStream(bytes, form)), ElementsAre());
     }
   }
 }

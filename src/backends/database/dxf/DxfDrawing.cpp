@@ -32,6 +32,10 @@ DxfDrawing::DxfDrawing(file::MappedFile file, Form form, std::shared_ptr<model::
   ReportHeader();
 }
 
+DxfDrawing::~DxfDrawing() {
+  if (stream_.form() == Form::kText) TellLines();
+}
+
 void DxfDrawing::ReadHeader() {
   if (const auto section = FindSection(kHeaderSection)) {
     header_ = HeaderVariables(stream_, section->begin, section->end);
@@ -269,27 +273,25 @@ void DxfDrawing::WarnOfDamage(std::size_t at) {
 }
 
 void DxfDrawing::Warn(std::wstring text, std::size_t at) {
-  model::Finding finding = {std::move(text), {}, {}, {}};
-  if (stream_.form() != Form::kText) {
-    finding.offset = at;
-  } else if (report_->KeepsMoreWarnings()) {
-    finding.line = LineOf(at);
-  }
-  report_->Warn(std::move(finding));
+  report_->Warn({std::move(text), at, {}, {}});
 }
 
-// The number of the line that begins at `at`.
-std::uint64_t DxfDrawing::LineOf(std::size_t at) {
-  if (at < countedTo_) {
-    countedTo_ = 0;
-    countedLines_ = 1;
+// Warnings of a text file tell lines, which are counted once for all of them.
+void DxfDrawing::TellLines() {
+  std::vector<model::Finding*> findings;
+  for (model::Finding& warning : report_->warnings) findings.push_back(&warning);
+  std::sort(findings.begin(), findings.end(),
+            [](const auto* a, const auto* b) { return a->offset < b->offset; });
+  std::size_t at = 0;
+  std::uint64_t line = 1;
+  for (model::Finding* finding : findings) {
+    while (at < *finding->offset && at < stream_.bytes().size()) {
+      TakeLine(stream_.bytes(), at);
+      ++line;
+    }
+    finding->line = line;
+    finding->offset.reset();
   }
-  const std::string_view bytes = stream_.bytes();
-  while (countedTo_ < std::min(at, bytes.size())) {
-    TakeLine(bytes, countedTo_);
-    ++countedLines_;
-  }
-  return countedLines_;
 }
 
 }  // namespace zdx::dxf

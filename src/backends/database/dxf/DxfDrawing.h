@@ -25,6 +25,9 @@ class DxfDrawing : public model::Drawing {
  public:
   // The drawing in `file`, whose bytes were recognised as `form`.  What is found goes to `report`.
   DxfDrawing(file::MappedFile file, Form form, std::shared_ptr<model::Report> report);
+  ~DxfDrawing() override;
+  DxfDrawing(const DxfDrawing&) = delete;
+  DxfDrawing& operator=(const DxfDrawing&) = delete;
 
   model::Version version() const override { return version_; }
   const std::vector<model::ObjectKey>& TableRecords(model::TableKind table) override;
@@ -72,7 +75,7 @@ class DxfDrawing : public model::Drawing {
   std::wstring Text(const Tag& tag, model::TextUse use);
   void Warn(std::wstring text, std::size_t at);
   void WarnOfDamage(std::size_t at);
-  std::uint64_t LineOf(std::size_t at);
+  void TellLines();
 
   file::MappedFile file_;
   TagStream stream_;
@@ -87,10 +90,6 @@ class DxfDrawing : public model::Drawing {
   std::optional<Tables> tables_;
   std::optional<ClassTable> classes_;
   std::vector<SectionIndex> indexes_;
-
-  // The last line that was counted, from which the next is.
-  std::size_t countedTo_ = 0;
-  std::uint64_t countedLines_ = 1;
 };
 
 }  // namespace zdx::dxf

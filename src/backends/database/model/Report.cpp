@@ -14,7 +14,7 @@ std::shared_ptr<Report>& LastReport() {
 
 void Report::Warn(Finding finding) {
   ++warningCount;
-  if (KeepsMoreWarnings()) warnings.push_back(std::move(finding));
+  if (warnings.size() < kMostWarnings) warnings.push_back(std::move(finding));
 }
 
 std::shared_ptr<Report> Report::Begin(std::wstring path) {

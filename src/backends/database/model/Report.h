@@ -31,7 +31,6 @@ struct Report {
   // All of them, kept or not.
   std::uint64_t warningCount = 0;
 
-  bool KeepsMoreWarnings() const { return warnings.size() < kMostWarnings; }
   // Counts a warning, and keeps it if there is room.
   void Warn(Finding finding);
 

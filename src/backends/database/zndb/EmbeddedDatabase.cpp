@@ -13,27 +13,34 @@ namespace {
 
 struct FailureRow {
   Zent::ErrorStatus status;
-  const wchar_t* reason;
+  model::Finding reason;
 };
+
+model::Finding Unplaced(const wchar_t* text) { return {text, {}, {}, {}}; }
 
 FailureRow RowOf(file::OpenFailure failure) {
   switch (failure) {
     case file::OpenFailure::kNotFound:
-      return {Zent::kFileNotFound, L"There is no such file."};
+      return {Zent::kFileNotFound, Unplaced(L"There is no such file.")};
     case file::OpenFailure::kNotAFile:
-      return {Zent::kFileAccess, L"This isn't a file."};
+      return {Zent::kFileAccess, Unplaced(L"This isn't a file.")};
     case file::OpenFailure::kNoAccess:
-      return {Zent::kFileAccess, L"The file may not be read."};
+      return {Zent::kFileAccess, Unplaced(L"The file may not be read.")};
     default:
-      return {Zent::kFileAccess, L"The system can't open the file."};
+      return {Zent::kFileAccess, Unplaced(L"The system can't open the file.")};
   }
 }
 
 }  // namespace
 
-Zent::ErrorStatus EmbeddedDatabase::Fail(Zent::ErrorStatus status, std::wstring reason) {
-  report_->errors.push_back({std::move(reason), {}, {}, {}});
+Zent::ErrorStatus EmbeddedDatabase::Fail(Zent::ErrorStatus status, model::Finding reason) {
+  report_->errors.push_back(std::move(reason));
   return status;
+}
+
+Zent::ErrorStatus EmbeddedDatabase::Fail(file::OpenFailure failure) {
+  FailureRow row = RowOf(failure);
+  return Fail(row.status, std::move(row.reason));
 }
 
 Zent::ErrorStatus EmbeddedDatabase::readDwgFile(const wchar_t* path, int /*openMode*/,
@@ -43,9 +50,9 @@ Zent::ErrorStatus EmbeddedDatabase::readDwgFile(const wchar_t* path, int /*openM
   report_ = model::Report::Begin(path_);
   const auto opened = file::MappedFile::Open(path_);
   if (const auto* failure = std::get_if<file::OpenFailure>(&opened)) {
-    return Fail(RowOf(*failure).status, RowOf(*failure).reason);
+    return Fail(*failure);
   }
-  return Fail(Zent::kNotADrawing, L"This version reads DXF drawings alone.");
+  return Fail(Zent::kNotADrawing, Unplaced(L"This version reads DXF drawings alone."));
 }
 
 Zent::ErrorStatus EmbeddedDatabase::dxfIn(const wchar_t* path, const wchar_t* /*logPath*/) {
@@ -53,11 +60,11 @@ Zent::ErrorStatus EmbeddedDatabase::dxfIn(const wchar_t* path, const wchar_t* /*
   report_ = model::Report::Begin(path_);
   auto opened = file::MappedFile::Open(path_);
   if (const auto* failure = std::get_if<file::OpenFailure>(&opened)) {
-    return Fail(RowOf(*failure).status, RowOf(*failure).reason);
+    return Fail(*failure);
   }
   auto& mapped = std::get<file::MappedFile>(opened);
   dxf::Recognition recognition = dxf::Recognise(mapped.bytes());
-  if (!recognition.form) return Fail(Zent::kNotADrawing, std::move(recognition.reason));
+  if (!recognition.form) return Fail(Zent::kNotADrawing, std::move(recognition.refusal));
   drawing_ = std::make_unique<dxf::DxfDrawing>(std::move(mapped), *recognition.form, report_);
   KeepTexts();
   return Zent::kOk;

@@ -8,6 +8,7 @@
 #include <string>
 #include <unordered_map>
 
+#include "backends/database/file/MappedFile.h"
 #include "backends/database/model/Drawing.h"
 #include "backends/database/model/Report.h"
 #include "backends/database/zndb/Stub.h"
@@ -67,7 +68,8 @@ class EmbeddedDatabase : public ::zndb::DatabaseBody {
   ZnRxClass* ClassNamed(const std::wstring& name);
   Zent::ErrorStatus OpenDictionary(ZnDbObjectId id, ZnDbDictionary*& dictionary);
   Zent::ErrorStatus OpenStandardDictionary(model::DictionaryKind kind, ZnDbDictionary*& dictionary);
-  Zent::ErrorStatus Fail(Zent::ErrorStatus status, std::wstring reason);
+  Zent::ErrorStatus Fail(Zent::ErrorStatus status, model::Finding reason);
+  Zent::ErrorStatus Fail(file::OpenFailure failure);
   void KeepTexts();
   Zent::ErrorStatus GiveSetting(model::Setting setting, ZnString& text) const;
 
