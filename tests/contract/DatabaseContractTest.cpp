@@ -1,0 +1,227 @@
+// What the drawing-database library promises, of the embedded one and of the stand-in for tests.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <optional>
+
+#include "ZDXEngine/Utf8.h"
+#include "backends/database/zndb/DatabaseProvider.h"
+#include "platform/zndb/Provider.h"
+#include "support/dxf/DxfMaker.h"
+#include "support/scripted/World.h"
+
+namespace {
+
+using testing::ElementsAre;
+
+// A provider with a drawing of the layers "0" and "Walls", the group "Pair", the title "Plan" and
+// one custom entry.
+class Subject {
+ public:
+  virtual ~Subject() = default;
+  // Reads the drawing into `database`.
+  virtual Zent::ErrorStatus Read(ZnDbDatabase& database) = 0;
+};
+
+class Scripted : public Subject {
+ public:
+  Scripted() {
+    world_.drawing.layers.Add(L"0");
+    world_.drawing.layers.Add(L"Walls");
+    world_.drawing.groups.Add(L"Pair");
+    world_.drawing.namedObjects.Add(L"GROUPS");
+    world_.drawing.summary.title = L"Plan";
+    world_.drawing.summary.custom = {{L"Client", L"Somebody"}};
+    world_.drawing.settings.menu = L"menu";
+  }
+  Zent::ErrorStatus Read(ZnDbDatabase& database) override {
+    return database.dxfIn(L"plan.dxf", nullptr);
+  }
+
+ private:
+  scripted::World world_;
+};
+
+class Embedded : public Subject {
+ public:
+  Embedded() : before_(zndb::InstallProvider(zdx::database::EmbeddedProvider())) {
+    dxf::DrawingSpec spec;
+    spec.layers = {"0", "Walls"};
+    spec.groups = {"Pair"};
+    spec.summary.title = "Plan";
+    spec.customProperties = {{"Client", "Somebody"}};
+    spec.settings.menu = "menu";
+    std::ofstream(path_, std::ios::binary) << dxf::Make(spec);
+  }
+  ~Embedded() override {
+    std::filesystem::remove(path_);
+    zndb::InstallProvider(before_);
+  }
+  Zent::ErrorStatus Read(ZnDbDatabase& database) override {
+    return database.dxfIn(ZDXEngine::WideFromUtf8(path_.string()).c_str(), nullptr);
+  }
+
+ private:
+  zndb::Provider* before_;
+  std::filesystem::path path_ = std::filesystem::temp_directory_path() /
+                                ("zdx-contract-" + std::to_string(getpid()) + ".dxf");
+};
+
+class DatabaseContract : public testing::TestWithParam<const char*> {
+ protected:
+  DatabaseContract() {
+    if (std::string(GetParam()) == "Scripted") {
+      subject = std::make_unique<Scripted>();
+    } else {
+      subject = std::make_unique<Embedded>();
+    }
+    database.emplace(false, true);
+    status = subject->Read(*database);
+  }
+
+  ZnDbLayerTable* Layers() {
+    ZnDbLayerTable* table = nullptr;
+    EXPECT_EQ(database->getSymbolTable(table, ZnDb::kForRead), Zent::kOk);
+    return table;
+  }
+
+  ZnDbLayerTableRecord* Open(ZnDbObjectId id) {
+    ZnDbLayerTableRecord* record = nullptr;
+    EXPECT_EQ(zndbOpenObject(record, id, ZnDbLayerTableRecord::desc(), ZnDb::kForRead, false),
+              Zent::kOk);
+    return record;
+  }
+
+  std::unique_ptr<Subject> subject;
+  std::optional<ZnDbDatabase> database;
+  Zent::ErrorStatus status = -1;
+};
+
+TEST_P(DatabaseContract, ReadsTheDrawing) { EXPECT_EQ(status, Zent::kOk); }
+
+TEST_P(DatabaseContract, IteratesOverTheRecordsInOrder) {
+  ZnDbLayerTable* const table = Layers();
+  ZnDbSymbolTableIterator* made = nullptr;
+  ASSERT_EQ(table->newIterator(made, true, true), Zent::kOk);
+  const std::unique_ptr<ZnDbSymbolTableIterator> iterator(made);
+  std::vector<std::wstring> names;
+  for (; !iterator->done(); iterator->step(true, true)) {
+    ZnDbObjectId id;
+    ASSERT_EQ(iterator->getRecordId(id), Zent::kOk);
+    ZnDbLayerTableRecord* const record = Open(id);
+    ZnString name;
+    EXPECT_EQ(record->getName(name), Zent::kOk);
+    names.emplace_back(static_cast<const wchar_t*>(name));
+    record->close();
+  }
+  EXPECT_THAT(names, ElementsAre(L"0", L"Walls"));
+  table->close();
+}
+
+TEST_P(DatabaseContract, FindsARecordWithoutRegardToCase) {
+  ZnDbLayerTable* const table = Layers();
+  ZnDbObjectId id;
+  EXPECT_EQ(table->getIdAt(L"wALLS", id, false), Zent::kOk);
+  EXPECT_FALSE(id.isNull());
+  ZnDbObjectId none;
+  EXPECT_NE(table->getIdAt(L"Doors", none, false), Zent::kOk);
+  table->close();
+}
+
+TEST_P(DatabaseContract, AnOpenedObjectKnowsItsIdAndItsClass) {
+  ZnDbLayerTable* const table = Layers();
+  ZnDbObjectId id;
+  ASSERT_EQ(table->getIdAt(L"0", id, false), Zent::kOk);
+  ZnDbLayerTableRecord* const record = Open(id);
+  EXPECT_EQ(record->objectId(), id);
+  EXPECT_TRUE(record->isA()->isDerivedFrom(ZnDbSymbolTableRecord::desc()));
+  record->assertReadEnabled();
+  record->close();
+  table->close();
+}
+
+TEST_P(DatabaseContract, AnObjectOfAnotherClassIsNotOpened) {
+  ZnDbLayerTable* const table = Layers();
+  ZnDbObjectId id;
+  ASSERT_EQ(table->getIdAt(L"0", id, false), Zent::kOk);
+  ZnDbDictionary* dictionary = nullptr;
+  EXPECT_NE(zndbOpenObject(dictionary, id, ZnDbDictionary::desc(), ZnDb::kForRead, false),
+            Zent::kOk);
+  EXPECT_EQ(dictionary, nullptr);
+  table->close();
+}
+
+TEST_P(DatabaseContract, TheNullIdOpensNothing) {
+  ZnDbObject* object = nullptr;
+  EXPECT_NE(zndbOpenObject(object, ZnDbObjectId(), ZnDb::kForRead, false, nullptr), Zent::kOk);
+  EXPECT_EQ(object, nullptr);
+}
+
+TEST_P(DatabaseContract, GivesTheEntriesOfADictionary) {
+  ZnDbDictionary* dictionary = nullptr;
+  ASSERT_EQ(database->getGroupDictionary(dictionary, ZnDb::kForRead), Zent::kOk);
+  const std::unique_ptr<ZnDbDictionaryIterator> iterator(dictionary->newIterator());
+  std::vector<std::wstring> names;
+  for (; !iterator->done(); iterator->next()) names.emplace_back(iterator->name());
+  EXPECT_THAT(names, ElementsAre(L"Pair"));
+  ZnDbObjectId id;
+  EXPECT_EQ(dictionary->getAt(L"Pair", id), Zent::kOk);
+  EXPECT_NE(dictionary->getAt(L"Trio", id), Zent::kOk);
+  dictionary->close();
+}
+
+TEST_P(DatabaseContract, TheRootIsTheNamedObjectsDictionary) {
+  ZnDbDictionary* root = nullptr;
+  ASSERT_EQ(zndbOpenObject(root, database->namedObjectsDictionaryId(), ZnDbDictionary::desc(),
+                           ZnDb::kForRead, false),
+            Zent::kOk);
+  EXPECT_EQ(root->objectId(), database->namedObjectsDictionaryId());
+  root->close();
+}
+
+TEST_P(DatabaseContract, GivesACopyOfTheSummary) {
+  ZnDbDatabaseSummaryInfo* made = nullptr;
+  ASSERT_EQ(zndbGetSummaryInfo(&*database, made), Zent::kOk);
+  const std::unique_ptr<ZnDbDatabaseSummaryInfo> info(made);
+  ZnString title;
+  EXPECT_EQ(info->getTitle(title), Zent::kOk);
+  EXPECT_STREQ(title, L"Plan");
+  ASSERT_EQ(info->numCustomInfo(), 1);
+  ZnString key;
+  ZnString value;
+  EXPECT_EQ(info->getCustomSummaryInfo(0, key, value), Zent::kOk);
+  EXPECT_STREQ(key, L"Client");
+  EXPECT_STREQ(value, L"Somebody");
+}
+
+TEST_P(DatabaseContract, GivesTheSettings) {
+  ZnString menu;
+  EXPECT_EQ(database->getMenu(menu), Zent::kOk);
+  EXPECT_STREQ(menu, L"menu");
+  EXPECT_STREQ(database->dimpost(), L"");
+}
+
+TEST_P(DatabaseContract, CopiesATextToItsHeapAndTakesItBack) {
+  wchar_t* buffer = nullptr;
+  ASSERT_EQ(znutNewString(L"", buffer), Zent::kOk);
+  EXPECT_STREQ(buffer, L"");
+  znutDelBuffer(buffer);
+  EXPECT_EQ(buffer, nullptr);
+}
+
+TEST_P(DatabaseContract, ItsRegistryHoldsADynamicLinker) {
+  ZnRxObject* const entry = znrxSysRegistry()->at(L"DynamicLinker");
+  ASSERT_NE(entry, nullptr);
+  EXPECT_TRUE(entry->isA()->isDerivedFrom(ZnRxDynamicLinker::desc()));
+  EXPECT_EQ(znrxSysRegistry()->at(L"Nothing"), nullptr);
+}
+
+INSTANTIATE_TEST_SUITE_P(Providers, DatabaseContract, testing::Values("Embedded", "Scripted"),
+                         [](const auto& info) { return info.param; });
+
+}  // namespace
