@@ -42,7 +42,7 @@ struct Diagnostics {
   std::vector<DiagnosticMessage> errors;
   // What was wrong but could be passed over.  At most 100 are kept.
   std::vector<DiagnosticMessage> warnings;
-  // How many warnings there were, kept or not.
+  // How many warnings there were, kept or not.  What isn't kept counts each time that it is met.
   std::uint64_t warningCount = 0;
 
   // What the last opening of a drawing in this process found.

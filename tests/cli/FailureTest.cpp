@@ -63,6 +63,7 @@ TEST_F(Failure, ANameThatIsNoDrawingsNameIsAReadError) {
   const nlohmann::json error = ErrorOf("plan.txt");
   EXPECT_EQ(error.at("class"), "ReadError");
   EXPECT_EQ(error.at("code"), 101);
+  EXPECT_THAT(error.at("reason").get<std::string>(), HasSubstr(".dxf"));
 }
 
 TEST_F(Failure, AnEmptyNameFailsLikeAnyOther) {

@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 #include "cli/CliTest.h"
 #include "cli/SmallDrawing.h"
 
@@ -19,6 +21,8 @@ class OutputFailure : public CliTest, public ::testing::WithParamInterface<Outpu
     EXPECT_EQ(outcome.signal, 0);
     EXPECT_EQ(outcome.exitCode, kOutputFailed);
     EXPECT_THAT(outcome.err, StartsWith("zdx: standard output: "));
+    // It is told once: the rest of the files are left alone.
+    EXPECT_EQ(std::count(outcome.err.begin(), outcome.err.end(), '\n'), 1);
   }
 };
 

@@ -68,7 +68,16 @@ TEST(DamagedBinary, DamageInTheHeaderLeavesTheTables) {
   const std::string bytes = Replaced(SoundBinary("AC1015"), "\x09\x00$MENU\0"s, "\x50\x00$MENU\0"s);
   const Reading reading = ReadBytes(bytes);
   EXPECT_THAT(reading.Texts(L"Layer Name"), ElementsAre("0", "First", "Second", "Third"));
+  EXPECT_THAT(reading.Texts(L"StyleSheet"), ElementsAre(""));
   EXPECT_GE(reading.diagnostics.warningCount, 1u);
+}
+
+TEST(DamagedBinary, DamageInTheHeaderCostsItsVariableAlone) {
+  const std::string bytes = Replaced(SoundBinary(), "\x01\x00Sound\0"s, "\x50\x00Sound\0"s);
+  const Reading reading = ReadBytes(bytes);
+  EXPECT_THAT(reading.Texts(zdx_test::kSummary, L"2"), ElementsAre());
+  EXPECT_THAT(reading.Texts(L"Menu"), ElementsAre("."));
+  EXPECT_THAT(reading.Custom(), ElementsAre(testing::Pair("Key", "Value")));
 }
 
 }  // namespace

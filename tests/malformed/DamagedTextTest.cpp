@@ -69,24 +69,105 @@ TEST(DamagedText, WrongCountsAreNotBelieved) {
 }
 
 TEST(DamagedText, ABlankLineBetweenTagsIsPassedOver) {
-  const Reading reading = ReadBytes(Replaced(SoundText(), "  2\nSecond\n", "\n  2\nSecond\n"));
+  const std::string text = Replaced(SoundText(), "  2\nSecond\n", "\n  2\nSecond\n");
+  const Reading reading = ReadBytes(text);
   EXPECT_THAT(reading.Texts(L"Layer Name"), ElementsAre("0", "First", "Second", "Third"));
+  EXPECT_EQ(reading.diagnostics.warningCount, 1u);
+  ExpectWarningAt(reading, LineOf(text, "\n  2\nSecond\n"));
 }
 
 TEST(DamagedText, ALostCodeLineCostsItsRecordAlone) {
   const std::string text = Replaced(SoundText(), "  2\nSecond\n", "Second\n");
   const Reading reading = ReadBytes(text);
   EXPECT_THAT(reading.Texts(L"Layer Name"), ElementsAre("0", "First", "Third"));
-  EXPECT_GE(reading.diagnostics.warningCount, 1u);
+  EXPECT_EQ(reading.diagnostics.warningCount, 1u);
+  ExpectWarningAt(reading, LineOf(text, "\nSecond\n") + 1);
 }
 
 TEST(DamagedText, DamageInTheHeaderCostsItsVariableAlone) {
   const std::string text = Replaced(SoundText(), "  9\n$TITLE\n  1\n", "  9\n$TITLE\nrubbish\n");
   const Reading reading = ReadBytes(text);
-  EXPECT_THAT(reading.Texts(kSummary, L"2"), ElementsAre(""));
+  EXPECT_THAT(reading.Texts(kSummary, L"2"), ElementsAre());
+  EXPECT_THAT(reading.Texts(kSummary, L"3"), ElementsAre(""));
   EXPECT_THAT(reading.Texts(L"Menu"), ElementsAre("."));
   EXPECT_THAT(reading.Custom(), ElementsAre(testing::Pair("Key", "Value")));
   ExpectWarningAt(reading, LineOf(text, "rubbish"));
+}
+
+TEST(DamagedText, ADamagedSettingIsLeftOutNotTold) {
+  const Reading reading =
+      ReadBytes(Replaced(SoundText(), "  9\n$MENU\n  1\n.\n", "  9\n$MENU\n.\n"));
+  EXPECT_THAT(reading.Texts(L"Menu"), ElementsAre());
+  EXPECT_THAT(reading.Texts(L"StyleSheet"), ElementsAre(""));
+}
+
+TEST(DamagedText, ADamagedCustomValueCostsItsEntryAlone) {
+  dxf::DrawingSpec spec = damage::Sound();
+  spec.customProperties = {{"A", "1"}, {"B", "2"}, {"C", "3"}};
+  const Reading reading = ReadBytes(Replaced(dxf::Make(spec), "  1\n2\n", "rubbish\n"));
+  EXPECT_THAT(reading.Custom(), ElementsAre(testing::Pair("A", "1"), testing::Pair("C", "3")));
+}
+
+TEST(DamagedText, ADamagedSummaryRecordLeavesOutWhatStoodBehind) {
+  dxf::DrawingSpec spec = damage::Sound("AC1015");
+  spec.summary.author = "Somebody";
+  const Reading reading = ReadBytes(Replaced(dxf::Make(spec), "  4\nSomebody\n", "rubbish\n"));
+  EXPECT_THAT(reading.Texts(kSummary, L"2"), ElementsAre("Sound"));
+  EXPECT_THAT(reading.Texts(kSummary, L"4"), ElementsAre());
+  EXPECT_THAT(reading.Texts(kSummary, L"9"), ElementsAre());
+}
+
+TEST(DamagedText, DamageBeforeTheCommentsOfALineTypeCostsTheCommentsAlone) {
+  const std::string text = Replaced(SoundText(), "  3\nDashed __ __\n", "Dashed __ __\n");
+  const Reading reading = ReadBytes(text);
+  EXPECT_THAT(reading.Texts(L"LineType Name"), Contains("Dash"));
+  EXPECT_EQ(reading.Texts(L"LineType Comments").size(), reading.Texts(L"LineType Name").size() - 1);
+  EXPECT_GE(reading.diagnostics.warningCount, 1u);
+}
+
+TEST(DamagedText, ACommentBehindASectionsBeginIsPassedOver) {
+  const Reading reading =
+      ReadBytes(Replaced(SoundText(), "  2\nTABLES\n", "999\nby hand\n  2\nTABLES\n"));
+  EXPECT_THAT(reading.Texts(L"Layer Name"), ElementsAre("0", "First", "Second", "Third"));
+  EXPECT_EQ(reading.diagnostics.warningCount, 0u);
+}
+
+TEST(DamagedText, ADamagedClassDeclarationIsToldOf) {
+  dxf::DrawingSpec spec = damage::Sound();
+  spec.classes = {{"SOMETYPE", "SomeClass"}};
+  spec.rootEntries = {{"Root", dxf::CustomObject("OTHERTYPE")}};
+  const std::string text = Replaced(dxf::Make(spec), "  2\nSomeClass\n", "SomeClass\n");
+  const Reading reading = ReadBytes(text);
+  EXPECT_THAT(reading.Texts(L"DWG Type"), ElementsAre("Zent"));
+  ExpectWarningAt(reading, LineOf(text, "SomeClass\n"));
+}
+
+TEST(DamagedText, ATypeNameInAFreeRecordIsNoClass) {
+  dxf::DrawingSpec spec = damage::Sound();
+  spec.rootEntries = {{"Root", dxf::Xrecord({{100, "TerrDbTreeNode"}})}};
+  EXPECT_THAT(ReadBytes(dxf::Make(spec)).Texts(L"DWG Type"), ElementsAre("Zent"));
+}
+
+TEST(DamagedText, AFlawThatIsMetTwiceIsToldOnce) {
+  const std::string text = Replaced(SoundText(), "Sound\n", "S\xFFund\n");
+  EXPECT_EQ(ReadBytes(text).diagnostics.warningCount, 1u);
+}
+
+TEST(DamagedText, LineEndsThatWereConvertedTwiceAreRead) {
+  dxf::DrawingSpec spec = damage::Sound();
+  spec.lineEnd = "\r\r\n";
+  const Reading reading = ReadBytes(dxf::Make(spec));
+  EXPECT_THAT(reading.Texts(L"Layer Name"), ElementsAre("0", "First", "Second", "Third"));
+  EXPECT_EQ(reading.diagnostics.warningCount, 0u);
+}
+
+TEST(DamagedText, ManySectionsAndALostHandleEndSoon) {
+  std::string text = Replaced(SoundText(), "  3\nACAD_GROUP\n350\n", "  3\nACAD_GROUP\n350\nFFF\n");
+  std::string sections;
+  for (int i = 0; i < 50000; ++i) sections += "  0\nSECTION\n  2\nX\n  0\nENDSEC\n";
+  const Reading reading = ReadBytes(Replaced(text, "  0\nEOF\n", sections + "  0\nEOF\n"));
+  EXPECT_THAT(reading.Texts(L"Group Name"), ElementsAre());
+  EXPECT_THAT(reading.Texts(L"Layer Name"), ElementsAre("0", "First", "Second", "Third"));
 }
 
 TEST(DamagedText, DamageInTheRootDictionaryCostsTheEntriesBehindIt) {

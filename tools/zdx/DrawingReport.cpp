@@ -1,5 +1,8 @@
 #include "DrawingReport.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "PropertyNames.h"
 #include "PropertyValue.h"
 #include "ZDXEngine/Utf8.h"
@@ -10,6 +13,8 @@ namespace {
 
 using ZDXEngine::Diagnostics;
 using ZDXEngine::FilePropertyMgr;
+
+constexpr std::wstring_view kExtensions[] = {L".dwg", L".dws", L".dwt", L".dxf"};
 
 // A failure may come before anything was opened, and the engine still tells of the file before
 // then.
@@ -42,6 +47,19 @@ DrawingReport ReadReport(const std::wstring& path, Selection selection) {
   return report;
 }
 
+// The engine goes by a file's extension: what follows the last dot, if that isn't the first
+// character.
+bool HasDrawingExtension(const std::wstring& path) {
+  const std::size_t dot = path.rfind(L'.');
+  if (dot == std::wstring::npos || dot == 0) return false;
+  std::wstring extension = path.substr(dot);
+  for (wchar_t& c : extension) {
+    if (c >= L'A' && c <= L'Z') c = static_cast<wchar_t>(c - L'A' + L'a');
+  }
+  return std::find(std::begin(kExtensions), std::end(kExtensions), extension) !=
+         std::end(kExtensions);
+}
+
 }  // namespace
 
 std::variant<DrawingReport, Failure> ReadDrawing(const std::wstring& path, Selection selection) {
@@ -53,6 +71,8 @@ std::variant<DrawingReport, Failure> ReadDrawing(const std::wstring& path, Selec
     if (!diagnostics.errors.empty()) {
       failure.reason = ZDXEngine::Utf8FromWide(diagnostics.errors.front().text);
       failure.place = diagnostics.errors.front().place;
+    } else if (!HasDrawingExtension(path)) {
+      failure.reason = "Its name doesn't end in .dwg, .dwt, .dws or .dxf.";
     }
     return failure;
   }

@@ -38,13 +38,21 @@ Json PropertyJson(const ZDXEngine::_PropData& property) {
   return object;
 }
 
-Json PropertiesJson(const DrawingReport& report) {
-  Json list = Json::array();
+// Written one by one: a tree of a million properties would take many times their text.
+std::string PropertiesText(const DrawingReport& report) {
+  std::string list = "[";
   for (const ZDXEngine::_PropData& property : report.properties) {
     if (!report.drawingTypeSelected && IsDrawingType(property)) continue;
-    list.push_back(PropertyJson(property));
+    if (list.size() > 1) list += ',';
+    list += PropertyJson(property).dump();
   }
-  return list;
+  return list + ']';
+}
+
+// Appends a member to `document`, the text of an object that isn't empty; `value` is JSON text.
+void AppendMember(std::string& document, std::string_view name, std::string_view value) {
+  document.back() = ',';
+  document.append("\"").append(name).append("\":").append(value).append("}");
 }
 
 void AddPlace(Json& object, const ZDXEngine::DiagnosticPlace& place) {
@@ -77,24 +85,23 @@ Json Document(const std::wstring& path, const char* status) {
   return {{"schema", kSchema}, {"file", Utf8FromWide(path)}, {"status", status}};
 }
 
-std::string Line(const Json& document) { return document.dump() + "\n"; }
-
 }  // namespace
 
 std::string JsonOf(const std::wstring& path, const DrawingReport& report) {
   Json document = Document(path, "ok");
   document["drawingType"] = Utf8FromWide(report.drawingType);
-  document["properties"] = PropertiesJson(report);
-  document["warnings"] = WarningsJson(report.diagnostics);
+  std::string text = document.dump();
+  AppendMember(text, "properties", PropertiesText(report));
+  AppendMember(text, "warnings", WarningsJson(report.diagnostics).dump());
   const std::uint64_t leftOut = WarningsLeftOut(report.diagnostics);
-  if (leftOut > 0) document["warningsLeftOut"] = leftOut;
-  return Line(document);
+  if (leftOut > 0) AppendMember(text, "warningsLeftOut", std::to_string(leftOut));
+  return text + "\n";
 }
 
 std::string JsonOf(const std::wstring& path, const Failure& failure) {
   Json document = Document(path, "error");
   document["error"] = ErrorJson(failure);
-  return Line(document);
+  return document.dump() + "\n";
 }
 
 }  // namespace zdx

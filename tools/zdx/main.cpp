@@ -4,8 +4,10 @@
 
 #include "CommandLine.h"
 #include "ExitCode.h"
+#include "Failure.h"
 #include "InfoCommand.h"
 #include "Messages.h"
+#include "ReadableText.h"
 #include "StandardStreams.h"
 
 namespace {
@@ -27,8 +29,10 @@ int main(int argc, char** argv) {
   zdx::PrepareStandardStreams();
   try {
     return std::visit(Follow{}, zdx::ParseCommandLine(argc, argv));
-  } catch (const std::exception& error) {
-    zdx::Complain(error.what());
-    return zdx::kInternalFault;
+  } catch (const std::exception&) {
+    zdx::Complain(zdx::ReadableText(zdx::DescribeCurrentException().message));
+  } catch (...) {
+    zdx::Complain("an unexpected failure");
   }
+  return zdx::kInternalFault;
 }

@@ -16,8 +16,9 @@ struct Header {
     variables = HeaderVariables(TagStream(text, Form::kText), 0, text.size());
   }
   std::string Value(std::string_view name) const {
-    const auto tag = variables.Find(name);
-    return tag ? std::string(tag->value) : "(none)";
+    const auto* const variable = variables.Find(name);
+    if (variable == nullptr) return "(none)";
+    return variable->value ? std::string(variable->value->value) : "(unreadable)";
   }
 
   std::string text;
@@ -36,9 +37,9 @@ TEST(HeaderVariables, OfTwoWithANameTheFirstCounts) {
   EXPECT_EQ(Header("  9\n$A\n  1\n1\n  9\n$A\n  1\n2\n").Value("$A"), "1");
 }
 
-TEST(HeaderVariables, AVariableWithoutAValueIsEmpty) {
+TEST(HeaderVariables, AVariableWithoutAValueIsUnreadable) {
   const Header header("  9\n$A\n  9\n$B\n  1\n2\n");
-  EXPECT_EQ(header.Value("$A"), "");
+  EXPECT_EQ(header.Value("$A"), "(unreadable)");
   EXPECT_EQ(header.Value("$B"), "2");
 }
 
@@ -46,7 +47,7 @@ TEST(HeaderVariables, RepeatedNamesStayInOrder) {
   const Header header("  9\n$N\n  1\na\n  9\n$V\n  1\n1\n  9\n$N\n  1\nb\n  9\n$V\n  1\n2\n");
   std::string all;
   for (const auto& variable : header.variables.all()) {
-    all += std::string(variable.name) + std::string(variable.value.value);
+    all += std::string(variable.name) + std::string(variable.value->value);
   }
   EXPECT_EQ(all, "$Na$V1$Nb$V2");
 }
@@ -54,6 +55,7 @@ TEST(HeaderVariables, RepeatedNamesStayInOrder) {
 TEST(HeaderVariables, DamageCostsTheVariableItStandsIn) {
   const Header header("  9\n$A\n  1\n1\n  9\n$B\nrubbish\n  9\n$C\n  1\n3\n");
   EXPECT_EQ(header.Value("$A"), "1");
+  EXPECT_EQ(header.Value("$B"), "(unreadable)");
   EXPECT_EQ(header.Value("$C"), "3");
   EXPECT_THAT(header.variables.damages(), ElementsAre(header.text.find("rubbish")));
 }
@@ -68,13 +70,18 @@ TEST(HeaderVariables, AWholeHeaderHasNoDamage) {
   EXPECT_THAT(Header("  9\n$A\n  1\n1\n").variables.damages(), IsEmpty());
 }
 
-TEST(HeaderVariables, DamageInABinaryHeaderEndsIt) {
+TEST(HeaderVariables, DamageInABinaryHeaderCostsItsVariable) {
   using namespace std::string_literals;
-  const std::string bytes = "\x09\x00$A\0\x01\x00x\0\x50\x00\x09\x00$B\0\x01\x00y\0"s;
-  const HeaderVariables variables(TagStream(bytes, Form::kBinaryTwoByte), 0, bytes.size());
-  EXPECT_TRUE(variables.Find("$A"));
-  EXPECT_FALSE(variables.Find("$B"));
-  EXPECT_EQ(variables.damages().size(), 1u);
+  const std::string wide = "\x09\x00$A\0\x01\x00x\0\x09\x00$B\0\x50\x00y\0\x09\x00$C\0\x01\x00z\0"s;
+  const std::string narrow = "\x09$A\0\x01x\0\x09$B\0\x50y\0\x09$C\0\x01z\0"s;
+  for (const auto& [form, bytes] :
+       {std::pair(Form::kBinaryTwoByte, wide), std::pair(Form::kBinaryOneByte, narrow)}) {
+    const HeaderVariables variables(TagStream(bytes, form), 0, bytes.size());
+    EXPECT_TRUE(variables.Find("$A")->value);
+    EXPECT_FALSE(variables.Find("$B")->value);
+    EXPECT_EQ(variables.Find("$C")->value->value, "z");
+    EXPECT_EQ(variables.damages().size(), 1u);
+  }
 }
 
 }  // namespace

@@ -27,6 +27,10 @@ TEST(Lines, EndsMayBeMixedInOneFile) {
   EXPECT_THAT(LinesOf("a\rb\nc\r\n\nd"), ElementsAre("a", "b", "c", "", "d"));
 }
 
+TEST(Lines, AnEndThatWasConvertedTwiceIsOne) {
+  EXPECT_THAT(LinesOf("  0\r\r\nSECTION\r\r\n"), ElementsAre("  0", "SECTION"));
+}
+
 TEST(Lines, TheLastMayLackItsEnd) { EXPECT_THAT(LinesOf("a\nb"), ElementsAre("a", "b")); }
 
 TEST(Lines, KeepTheirBlanks) { EXPECT_THAT(LinesOf("  a \t\n"), ElementsAre("  a \t")); }

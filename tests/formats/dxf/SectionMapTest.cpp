@@ -16,6 +16,12 @@ std::string SectionText(const std::string& name, const std::string& body,
   return "  0\nSECTION\n  2\n" + name + "\n" + body + end;
 }
 
+std::vector<std::size_t> FlawsOf(const SectionMap& map) {
+  std::vector<std::size_t> places;
+  for (const SectionMap::Flaw& flaw : map.flaws()) places.push_back(flaw.at);
+  return places;
+}
+
 std::vector<std::string> NamesOf(SectionMap& map) {
   std::vector<std::string> names;
   for (const Section& section : map.All()) names.emplace_back(section.name);
@@ -31,7 +37,7 @@ TEST(SectionMap, FindsASectionByItsName) {
   ASSERT_TRUE(tables);
   EXPECT_EQ(text.substr(tables->begin, tables->end - tables->begin), "  0\nLAYER\n  2\nWalls\n");
   EXPECT_EQ(map.Find("OBJECTS"), std::nullopt);
-  EXPECT_THAT(map.missingEnds(), IsEmpty());
+  EXPECT_THAT(FlawsOf(map), IsEmpty());
 }
 
 TEST(SectionMap, OfTwoSectionsOfANameTheFirstIsFound) {
@@ -48,7 +54,7 @@ TEST(SectionMap, ASectionWithoutItsEndEndsAtTheNext) {
   const TagStream stream(text, Form::kText);
   SectionMap map(stream);
   EXPECT_THAT(NamesOf(map), ElementsAre("TABLES", "BLOCKS"));
-  EXPECT_THAT(map.missingEnds(), ElementsAre(text.find("  0\nSECTION\n  2\nBLOCKS")));
+  EXPECT_THAT(FlawsOf(map), ElementsAre(text.find("  0\nSECTION\n  2\nBLOCKS")));
 }
 
 TEST(SectionMap, TheLastSectionMayEndWithTheFile) {
@@ -56,7 +62,7 @@ TEST(SectionMap, TheLastSectionMayEndWithTheFile) {
   const TagStream stream(text, Form::kText);
   SectionMap map(stream);
   EXPECT_EQ(map.Find("ENTITIES")->end, text.size());
-  EXPECT_THAT(map.missingEnds(), ElementsAre(text.size()));
+  EXPECT_THAT(FlawsOf(map), ElementsAre(text.size()));
 }
 
 TEST(SectionMap, WhatStandsBehindTheEndOfTheFileIsNotLookedAt) {
@@ -74,11 +80,21 @@ TEST(SectionMap, ATextThatReadsLikeAnEndEndsNothing) {
   EXPECT_EQ(map.Find("ENTITIES")->end, text.size() - std::string("  0\nENDSEC\n").size());
 }
 
-TEST(SectionMap, ASectionWithoutANameIsPassedOver) {
+TEST(SectionMap, ACommentMayStandBeforeTheName) {
+  const std::string text =
+      "  0\nSECTION\n999\nby hand\n  2\nTABLES\n  0\nLAYER\n  0\nENDSEC\n  0\nEOF\n";
+  const TagStream stream(text, Form::kText);
+  SectionMap map(stream);
+  EXPECT_THAT(NamesOf(map), ElementsAre("TABLES"));
+  EXPECT_THAT(FlawsOf(map), IsEmpty());
+}
+
+TEST(SectionMap, ASectionWithoutANameIsPassedOverAndToldOf) {
   const std::string text = "  0\nSECTION\n  0\nENDSEC\n" + SectionText("TABLES", "");
   const TagStream stream(text, Form::kText);
   SectionMap map(stream);
   EXPECT_THAT(NamesOf(map), ElementsAre("TABLES"));
+  EXPECT_THAT(FlawsOf(map), ElementsAre(0u));
 }
 
 TEST(SectionMap, AFoundSectionCostsNoLookAtTheRest) {
@@ -87,7 +103,7 @@ TEST(SectionMap, AFoundSectionCostsNoLookAtTheRest) {
   const TagStream stream(text, Form::kText);
   SectionMap map(stream);
   EXPECT_TRUE(map.Find("HEADER"));
-  EXPECT_THAT(map.missingEnds(), IsEmpty());
+  EXPECT_THAT(FlawsOf(map), IsEmpty());
 }
 
 }  // namespace

@@ -109,7 +109,7 @@ TEST(TextTags, AnObjectIsTheSameByItsPlace) {
   EXPECT_EQ(same.type, "LINE");
 }
 
-TEST(TextTags, ABlankLineBetweenTagsCostsNothingButAWarning) {
+TEST(TextTags, ABlankLineBetweenTagsCostsNothingAndIsSeen) {
   const TagStream stream("  2\nWalls\n\n 70\n0\n", Form::kText);
   std::size_t damagedAt = 0;
   EXPECT_THAT(TagsOf(stream, 0, &damagedAt), ElementsAre(Pair(2, "Walls"), Pair(70, "0")));

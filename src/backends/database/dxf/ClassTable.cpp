@@ -23,6 +23,7 @@ ClassTable::ClassTable(const TagStream& stream, std::size_t begin, std::size_t e
       if (tag.code == kTypeNameCode && row.type.empty()) row.type = Trimmed(tag.value);
       if (tag.code == kClassNameCode && row.className.empty()) row.className = Trimmed(tag.value);
     }
+    if (tags.damagedAt() != kNowhere) damages_.push_back(tags.damagedAt());
   }
 }
 

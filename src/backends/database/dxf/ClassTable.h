@@ -21,6 +21,8 @@ class ClassTable {
   std::optional<std::string_view> ClassOfType(std::string_view type) const;
   // The class that a proxy means by `number`; the first declared class has the number 500.
   std::optional<std::string_view> ClassOfNumber(std::int64_t number) const;
+  // Where declarations were damaged, in order.
+  const std::vector<std::size_t>& damages() const { return damages_; }
 
  private:
   struct Row {
@@ -29,6 +31,7 @@ class ClassTable {
   };
 
   std::vector<Row> rows_;
+  std::vector<std::size_t> damages_;
 };
 
 }  // namespace zdx::dxf

@@ -1,6 +1,7 @@
 #include "backends/database/dxf/DxfDrawing.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include "backends/database/dxf/Lines.h"
@@ -40,11 +41,11 @@ void DxfDrawing::ReadHeader() {
   if (const auto section = FindSection(kHeaderSection)) {
     header_ = HeaderVariables(stream_, section->begin, section->end);
   }
-  if (const auto magic = header_.Find(kVersionVariable)) {
+  if (const Tag* const magic = HeaderTag(kVersionVariable)) {
     if (const auto version = model::VersionByMagic(Trimmed(magic->value))) version_ = *version;
   }
   CodePageId page = kWestern;
-  if (const auto name = header_.Find(kCodePageVariable)) {
+  if (const Tag* const name = HeaderTag(kCodePageVariable)) {
     const auto known = CodePageByName(Trimmed(name->value));
     page = known.value_or(kWestern);
     if (!known && version_ < model::kVersion1021) {
@@ -56,7 +57,7 @@ void DxfDrawing::ReadHeader() {
 
 void DxfDrawing::ReportHeader() {
   report_->format = stream_.form() == Form::kText ? L"DXF (text)" : L"DXF (binary)";
-  if (const auto magic = header_.Find(kVersionVariable)) {
+  if (const Tag* const magic = HeaderTag(kVersionVariable)) {
     report_->version = Text(*magic, model::TextUse::kValue);
     if (!model::VersionByMagic(Trimmed(magic->value))) {
       Warn(L"The version isn't known; the file is read as AC1009.", magic->at);
@@ -64,7 +65,7 @@ void DxfDrawing::ReportHeader() {
       Warn(L"The version is newer than those that are known.", magic->at);
     }
   }
-  if (const auto page = header_.Find(kCodePageVariable)) {
+  if (const Tag* const page = HeaderTag(kCodePageVariable)) {
     report_->codePage = Text(*page, model::TextUse::kValue);
   }
   for (const std::size_t at : header_.damages()) WarnOfDamage(at);
@@ -72,9 +73,9 @@ void DxfDrawing::ReportHeader() {
 
 std::optional<Section> DxfDrawing::FindSection(std::string_view name) {
   const std::optional<Section> section = sections_.Find(name);
-  const std::vector<std::size_t>& missing = sections_.missingEnds();
-  for (; toldMissingEnds_ < missing.size(); ++toldMissingEnds_) {
-    Warn(L"A section lacks its end; the file may have been cut.", missing[toldMissingEnds_]);
+  const std::vector<SectionMap::Flaw>& flaws = sections_.flaws();
+  for (; toldFlaws_ < flaws.size(); ++toldFlaws_) {
+    Warn(flaws[toldFlaws_].text, flaws[toldFlaws_].at);
   }
   return section;
 }
@@ -134,12 +135,16 @@ const std::vector<model::ObjectKey>& DxfDrawing::TableRecords(model::TableKind t
 
 std::optional<std::wstring> DxfDrawing::RecordName(model::TableKind /*table*/,
                                                    model::ObjectKey record) {
-  return ObjectText(record, kNameCode, model::TextUse::kName);
+  const TagSearch name = FirstTag(record, kNameCode);
+  if (name.tag) return Text(*name.tag, model::TextUse::kName);
+  if (!name.lost) Warn(L"A record has no name.", static_cast<std::size_t>(record));
+  return std::nullopt;
 }
 
 std::optional<std::wstring> DxfDrawing::LinetypeComments(model::ObjectKey record) {
-  if (!FirstTag(record, kDescriptionCode)) return std::wstring();
-  return ObjectText(record, kDescriptionCode, model::TextUse::kValue);
+  const TagSearch comments = FirstTag(record, kDescriptionCode);
+  if (comments.tag) return Text(*comments.tag, model::TextUse::kValue);
+  return comments.lost ? std::nullopt : std::optional<std::wstring>(L"");
 }
 
 std::optional<model::ObjectKey> DxfDrawing::RootDictionary() {
@@ -164,7 +169,7 @@ std::vector<model::DictionaryEntry> DxfDrawing::DictionaryEntries(model::ObjectK
       entries.back().target = ParseHandle(tag.value);
     }
   }
-  if (tags.damagedAt() != kNowhere) WarnOfDamage(tags.damagedAt());
+  WarnOfDamage(tags);
   return entries;
 }
 
@@ -184,29 +189,34 @@ std::wstring DxfDrawing::DictionaryName(model::DictionaryKind kind) const {
 // Looks first where nearly everything is that other objects name, and only then at the rest.
 std::optional<model::ObjectKey> DxfDrawing::Find(model::Handle handle) {
   if (handle == 0) return std::nullopt;
-  const std::optional<Section> objects = FindSection(kObjectsSection);
-  if (objects) {
-    if (const auto at = IndexOf(*objects).Find(handle)) return model::ObjectKey{*at};
-  }
-  for (const Section& section : sections_.All()) {
-    if (objects && section.begin == objects->begin) continue;
-    if (const auto at = IndexOf(section).Find(handle)) return model::ObjectKey{*at};
-  }
-  return std::nullopt;
+  std::optional<std::size_t> at = IndexOfObjects().Find(handle);
+  if (!at) at = IndexOfEverything().Find(handle);
+  return at ? std::optional(model::ObjectKey{*at}) : std::nullopt;
 }
 
-const ObjectIndex& DxfDrawing::IndexOf(const Section& section) {
-  for (const SectionIndex& known : indexes_) {
-    if (known.begin == section.begin) return known.index;
+const ObjectIndex& DxfDrawing::IndexOfObjects() {
+  if (!objectsIndex_) {
+    const auto section = FindSection(kObjectsSection);
+    objectsIndex_ =
+        section ? ObjectIndex::Build(stream_, section->begin, section->end) : ObjectIndex();
   }
-  indexes_.push_back({section.begin, ObjectIndex::Build(stream_, section.begin, section.end)});
-  return indexes_.back().index;
+  return *objectsIndex_;
+}
+
+const ObjectIndex& DxfDrawing::IndexOfEverything() {
+  if (!everythingIndex_) {
+    const std::vector<Section>& sections = sections_.All();
+    const std::size_t end = sections.empty() ? stream_.Begin() : sections.back().end;
+    everythingIndex_ = ObjectIndex::Build(stream_, stream_.Begin(), end);
+  }
+  return *everythingIndex_;
 }
 
 const ClassTable& DxfDrawing::Classes() {
   if (!classes_) {
     const auto section = FindSection(kClassesSection);
     classes_ = section ? ClassTable(stream_, section->begin, section->end) : ClassTable();
+    for (const std::size_t at : classes_->damages()) WarnOfDamage(at);
   }
   return *classes_;
 }
@@ -219,7 +229,7 @@ model::ObjectDescription DxfDrawing::Describe(model::ObjectKey object) {
 }
 
 std::wstring DxfDrawing::ProxiedClassName(const ObjectStart& start) {
-  const auto number = FirstTag(KeyOf(start), kProxyClassCode);
+  const std::optional<Tag> number = FirstTag(KeyOf(start), kProxyClassCode).tag;
   std::int64_t value = 0;
   if (!number || !ParseInteger(stream_.form(), number->value, value)) return {};
   const auto name = Classes().ClassOfNumber(value);
@@ -227,15 +237,16 @@ std::wstring DxfDrawing::ProxiedClassName(const ObjectStart& start) {
 }
 
 // The declared class; without one the object's last subclass marker, which names its own class; the
-// type where there is none either.
+// type where there is none either.  Behind the marker of a free record anything may stand.
 std::wstring DxfDrawing::ClassName(const ObjectStart& start) {
   if (const auto declared = Classes().ClassOfType(start.type)) return Widen(*declared);
   std::string_view name = start.type;
   ObjectTags tags(stream_, start.body);
   Tag tag;
-  while (tags.Next(tag)) {
+  while (name != kXrecordMarker && tags.Next(tag)) {
     if (tag.code == kSubclassCode) name = Trimmed(tag.value);
   }
+  WarnOfDamage(tags);
   return Widen(name);
 }
 
@@ -243,20 +254,21 @@ ObjectStart DxfDrawing::StartOf(model::ObjectKey object) const {
   return stream_.ObjectAt(static_cast<std::size_t>(object));
 }
 
-std::optional<Tag> DxfDrawing::FirstTag(model::ObjectKey object, int code) {
+DxfDrawing::TagSearch DxfDrawing::FirstTag(model::ObjectKey object, int code) {
   ObjectTags tags(stream_, StartOf(object).body);
   Tag tag;
-  while (tags.Next(tag)) {
-    if (tag.code == code) return tag;
+  std::optional<Tag> found;
+  while (!found && tags.Next(tag)) {
+    if (tag.code == code) found = tag;
   }
-  return std::nullopt;
+  WarnOfDamage(tags);
+  return {found, tags.endedByDamage()};
 }
 
-std::optional<std::wstring> DxfDrawing::ObjectText(model::ObjectKey object, int code,
-                                                   model::TextUse use) {
-  if (const auto tag = FirstTag(object, code)) return Text(*tag, use);
-  Warn(L"A record has no name.", static_cast<std::size_t>(object));
-  return std::nullopt;
+// The value of a header variable; null if there is none or it can't be read.
+const Tag* DxfDrawing::HeaderTag(std::string_view name) const {
+  const HeaderVariables::Variable* const variable = header_.Find(name);
+  return variable != nullptr && variable->value ? &*variable->value : nullptr;
 }
 
 std::wstring DxfDrawing::Text(const Tag& tag, model::TextUse use) {
@@ -265,6 +277,10 @@ std::wstring DxfDrawing::Text(const Tag& tag, model::TextUse use) {
   if (flaws.notInEncoding) Warn(L"A text isn't valid in the file's encoding.", tag.at);
   if (flaws.hasNul) Warn(L"A text holds NUL characters, which are left out.", tag.at);
   return text;
+}
+
+void DxfDrawing::WarnOfDamage(const ObjectTags& tags) {
+  if (tags.damagedAt() != kNowhere) WarnOfDamage(tags.damagedAt());
 }
 
 void DxfDrawing::WarnOfDamage(std::size_t at) {
@@ -278,19 +294,19 @@ void DxfDrawing::Warn(std::wstring text, std::size_t at) {
 
 // Warnings of a text file tell lines, which are counted once for all of them.
 void DxfDrawing::TellLines() {
-  std::vector<model::Finding*> findings;
-  for (model::Finding& warning : report_->warnings) findings.push_back(&warning);
-  std::sort(findings.begin(), findings.end(),
+  std::array<model::Finding*, model::Report::kMostWarnings> findings = {};
+  auto end = findings.begin();
+  for (model::Finding& warning : report_->warnings) *end++ = &warning;
+  std::sort(findings.begin(), end,
             [](const auto* a, const auto* b) { return a->offset < b->offset; });
   std::size_t at = 0;
   std::uint64_t line = 1;
-  for (model::Finding* finding : findings) {
-    while (at < *finding->offset && at < stream_.bytes().size()) {
+  for (auto finding = findings.begin(); finding != end; ++finding) {
+    for (; at < *(*finding)->offset && at < stream_.bytes().size(); ++line) {
       TakeLine(stream_.bytes(), at);
-      ++line;
     }
-    finding->line = line;
-    finding->offset.reset();
+    (*finding)->line = line;
+    (*finding)->offset.reset();
   }
 }
 

@@ -48,9 +48,11 @@ class DxfDrawing : public model::Drawing {
     std::vector<model::ObjectKey> linetypes;
     std::vector<model::ObjectKey> views;
   };
-  struct SectionIndex {
-    std::size_t begin;
-    ObjectIndex index;
+  // What a search for a tag of an object gave.
+  struct TagSearch {
+    std::optional<Tag> tag;
+    // Whether the object's tags ended because of damage, so that the tag may be lost.
+    bool lost = false;
   };
 
   void ReadHeader();
@@ -60,13 +62,16 @@ class DxfDrawing : public model::Drawing {
   void CollectRecords(Tables& tables);
   void CollectBlocks(std::vector<model::ObjectKey>& blocks);
   const ClassTable& Classes();
-  const ObjectIndex& IndexOf(const Section& section);
+  const ObjectIndex& IndexOfObjects();
+  const ObjectIndex& IndexOfEverything();
   std::wstring ProxiedClassName(const ObjectStart& start);
   std::wstring ClassName(const ObjectStart& start);
 
-  std::optional<Tag> FirstTag(model::ObjectKey object, int code);
-  std::optional<std::wstring> ObjectText(model::ObjectKey object, int code, model::TextUse use);
-  std::wstring VariableText(std::string_view name);
+  TagSearch FirstTag(model::ObjectKey object, int code);
+  void WarnOfDamage(const ObjectTags& tags);
+  const Tag* HeaderTag(std::string_view name) const;
+  std::optional<std::wstring> VariableText(std::string_view name);
+  void ReadCustomEntries(model::Summary& summary);
   std::wstring BlockSpelling(const std::wstring& name);
   model::Summary SummaryOfHeader();
   model::Summary SummaryOfRecord();
@@ -81,7 +86,7 @@ class DxfDrawing : public model::Drawing {
   TagStream stream_;
   std::shared_ptr<model::Report> report_;
   SectionMap sections_;
-  std::size_t toldMissingEnds_ = 0;
+  std::size_t toldFlaws_ = 0;
   HeaderVariables header_;
   model::Version version_ = model::kVersion1009;
   std::optional<model::StoredTextDecoder> decoder_;
@@ -89,7 +94,8 @@ class DxfDrawing : public model::Drawing {
   // Filled at the first question that needs them.
   std::optional<Tables> tables_;
   std::optional<ClassTable> classes_;
-  std::vector<SectionIndex> indexes_;
+  std::optional<ObjectIndex> objectsIndex_;
+  std::optional<ObjectIndex> everythingIndex_;
 };
 
 }  // namespace zdx::dxf

@@ -2,8 +2,10 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <map>
 
 #include "backends/database/dxf/DxfDrawing.h"
+#include "backends/database/dxf/Lines.h"
 #include "backends/database/dxf/Tokens.h"
 #include "backends/database/model/BuiltIns.h"
 #include "base/CaseFold.h"
@@ -41,7 +43,7 @@ bool NamesAnArrow(Setting setting) {
 // A field of the summary: its header variable from AC1018 on, and its group code in the record in
 // which AC1012 to AC1015 keep it.
 struct SummaryRow {
-  std::wstring Summary::*field;
+  std::optional<std::wstring> Summary::*field;
   std::string_view variable;
   int code;
 };
@@ -74,10 +76,12 @@ std::optional<std::wstring> DxfDrawing::SettingText(Setting setting) {
   const auto* const row =
       std::find_if(std::begin(kSettings), std::end(kSettings),
                    [setting](const SettingRow& r) { return r.setting == setting; });
-  const std::optional<Tag> tag = header_.Find(row->variable);
-  if (!tag) return version_ < row->since ? std::nullopt : std::optional<std::wstring>(L"");
-  if (!NamesAnArrow(setting)) return Text(*tag, model::TextUse::kValue);
-  return model::ArrowBlockName(Text(*tag, model::TextUse::kName),
+  const bool absent = header_.Find(row->variable) == nullptr;
+  if (absent && version_ < row->since) return std::nullopt;
+  if (!NamesAnArrow(setting)) return VariableText(row->variable);
+  const Tag* const name = HeaderTag(row->variable);
+  if (name == nullptr) return absent ? std::optional<std::wstring>(L"") : std::nullopt;
+  return model::ArrowBlockName(Text(*name, model::TextUse::kName),
                                [this](const std::wstring& name) { return BlockSpelling(name); });
 }
 
@@ -95,22 +99,37 @@ std::optional<Summary> DxfDrawing::ReadSummary() {
   return version_ >= model::kVersion1018 ? SummaryOfHeader() : SummaryOfRecord();
 }
 
-std::wstring DxfDrawing::VariableText(std::string_view name) {
-  const std::optional<Tag> tag = header_.Find(name);
-  return tag ? Text(*tag, model::TextUse::kValue) : std::wstring();
+// The text of a header variable, empty if there is none; nullopt if it can't be read.
+std::optional<std::wstring> DxfDrawing::VariableText(std::string_view name) {
+  if (header_.Find(name) == nullptr) return L"";
+  const Tag* const tag = HeaderTag(name);
+  return tag == nullptr ? std::nullopt : std::optional(Text(*tag, model::TextUse::kValue));
 }
 
 Summary DxfDrawing::SummaryOfHeader() {
   Summary summary;
   for (const SummaryRow& row : kSummaryFields) summary.*row.field = VariableText(row.variable);
+  ReadCustomEntries(summary);
+  return summary;
+}
+
+// The header has a variable for each name and one behind it for its value.
+void DxfDrawing::ReadCustomEntries(Summary& summary) {
+  bool wantsValue = false;
   for (const HeaderVariables::Variable& variable : header_.all()) {
     if (variable.name == kCustomNameVariable) {
-      summary.custom.emplace_back(Text(variable.value, model::TextUse::kValue), std::wstring());
-    } else if (variable.name == kCustomValueVariable && !summary.custom.empty()) {
-      summary.custom.back().second = Text(variable.value, model::TextUse::kValue);
+      wantsValue = variable.value.has_value();
+      if (!wantsValue) continue;
+      summary.custom.emplace_back(Text(*variable.value, model::TextUse::kValue), std::wstring());
+    } else if (variable.name == kCustomValueVariable && wantsValue) {
+      wantsValue = false;
+      if (variable.value) {
+        summary.custom.back().second = Text(*variable.value, model::TextUse::kValue);
+      } else {
+        summary.custom.pop_back();
+      }
     }
   }
-  return summary;
 }
 
 Summary DxfDrawing::SummaryOfRecord() {
@@ -126,18 +145,25 @@ Summary DxfDrawing::SummaryOfRecord() {
   if (!record || StartOf(*record).type != kXrecord) return summary;
   ObjectTags tags(stream_, StartOf(*record).body);
   Tag tag;
-  while (tags.Next(tag) && !(tag.code == kSubclassCode && tag.value == kXrecordMarker)) {
+  while (tags.Next(tag) && !(tag.code == kSubclassCode && Trimmed(tag.value) == kXrecordMarker)) {
   }
+  std::map<int, std::wstring> fields;
   while (tags.Next(tag)) {
     if (tag.code >= kFirstCustomCode && tag.code <= kLastCustomCode) {
       AddCustomEntry(summary, Text(tag, model::TextUse::kValue));
       continue;
     }
     for (const SummaryRow& row : kSummaryFields) {
-      if (row.code == tag.code) summary.*row.field = Text(tag, model::TextUse::kValue);
+      if (row.code == tag.code) fields[row.code] = Text(tag, model::TextUse::kValue);
     }
   }
-  if (tags.damagedAt() != kNowhere) WarnOfDamage(tags.damagedAt());
+  for (const SummaryRow& row : kSummaryFields) {
+    const auto field = fields.find(row.code);
+    if (field != fields.end()) summary.*row.field = field->second;
+    // What damage may have swallowed isn't known to be empty.
+    if (field == fields.end() && tags.endedByDamage()) summary.*row.field = std::nullopt;
+  }
+  WarnOfDamage(tags);
   return summary;
 }
 

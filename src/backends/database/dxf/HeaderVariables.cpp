@@ -1,5 +1,8 @@
 #include "backends/database/dxf/HeaderVariables.h"
 
+#include <algorithm>
+#include <string>
+
 #include "backends/database/dxf/Lines.h"
 
 namespace zdx::dxf {
@@ -7,18 +10,27 @@ namespace {
 
 constexpr char kNamePrefix = '$';
 
-// The begin of the next variable in a text at or after `from`, which is the begin of a line; `end`
-// if there is none.
-std::size_t NextVariable(const TagStream& stream, std::size_t from, std::size_t end) {
-  if (stream.form() != Form::kText) return end;
+std::size_t NextTextVariable(std::string_view bytes, std::size_t from, std::size_t end) {
   while (from < end) {
     const std::size_t line = from;
     int code = 0;
-    const bool isCode = ParseCode(TakeLine(stream.bytes(), from), code);
-    const bool named = from < end && stream.bytes()[from] == kNamePrefix;
+    const bool isCode = ParseCode(TakeLine(bytes, from), code);
+    const bool named = from < end && bytes[from] == kNamePrefix;
     if (isCode && code == kVariableCode && named) return line;
   }
   return end;
+}
+
+// The place of the next variable behind the damage at `from`; `end` if there is none.
+std::size_t NextVariable(const TagStream& stream, std::size_t from, std::size_t end) {
+  if (stream.form() == Form::kText) {
+    TakeLine(stream.bytes(), from);
+    return NextTextVariable(stream.bytes(), from, end);
+  }
+  std::string begin = {static_cast<char>(kVariableCode)};
+  if (stream.form() == Form::kBinaryTwoByte) begin.push_back('\0');
+  begin.push_back(kNamePrefix);
+  return std::min(stream.bytes().find(begin, from + 1), end);
 }
 
 }  // namespace
@@ -33,9 +45,7 @@ HeaderVariables::HeaderVariables(const TagStream& stream, std::size_t begin, std
     const bool damaged = outcome == TagStream::Outcome::kDamaged;
     if (damaged || tag.at != expectedAt) damages_.push_back(expectedAt);
     if (damaged) {
-      std::size_t next = expectedAt;
-      if (stream.form() == Form::kText) TakeLine(stream.bytes(), next);
-      at = NextVariable(stream, next, end);
+      at = NextVariable(stream, expectedAt, end);
       wantsValue = false;
     } else if (tag.code == kVariableCode) {
       variables_.push_back({Trimmed(tag.value), {}});
@@ -47,11 +57,11 @@ HeaderVariables::HeaderVariables(const TagStream& stream, std::size_t begin, std
   }
 }
 
-std::optional<Tag> HeaderVariables::Find(std::string_view name) const {
+const HeaderVariables::Variable* HeaderVariables::Find(std::string_view name) const {
   for (const Variable& variable : variables_) {
-    if (variable.name == name) return variable.value;
+    if (variable.name == name) return &variable;
   }
-  return std::nullopt;
+  return nullptr;
 }
 
 }  // namespace zdx::dxf

@@ -16,15 +16,16 @@ class HeaderVariables {
  public:
   struct Variable {
     std::string_view name;
-    Tag value;
+    // nullopt if it couldn't be read.
+    std::optional<Tag> value;
   };
 
   HeaderVariables() = default;
   // Reads the variables that begin between `begin` and `end`.
   HeaderVariables(const TagStream& stream, std::size_t begin, std::size_t end);
 
-  // The value of the first variable of that name; nullopt if there is none.
-  std::optional<Tag> Find(std::string_view name) const;
+  // The first variable of that name; null if there is none.
+  const Variable* Find(std::string_view name) const;
   const std::vector<Variable>& all() const { return variables_; }
   // Where the variables were damaged, in order.
   const std::vector<std::size_t>& damages() const { return damages_; }

@@ -12,6 +12,9 @@ namespace {
 
 constexpr std::size_t kMostDigits = 6;
 
+// The longer ones first.
+constexpr std::string_view kLineEnds[] = {"\r\r\n", "\r\n", "\n", "\r"};
+
 bool IsLineEnd(char c) { return c == '\n' || c == '\r'; }
 bool IsBlank(char c) { return c == ' ' || c == '\t'; }
 
@@ -75,9 +78,10 @@ std::string_view TakeLine(std::string_view bytes, std::size_t& at) {
   const std::size_t begin = at;
   while (at < bytes.size() && !IsLineEnd(bytes[at])) ++at;
   const std::string_view line = bytes.substr(begin, at - begin);
-  if (at < bytes.size()) {
-    const bool pair = bytes[at] == '\r' && at + 1 < bytes.size() && bytes[at + 1] == '\n';
-    at += pair ? 2 : 1;
+  for (const std::string_view end : kLineEnds) {
+    if (bytes.substr(at, end.size()) != end) continue;
+    at += end.size();
+    break;
   }
   return line;
 }

@@ -1,4 +1,5 @@
-// Lines of a text file, whatever ends them: LF, CR LF or a lone CR, also mixed.
+// Lines of a text file, whatever ends them: LF, CR LF or a lone CR, also mixed; and CR CR LF, which
+// a conversion of line ends makes when it is done twice.
 #pragma once
 
 #include <cstddef>

@@ -29,11 +29,13 @@ bool SectionMap::FindNext() {
     next_ = start.body;
     if (start.type != kSection) continue;
     Tag name;
-    std::size_t at = start.body;
-    if (stream_->Read(at, name) != TagStream::Outcome::kTag || name.code != kNameCode) continue;
-    const std::size_t end = FindEnd(at);
-    sections_.push_back({Trimmed(name.value), at, end});
-    next_ = end;
+    ObjectTags tags(*stream_, start.body);
+    if (!tags.Next(name) || name.code != kNameCode) {
+      flaws_.push_back({L"A section has no name and is passed over.", start.at});
+      continue;
+    }
+    next_ = FindEnd(tags.at());
+    sections_.push_back({Trimmed(name.value), tags.at(), next_});
     return true;
   }
   complete_ = true;
@@ -48,7 +50,7 @@ std::size_t SectionMap::FindEnd(std::size_t from) {
     const bool another = start.type == kSection || start.type == kEndOfFile;
     if (!start.Found() || another) {
       const std::size_t end = start.Found() ? start.at : stream_->bytes().size();
-      missingEnds_.push_back(end);
+      flaws_.push_back({L"A section lacks its end; the file may have been cut.", end});
       return end;
     }
     from = start.body;

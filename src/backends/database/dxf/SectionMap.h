@@ -27,8 +27,12 @@ class SectionMap {
   // All sections of the file.
   const std::vector<Section>& All();
 
-  // Where a section lacked its end, in order; grows as sections are found.
-  const std::vector<std::size_t>& missingEnds() const { return missingEnds_; }
+  // What was wrong with sections, in words, and where; grows as sections are found.
+  struct Flaw {
+    const wchar_t* text;
+    std::size_t at;
+  };
+  const std::vector<Flaw>& flaws() const { return flaws_; }
 
  private:
   bool FindNext();
@@ -38,7 +42,7 @@ class SectionMap {
   std::size_t next_;
   bool complete_ = false;
   std::vector<Section> sections_;
-  std::vector<std::size_t> missingEnds_;
+  std::vector<Flaw> flaws_;
 };
 
 }  // namespace zdx::dxf

@@ -181,9 +181,10 @@ bool ObjectTags::Next(Tag& tag) {
     const std::size_t expectedAt = at_;
     const TagStream::Outcome outcome = stream_->Read(at_, tag);
     if (outcome == TagStream::Outcome::kEnd) return false;
-    const bool damaged = outcome == TagStream::Outcome::kDamaged || tag.at != expectedAt;
+    endedByDamage_ = outcome == TagStream::Outcome::kDamaged;
+    const bool damaged = endedByDamage_ || tag.at != expectedAt;
     if (damaged && damagedAt_ == kNowhere) damagedAt_ = expectedAt;
-    if (outcome == TagStream::Outcome::kDamaged) return false;
+    if (endedByDamage_) return false;
     if (tag.code != kCommentCode) return tag.code != kTypeCode;
   }
 }

@@ -82,14 +82,19 @@ class ObjectTags {
 
   // Reads the next tag that isn't a comment; false at the end of the object or at damage.
   bool Next(Tag& tag);
+  // Behind the last tag that was read.
+  std::size_t at() const { return at_; }
   // Where the first damage stands, which ended the tags unless it was a blank line; kNowhere if
   // there was none.
   std::size_t damagedAt() const { return damagedAt_; }
+  // Whether the tags ended because of damage, so that some may be missing.
+  bool endedByDamage() const { return endedByDamage_; }
 
  private:
   const TagStream* stream_;
   std::size_t at_;
   std::size_t damagedAt_ = kNowhere;
+  bool endedByDamage_ = false;
 };
 
 // The number in `value`, which is text or little-endian by the form; false if it isn't a number.

@@ -66,6 +66,7 @@ void PutBuiltInsFirst(TableKind table, std::vector<ObjectKey>& records,
 
 std::wstring ArrowBlockName(std::wstring_view text,
                             const std::function<std::wstring(const std::wstring& name)>& spelling) {
+  if (text.empty()) return {};
   const std::wstring name(text);
   const std::size_t place = PlaceOf(kArrows, text);
   if (place == std::size(kArrows)) {

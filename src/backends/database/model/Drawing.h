@@ -51,15 +51,16 @@ struct ObjectDescription {
   std::wstring className;
 };
 
-// The summary, as the drawing's version keeps it.  What the file leaves out is empty.
+// The summary, as the drawing's version keeps it.  What the file leaves out is empty; a field that
+// can't be read is nullopt, and a custom entry that can't be read isn't there.
 struct Summary {
-  std::wstring title;
-  std::wstring subject;
-  std::wstring author;
-  std::wstring keywords;
-  std::wstring comments;
-  std::wstring lastSavedBy;
-  std::wstring revisionNumber;
+  std::optional<std::wstring> title = L"";
+  std::optional<std::wstring> subject = L"";
+  std::optional<std::wstring> author = L"";
+  std::optional<std::wstring> keywords = L"";
+  std::optional<std::wstring> comments = L"";
+  std::optional<std::wstring> lastSavedBy = L"";
+  std::optional<std::wstring> revisionNumber = L"";
   // Names and values, in stored order.
   std::vector<std::pair<std::wstring, std::wstring>> custom;
 };
@@ -75,7 +76,7 @@ class Drawing {
   virtual const std::vector<ObjectKey>& TableRecords(TableKind table) = 0;
   // The name of such a record; nullopt if it can't be read.
   virtual std::optional<std::wstring> RecordName(TableKind table, ObjectKey record) = 0;
-  // The comments of a line type.
+  // The comments of a line type, empty if it has none; nullopt if they can't be read.
   virtual std::optional<std::wstring> LinetypeComments(ObjectKey record) = 0;
 
   // The root dictionary; nullopt if the drawing has none.
@@ -89,8 +90,8 @@ class Drawing {
   virtual std::optional<ObjectKey> Find(Handle handle) = 0;
   virtual ObjectDescription Describe(ObjectKey object) = 0;
 
-  // A text setting; nullopt if the drawing's version can't hold it.  An arrow's name is that of its
-  // block.
+  // A text setting; nullopt if the drawing's version can't hold it or it can't be read.  An arrow's
+  // name is that of its block.
   virtual std::optional<std::wstring> SettingText(Setting setting) = 0;
   // nullopt if the drawing's version has no summary.
   virtual std::optional<Summary> ReadSummary() = 0;

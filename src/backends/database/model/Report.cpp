@@ -13,6 +13,10 @@ std::shared_ptr<Report>& LastReport() {
 }  // namespace
 
 void Report::Warn(Finding finding) {
+  // What is read twice is found twice.
+  for (const Finding& known : warnings) {
+    if (known.offset == finding.offset && known.text == finding.text) return;
+  }
   ++warningCount;
   if (warnings.size() < kMostWarnings) warnings.push_back(std::move(finding));
 }

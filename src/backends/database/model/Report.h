@@ -28,10 +28,10 @@ struct Report {
   std::wstring codePage;
   std::vector<Finding> errors;
   std::vector<Finding> warnings;
-  // All of them, kept or not.
+  // All of them, kept or not.  One that isn't kept counts each time that it is found.
   std::uint64_t warningCount = 0;
 
-  // Counts a warning, and keeps it if there is room.
+  // Counts a warning that isn't kept yet, and keeps it if there is room.
   void Warn(Finding finding);
 
   // Starts the report of a new opening, which becomes the last one.  The reader of the drawing

@@ -1,6 +1,10 @@
 // A copy of a drawing's summary.
 #pragma once
 
+#include <optional>
+#include <string>
+#include <utility>
+
 #include "backends/database/model/Drawing.h"
 #include "platform/zndb/ZnDbDatabaseSummaryInfo.h"
 
@@ -38,8 +42,9 @@ class SummaryInfo : public ZnDbDatabaseSummaryInfo {
   }
 
  private:
-  static Zent::ErrorStatus Give(const std::wstring& text, ZnString& out) {
-    out = ZnString(text.c_str());
+  static Zent::ErrorStatus Give(const std::optional<std::wstring>& text, ZnString& out) {
+    if (!text) return Zent::kNotApplicable;
+    out = ZnString(text->c_str());
     return Zent::kOk;
   }
 

@@ -54,6 +54,11 @@ TEST_F(Dictionaries, EachIsOpenedForReadAndClosedBeforeTheNext) {
                           "getPlotSettingsDictionary(0)", "plot settings.close()"));
 }
 
+TEST_F(Dictionaries, EachIsClosedWithoutAskingForItsId) {
+  Listed();
+  EXPECT_EQ(world.Count("objectId"), 0);
+}
+
 TEST_F(Dictionaries, EachThatDoesNotOpenCostsOnlyItsOwnNames) {
   FillDictionaries(world);
   const std::pair<const char*, const char*> getters[] = {

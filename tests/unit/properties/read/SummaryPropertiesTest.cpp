@@ -82,6 +82,12 @@ TEST_F(SummaryProperties, AFieldThatFailsIsNotCopied) {
                           "znutNewString(Draft)", "znutNewString(Bob)", "znutNewString(7)"));
 }
 
+TEST_F(SummaryProperties, ABufferThatIsNullIsNotFreed) {
+  world.FailWithNull("znutNewString", 5, 2);
+  Collected(CollectSummaryProperties);
+  EXPECT_EQ(world.Count("znutDelBuffer"), 6);
+}
+
 TEST_F(SummaryProperties, AFieldWhoseTextCannotBeCopiedIsAddedWithANullText) {
   world.Fail("znutNewString", 40, 1);
   EXPECT_THAT(Fields(),
