@@ -2,23 +2,22 @@
 //
 // On Windows these are the system's own.  Elsewhere this header gives the same names with the same
 // meaning and, for 64-bit systems, the same layout, so that a client reads a property's value in
-// the same words on every system.  Only what the interface uses is here.
+// the same words on every system.  Only what the interface uses is here.  A client that has these
+// names from another header already, meaning the same, defines ZDXENGINE_HAS_AUTOMATION_TYPES.
 #pragma once
 
 #include "ZDXEngine/Export.h"
 
 #if defined(_WIN32)
 
-#ifndef WIN32_LEAN_AND_MEAN
-#define WIN32_LEAN_AND_MEAN
-#endif
-#ifndef NOMINMAX
-#define NOMINMAX
-#endif
 #include <comdef.h>
 #include <oaidl.h>
+#if __has_include(<atlexcept.h>)
+#include <atlexcept.h>
+#define ZDXENGINE_HAS_ATL_EXCEPTION
+#endif
 
-#else
+#elif !defined(ZDXENGINE_HAS_AUTOMATION_TYPES)
 
 #include <cstdint>
 
@@ -109,7 +108,9 @@ class ZDXENGINE_API _com_error {
 
 #endif
 
-// The free compilers for Windows lack this one, so it is ours on every system.
+#if !defined(ZDXENGINE_HAS_ATL_EXCEPTION) && !defined(ZDXENGINE_HAS_AUTOMATION_TYPES)
+
+// The free compilers lack this one.
 namespace ATL {
 
 // Carries an HRESULT as an exception; converts to it.
@@ -123,3 +124,5 @@ class ZDXENGINE_API CAtlException {
 };
 
 }  // namespace ATL
+
+#endif

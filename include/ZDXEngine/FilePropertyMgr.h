@@ -1,4 +1,7 @@
 // Reading the properties of a drawing.
+//
+// Texts, lists and exceptions cross the library's edge: client and library must be built with the
+// same C++ runtime.
 #pragma once
 
 #include <cstdint>
@@ -58,22 +61,30 @@ class ZDXENGINE_API FilePropertyMgr {
   static FilePropertyMgr& Instance();
 
   // Opens the drawing at `path` and tells which product made it.  Throws a FileError if the drawing
-  // can't be opened.
+  // can't be opened, or with an empty file name in its sentence if the block table can't.
   DwgFileType GetFileType(const std::wstring& path);
 
   // Opens the drawing at `path` and collects what `selection` names, in a fixed order.  Throws a
-  // FileError if the drawing can't be opened, and _com_error if a value can't be allocated; there
+  // FileError as GetFileType does, and _com_error if a value can't be allocated; there
   // is no partial result.  A value that can't be read is left out.
   std::vector<_PropData> GetProperties(const std::wstring& path,
                                        std::vector<BlockFilterParam>& filters,
                                        FilePropertiesSet selection);
 
   FilePropertyMgr(const FilePropertyMgr&) = delete;
+  // There is nothing to copy; gives the object itself.
+  FilePropertyMgr& operator=(const FilePropertyMgr&);
 
  private:
   FilePropertyMgr() = default;
   ~FilePropertyMgr() = default;
-  FilePropertyMgr& operator=(const FilePropertyMgr&);
 };
+
+// The selection of what either of the two names.
+constexpr FilePropertyMgr::FilePropertiesSet operator|(FilePropertyMgr::FilePropertiesSet a,
+                                                       FilePropertyMgr::FilePropertiesSet b) {
+  return static_cast<FilePropertyMgr::FilePropertiesSet>(static_cast<std::int32_t>(a) |
+                                                         static_cast<std::int32_t>(b));
+}
 
 }  // namespace ZDXEngine

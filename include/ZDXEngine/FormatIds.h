@@ -1,4 +1,7 @@
 // The property sets under which the engine publishes values.
+//
+// Some systems' headers declare names like these outside of any namespace: write them with theirs,
+// `ZDXEngine::`, rather than bring the whole namespace in.
 #pragma once
 
 #include "ZDXEngine/Automation.h"

@@ -16,12 +16,16 @@ inline constexpr std::int32_t kTypeText = 2;    // VT_BSTR, whose pointer may be
 inline constexpr std::int32_t kTypeBinary = 4;  // VT_ARRAY | VT_UI1
 
 // One property value.  The record owns its strings and its variant; copying it copies all of them
-// and throws _com_error if the variant can't be copied.
+// and throws _com_error if the variant can't be copied.  A client reads the variant and leaves it
+// as it is: where the system has no automation library, only the engine can make and release one.
 class ZDXENGINE_API _PropData {
  public:
   _PropData();
   _PropData(const _PropData& other);
+  // Takes the value over, which `other` then lacks: so a list grows without copying its texts.
+  _PropData(_PropData&& other) noexcept;
   _PropData& operator=(const _PropData& other);
+  _PropData& operator=(_PropData&& other) noexcept;
   ~_PropData();
 
   // The property set, as braced upper-case text of its format id.

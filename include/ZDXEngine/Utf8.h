@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 namespace ZDXEngine {
 
@@ -120,13 +121,14 @@ inline std::wstring WideFromUtf8(std::string_view bytes) {
 }
 
 // The exact inverse of WideFromUtf8: the bytes of a file name.  A lone surrogate that stands for no
-// byte is written as the three bytes of its own number, as other programs on such systems do.
+// byte is written as the three bytes of its own number, as other programs on such systems do.  A
+// number above U+10FFFF, which is no character, becomes U+FFFD.
 inline std::string BytesFromWide(std::wstring_view text) {
   return utf8_detail::Encode(text, [](std::string& bytes, char32_t point) {
     if (point >= 0xDC80 && point <= 0xDCFF) {
       bytes.push_back(static_cast<char>(point - 0xDC00));
     } else {
-      utf8_detail::AppendUtf8(bytes, point);
+      utf8_detail::AppendUtf8(bytes, point > 0x10FFFF ? utf8_detail::kReplacement : point);
     }
   });
 }

@@ -1,8 +1,9 @@
 // Starting and stopping the engine inside the client's process.
 //
 // The operations stand in the order in which a client calls them, from one thread, never while a
-// property or reference operation runs.  None of them throws or reports anything: what the drawing
-// library answers is dropped.
+// property or reference operation runs.  None of them throws on its own account or reports
+// anything: what the drawing library answers is dropped.  ValidateHostApplication,
+// InitHostApplication and UnInitializeHostApplication need host services to be installed.
 #pragma once
 
 #include <string>
@@ -34,7 +35,7 @@ ZDXENGINE_API void UpdateHostAppParam(const HostApplicationParam& param);
 // Runs the drawing library's own check of its setup, for the locale identifier `locale`.
 ZDXENGINE_API void ValidateHostApplication(long locale);
 // Loads the object modules and makes the database that works while the engine is idle.  A second
-// call does nothing.  Host services must be installed.
+// call does nothing.
 ZDXENGINE_API void InitHostApplication();
 // Starts the dependency-walking library.
 ZDXENGINE_API void InitializeEConvyEngine();

@@ -51,6 +51,11 @@ constexpr std::array<char16_t, 32> kWesternHigh = {
     0x2039, 0x0152, 0,      0x017D, 0,      0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
 
+// The converter of this page takes the backslash for the currency sign that old screens showed in
+// its place; drawings mean the backslash.
+constexpr CodePageId kJohab = 1361;
+constexpr wchar_t kWonSign = 0x20A9;
+
 char LowerAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; }
 
 bool KnownPage(CodePageId page) {
@@ -113,20 +118,25 @@ class CodePageDecoder::Converter {
     return handle_ != reinterpret_cast<iconv_t>(-1);  // NOLINT(performance-no-int-to-ptr)
   }
 
-  std::optional<std::wstring> Convert(std::string_view bytes) {
+  // The text of `bytes` up to the first that means nothing; `bytes` becomes what is left.
+  std::wstring Convert(std::string_view& bytes) {
     // No page here gives more than four bytes of UTF-8 for one byte.
-    std::string utf8(bytes.size() * 4, '\0');
+    std::string utf8(bytes.size() * 4 + kMostHeldBack, '\0');
     char* in = const_cast<char*>(bytes.data());
     char* out = utf8.data();
     std::size_t inLeft = bytes.size();
     std::size_t outLeft = utf8.size();
     iconv(handle_, nullptr, nullptr, nullptr, nullptr);
-    const std::size_t result = iconv(handle_, &in, &inLeft, &out, &outLeft);
-    if (result == static_cast<std::size_t>(-1) || inLeft != 0) return std::nullopt;
+    iconv(handle_, &in, &inLeft, &out, &outLeft);
+    // A letter may be held back for an accent that could follow it.
+    iconv(handle_, nullptr, nullptr, &out, &outLeft);
+    bytes.remove_prefix(bytes.size() - inLeft);
     return ZDXEngine::WideFromUtf8(std::string_view(utf8.data(), utf8.size() - outLeft));
   }
 
  private:
+  static constexpr std::size_t kMostHeldBack = 16;
+
   iconv_t handle_;
 };
 
@@ -152,13 +162,30 @@ CodePageDecoder::~CodePageDecoder() = default;
 CodePageDecoder::CodePageDecoder(CodePageDecoder&&) noexcept = default;
 CodePageDecoder& CodePageDecoder::operator=(CodePageDecoder&&) noexcept = default;
 
+// The text of `bytes` up to the first that means nothing in the page.
+std::wstring CodePageDecoder::Convert(std::string_view& bytes) {
+  std::wstring text = converter_->Convert(bytes);
+  if (page_ == kJohab) std::replace(text.begin(), text.end(), kWonSign, L'\\');
+  return text;
+}
+
 std::optional<std::wstring> CodePageDecoder::Decode(std::string_view bytes) {
   if (page_ == kWestern) return DecodeWestern(bytes, false);
   if (page_ == kUtf8) return DecodeUtf8(bytes);
   if (converter_ == nullptr || !converter_->Usable()) return std::nullopt;
-  return converter_->Convert(bytes);
+  std::wstring text = Convert(bytes);
+  return bytes.empty() ? std::optional(std::move(text)) : std::nullopt;
 }
 
-std::wstring DecodeWesternLeniently(std::string_view bytes) { return *DecodeWestern(bytes, true); }
+std::wstring CodePageDecoder::DecodeLeniently(std::string_view bytes) {
+  if (converter_ == nullptr || !converter_->Usable()) return *DecodeWestern(bytes, true);
+  std::wstring text = Convert(bytes);
+  while (!bytes.empty()) {
+    text += *DecodeWestern(bytes.substr(0, 1), true);
+    bytes.remove_prefix(1);
+    text += Convert(bytes);
+  }
+  return text;
+}
 
 }  // namespace zdx

@@ -30,15 +30,15 @@ class CodePageDecoder {
   CodePageId page() const { return page_; }
   // The text of `bytes`; nullopt if some of them mean nothing in this page.
   std::optional<std::wstring> Decode(std::string_view bytes);
+  // The same with every byte that means nothing taken as the Western character of its number.
+  std::wstring DecodeLeniently(std::string_view bytes);
 
  private:
+  std::wstring Convert(std::string_view& bytes);
+
   class Converter;
   CodePageId page_;
   std::unique_ptr<Converter> converter_;
 };
-
-// Decodes the Western page so that every byte has a character: the five bytes that mean nothing
-// there become the control characters of their number.
-std::wstring DecodeWesternLeniently(std::string_view bytes);
 
 }  // namespace zdx

@@ -6,7 +6,8 @@
 namespace platform {
 
 // Holds a pointer to the installed provider, which it doesn't own.  Each library has one slot, in
-// one .cpp, so that there is one per process on every system.
+// one .cpp, so that there is one per process on every system; it is `constinit`, since providers
+// are installed before other static objects are made.
 template <class Provider>
 class ProviderSlot {
  public:

@@ -3,7 +3,7 @@
 namespace ZDXEngine {
 namespace {
 
-os::ModuleHandle moduleHandle = nullptr;
+constinit os::ModuleHandle moduleHandle = nullptr;
 
 struct Holder {
   ~Holder() {

@@ -221,6 +221,105 @@ TEST_P(DatabaseContract, ItsRegistryHoldsADynamicLinker) {
   EXPECT_EQ(znrxSysRegistry()->at(L"Nothing"), nullptr);
 }
 
+TEST_P(DatabaseContract, ItsLinkerLoadsTheObjectModules) {
+  auto* const linker = static_cast<ZnRxDynamicLinker*>(znrxSysRegistry()->at(L"DynamicLinker"));
+  for (const wchar_t* name : {L"znismobj24.zdx", L"znGeomentObj.zdx", L"znModelDocObj.zdx"}) {
+    EXPECT_TRUE(linker->loadModule(name, false, false));
+    EXPECT_TRUE(linker->unloadModule(name, false));
+  }
+}
+
+// A host that answers nothing.
+class Host : public ZnDbHostApplicationServices {
+ public:
+  Host() : ZnDbHostApplicationServices(1) {}
+  void* workingServiceObject() const override { return nullptr; }
+  const wchar_t* getHostIdentityPrimary() const override { return L""; }
+  const wchar_t* getHostIdentitySecondary() const override { return L""; }
+  bool substituteFontRequest(ZnFontRequest* /*request*/) override { return false; }
+  bool acceptHostQuery(void* /*query*/) override { return true; }
+};
+
+TEST_P(DatabaseContract, KeepsTheInstalledServices) {
+  EXPECT_EQ(zndbHostApplicationServices(), nullptr);
+  Host host;
+  EXPECT_EQ(zndbSetHostApplicationServices(&host), Zent::kOk);
+  EXPECT_EQ(zndbHostApplicationServices(), &host);
+  EXPECT_EQ(zndbSetHostApplicationServices(nullptr), Zent::kOk);
+  EXPECT_EQ(zndbHostApplicationServices(), nullptr);
+}
+
+TEST_P(DatabaseContract, KeepsTheWorkingDatabase) {
+  Host host;
+  EXPECT_EQ(host.prodcode(), 4);
+  host.setWorkingDatabase(&*database);
+  EXPECT_EQ(host.workingDatabase(), &*database);
+  host.setWorkingDatabase(nullptr);
+  EXPECT_EQ(host.workingDatabase(), nullptr);
+}
+
+TEST_P(DatabaseContract, EntriesAreFoundWithoutRegardToCase) {
+  ZnDbDictionary* dictionary = nullptr;
+  ASSERT_EQ(database->getGroupDictionary(dictionary, ZnDb::kForRead), Zent::kOk);
+  ZnDbObjectId id;
+  EXPECT_EQ(dictionary->getAt(L"pAIR", id), Zent::kOk);
+  dictionary->close();
+}
+
+class EmbeddedDatabase : public testing::Test {
+ protected:
+  Embedded subject;
+};
+
+TEST_F(EmbeddedDatabase, DestroyedServicesAreNoLongerInstalled) {
+  {
+    Host host;
+    zndbSetHostApplicationServices(&host);
+  }
+  EXPECT_EQ(zndbHostApplicationServices(), nullptr);
+}
+
+TEST_F(EmbeddedDatabase, ItsLinkerKnowsNoOtherModules) {
+  auto* const linker = static_cast<ZnRxDynamicLinker*>(znrxSysRegistry()->at(L"DynamicLinker"));
+  EXPECT_FALSE(linker->loadModule(L"other.zdx", false, false));
+}
+
+TEST_F(EmbeddedDatabase, ReadsOneFileOnly) {
+  ZnDbDatabase database(false, true);
+  ASSERT_EQ(subject.Read(database), Zent::kOk);
+  EXPECT_NE(subject.Read(database), Zent::kOk);
+}
+
+TEST_F(EmbeddedDatabase, AnObjectIsTheSameHoweverOftenItIsClosed) {
+  ZnDbDatabase database(false, true);
+  ASSERT_EQ(subject.Read(database), Zent::kOk);
+  ZnDbLayerTable* table = nullptr;
+  ASSERT_EQ(database.getSymbolTable(table, ZnDb::kForRead), Zent::kOk);
+  EXPECT_EQ(table->close(), Zent::kOk);
+  EXPECT_EQ(table->close(), Zent::kOk);
+  ZnDbLayerTable* again = nullptr;
+  ASSERT_EQ(database.getSymbolTable(again, ZnDb::kForRead), Zent::kOk);
+  EXPECT_EQ(again, table);
+}
+
+TEST_F(EmbeddedDatabase, BeforeAFileIsReadThereIsNothing) {
+  ZnDbDatabase database(true, true);
+  ZnDbLayerTable* table = nullptr;
+  EXPECT_NE(database.getSymbolTable(table, ZnDb::kForRead), Zent::kOk);
+  EXPECT_EQ(table, nullptr);
+  EXPECT_TRUE(database.namedObjectsDictionaryId().isNull());
+  EXPECT_EQ(database.originalFileVersion(), 0);
+  const wchar_t* name = nullptr;
+  EXPECT_NE(database.getFilename(name), Zent::kOk);
+}
+
+TEST_F(EmbeddedDatabase, SavesNothingYet) {
+  ZnDbDatabase database(false, true);
+  ASSERT_EQ(subject.Read(database), Zent::kOk);
+  EXPECT_NE(database.saveAs(L"/nowhere/a.dwg", true, 33, nullptr), Zent::kOk);
+  EXPECT_NE(database.dxfOut(L"/nowhere/a.dxf", 16, 33, false), Zent::kOk);
+}
+
 INSTANTIATE_TEST_SUITE_P(Providers, DatabaseContract, testing::Values("Embedded", "Scripted"),
                          [](const auto& info) { return info.param; });
 

@@ -5,7 +5,7 @@
 namespace Common {
 namespace {
 
-platform::ProviderSlot<Provider> slot;
+constinit platform::ProviderSlot<Provider> slot;
 
 }  // namespace
 

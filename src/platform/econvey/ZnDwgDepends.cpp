@@ -5,8 +5,8 @@
 namespace ZnDwgDepends {
 namespace {
 
-Binder installedBinder = nullptr;
-Provider* bound = nullptr;
+constinit Binder installedBinder = nullptr;
+constinit Provider* bound = nullptr;
 
 Provider& Bound() {
   if (bound == nullptr) {

@@ -5,7 +5,7 @@
 namespace os {
 namespace {
 
-platform::ProviderSlot<Provider> slot;
+constinit platform::ProviderSlot<Provider> slot;
 
 }  // namespace
 

@@ -4,7 +4,7 @@
 
 namespace {
 
-platform::ProviderSlot<zndb::Provider> slot;
+constinit platform::ProviderSlot<zndb::Provider> slot;
 
 }  // namespace
 

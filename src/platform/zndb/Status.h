@@ -16,6 +16,5 @@ inline constexpr ErrorStatus kOutOfMemory = 40;
 inline constexpr ErrorStatus kFileNotFound = 76;
 inline constexpr ErrorStatus kFileAccess = 77;
 inline constexpr ErrorStatus kNotADrawing = 314;
-inline constexpr ErrorStatus kCannotWriteBack = 434;
 
 }  // namespace Zent

@@ -17,8 +17,9 @@ class DatabaseBody;
 // A drawing database.  Built on the caller's stack, or on the library's heap by `new`.
 class ZnDbDatabase {
  public:
-  // `buildDefault` true: the database holds an empty drawing; false: it waits for a file.
-  // `noDocument` is always true: no document is tied to it.
+  // `buildDefault` true: a database to work in while no file is open, whose contents nobody asks
+  // for; false: it waits for a file, and reads one only. `noDocument` is always true: no document
+  // is tied to it.
   ZnDbDatabase(bool buildDefault, bool noDocument);
   virtual ~ZnDbDatabase();
   ZnDbDatabase(const ZnDbDatabase&) = delete;
@@ -47,7 +48,7 @@ class ZnDbDatabase {
   // The database's file name; `name` is valid as long as the database.
   Zent::ErrorStatus getFilename(const wchar_t*& name) const;
 
-  // The symbol tables, open for read.
+  // The symbol tables, open for read; the pointer is null unless the status is 0.
   Zent::ErrorStatus getSymbolTable(ZnDbBlockTable*& table, int mode);
   Zent::ErrorStatus getSymbolTable(ZnDbLayerTable*& table, int mode);
   Zent::ErrorStatus getSymbolTable(ZnDbLinetypeTable*& table, int mode);
@@ -55,7 +56,7 @@ class ZnDbDatabase {
 
   // The root dictionary; null if the drawing has none.
   ZnDbObjectId namedObjectsDictionaryId() const;
-  // The standard dictionaries, open for read.
+  // The standard dictionaries, open for read; pointers as above.
   Zent::ErrorStatus getGroupDictionary(ZnDbDictionary*& dictionary, int mode);
   Zent::ErrorStatus getMLStyleDictionary(ZnDbDictionary*& dictionary, int mode);
   Zent::ErrorStatus getLayoutDictionary(ZnDbDictionary*& dictionary, int mode);

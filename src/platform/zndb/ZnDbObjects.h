@@ -142,7 +142,8 @@ class ZnDbDictionaryIterator {
 class ZnDbDictionary : public ZnDbObject {
  public:
   static ZnRxClass* desc();
-  // 0 and its id if the entry exists, whether or not its object does.
+  // 0 and its id if the entry exists, whether or not its object does.  Names are compared without
+  // regard to case.
   virtual Zent::ErrorStatus getAt(const wchar_t* name, ZnDbObjectId& id) const = 0;
   // Null if there is none to be had; the caller deletes it.
   virtual ZnDbDictionaryIterator* newIterator() const = 0;

@@ -8,7 +8,7 @@
 #include "platform/common/CommonUtils.h"
 #include "properties/read/OpenObject.h"
 #include "properties/record/AddProperty.h"
-#include "resources/EmptyText.h"
+#include "resources/Constants.h"
 
 namespace ZDXEngine {
 namespace {
@@ -30,7 +30,7 @@ bool HasBlock(ZnDbDatabase* database, const wchar_t* name) {
   ZnDbBlockTable* opened = nullptr;
   const Zent::ErrorStatus status =
       database == nullptr ? Zent::kNullDatabase : database->getSymbolTable(opened, ZnDb::kForRead);
-  ThrowForStatus(status, EmptyText());
+  ThrowForStatus(status, kEmptyText);
   const ReleasedObject<ZnDbBlockTable> table(opened);
   table->assertReadEnabled();
   ZnDbObjectId id;

@@ -15,12 +15,19 @@ _PropData::_PropData(const _PropData& other)
   if (result < 0) throw _com_error(result);
 }
 
-_PropData& _PropData::operator=(const _PropData& other) {
-  _PropData copy(other);
-  formatId.swap(copy.formatId);
-  name.swap(copy.name);
-  std::swap(value, copy.value);
-  std::swap(typeCode, copy.typeCode);
+_PropData::_PropData(_PropData&& other) noexcept
+    : formatId(std::move(other.formatId)), name(std::move(other.name)), typeCode(other.typeCode) {
+  os::VariantInit(&value);
+  std::swap(value, other.value);
+}
+
+_PropData& _PropData::operator=(const _PropData& other) { return *this = _PropData(other); }
+
+_PropData& _PropData::operator=(_PropData&& other) noexcept {
+  formatId.swap(other.formatId);
+  name.swap(other.name);
+  std::swap(value, other.value);
+  std::swap(typeCode, other.typeCode);
   return *this;
 }
 

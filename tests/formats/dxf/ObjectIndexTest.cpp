@@ -66,6 +66,21 @@ TEST(ObjectIndex, OnlyObjectsWithinThePlacesCount) {
   EXPECT_FALSE(index.Find(2));
 }
 
+TEST(ObjectIndex, HandlesBeyond32BitsAreFound) {
+  const std::string first = ObjectText("A", "  5\nFFFFFFFFFFFFFFFF\n");
+  const std::string second = ObjectText("B", "  5\n100000000\n");
+  const ObjectIndex index = IndexOf(first + second + ObjectText("C", "  5\nFFFFFFFF\n"));
+  EXPECT_EQ(index.Find(0xFFFFFFFFFFFFFFFF), 0u);
+  EXPECT_EQ(index.Find(0x100000000), first.size());
+  EXPECT_EQ(index.Find(0xFFFFFFFF), first.size() + second.size());
+  EXPECT_EQ(index.Find(0x100000001), std::nullopt);
+}
+
+TEST(ObjectIndex, AHeadersVariablesAreNoObject) {
+  const ObjectIndex index = IndexOf("  0\nSECTION\n  2\nHEADER\n  9\n$HANDSEED\n  5\nABC\n");
+  EXPECT_EQ(index.Find(0xABC), std::nullopt);
+}
+
 TEST(ObjectIndex, HoldsEveryObjectOfALongFile) {
   std::string text;
   for (int i = 1; i <= 20000; ++i) {

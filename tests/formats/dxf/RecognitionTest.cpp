@@ -66,6 +66,7 @@ TEST(Recognition, OtherFilesAreRefused) {
 TEST(Recognition, ARefusedTextTellsTheLine) {
   EXPECT_EQ(Recognise("999\nby hand\n  0\nLINE\n").refusal.line, 3u);
   EXPECT_EQ(Recognise("<html>\n").refusal.line, 1u);
+  EXPECT_EQ(Recognise("\xEF\xBB\xBFhello\n").refusal.line, 1u);
 }
 
 TEST(Recognition, OtherRefusedFilesTellTheOffset) {

@@ -41,7 +41,7 @@ TEST(StoredText, TextThatIsNotInTheCodePageFallsBackToUtf8AndIsToldOf) {
   EXPECT_TRUE(decoded.flaws.notInEncoding);
 }
 
-TEST(StoredText, TextThatIsInNeitherIsTakenByteByByte) {
+TEST(StoredText, InATextThatIsInNeitherAStrayByteIsWestern) {
   const Decoded decoded(kVersion1032, 932, "a\x81");
   EXPECT_EQ(decoded.text, (std::wstring{L'a', static_cast<wchar_t>(0x81)}));
   EXPECT_TRUE(decoded.flaws.notInEncoding);

@@ -1,5 +1,6 @@
 #include "support/scripted/InFreshProcess.h"
 
+#include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -52,17 +53,28 @@ std::vector<Call> Parse(const std::string& bytes) {
   return calls;
 }
 
+// How the child ended, as waitpid tells it.
 int WaitFor(pid_t child) {
   int status = 0;
   while (waitpid(child, &status, 0) < 0) {
-    if (errno != EINTR) return -1;
+    if (errno != EINTR) throw std::runtime_error("the child is lost");
   }
-  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  return status;
 }
 
-}  // namespace
+std::string Ending(int status) {
+  if (WIFSIGNALED(status)) return "was ended by signal " + std::to_string(WTERMSIG(status));
+  if (WEXITSTATUS(status) == kBodyThrew) return "threw";
+  return "exited with " + std::to_string(WEXITSTATUS(status));
+}
 
-Afterlife InFreshProcess(const std::function<void(World& world)>& body) {
+std::string LastOf(const std::vector<Call>& log) {
+  return log.empty() ? "its start" : log.back().text;
+}
+
+enum class MayDie { kNo, kYes };
+
+Afterlife Run(const std::function<void(World& world)>& body, MayDie mayDie) {
   int ends[2];
   if (pipe(ends) != 0) throw std::runtime_error("no pipe");
   // What is still buffered would otherwise be written by both.
@@ -74,12 +86,26 @@ Afterlife InFreshProcess(const std::function<void(World& world)>& body) {
     RunChild(body, ends[1]);
   }
   close(ends[1]);
-  Afterlife afterlife;
   const std::string bytes = ReadAll(ends[0]);
   close(ends[0]);
-  afterlife.exitCode = WaitFor(child);
+  const int status = WaitFor(child);
+  Afterlife afterlife;
+  afterlife.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
   afterlife.log = Parse(bytes);
+  if (mayDie == MayDie::kNo && afterlife.exitCode != 0) {
+    ADD_FAILURE() << "the child " << Ending(status) << ", after " << LastOf(afterlife.log);
+  }
   return afterlife;
+}
+
+}  // namespace
+
+Afterlife InFreshProcess(const std::function<void(World& world)>& body) {
+  return Run(body, MayDie::kNo);
+}
+
+Afterlife InFreshProcessThatMayDie(const std::function<void(World& world)>& body) {
+  return Run(body, MayDie::kYes);
 }
 
 }  // namespace scripted

@@ -16,7 +16,8 @@ namespace scripted {
 
 // What came back from the process.
 struct Afterlife {
-  // 0 if the body returned and the process then ended cleanly; kBodyThrew if it threw.
+  // 0 if the body returned and the process then ended cleanly; kBodyThrew if it threw; -1 if a
+  // signal ended it.
   int exitCode = -1;
   // The calls, those of the exit handlers included.
   std::vector<Call> log;
@@ -31,7 +32,11 @@ inline constexpr int kBodyThrew = 70;
 
 // Forks, runs `body` in the child in a world that is never torn down, and leaves by std::exit, so
 // that the exit handlers run.  `body` tells what it finds by World::Note: an expectation that fails
-// in the child wouldn't reach the parent.
+// in the child wouldn't reach the parent.  The calling test fails unless the child exits with 0.
 Afterlife InFreshProcess(const std::function<void(World& world)>& body);
+
+// The same for a body that does what callers mustn't: it may end in any way, even by a signal. What
+// it called until then is in the log.
+Afterlife InFreshProcessThatMayDie(const std::function<void(World& world)>& body);
 
 }  // namespace scripted

@@ -43,8 +43,8 @@ void Library::destroyServices(ZnDbHostApplicationServices* host) {
   if (services == host) services = nullptr;
 }
 
-int Library::prodcode(const ZnDbHostApplicationServices* /*host*/) {
-  calls_.Record("", "prodcode");
+int Library::prodcode(const ZnDbHostApplicationServices* host) {
+  calls_.Record(NameOf(host), "prodcode");
   return productCode;
 }
 
@@ -54,13 +54,13 @@ bool Library::getSubstituteFont(ZnDbHostApplicationServices* /*host*/, ZnFontReq
   return hasSubstituteFont;
 }
 
-ZnDbDatabase* Library::workingDatabase(const ZnDbHostApplicationServices* /*host*/) {
-  calls_.Record("", "workingDatabase");
+ZnDbDatabase* Library::workingDatabase(const ZnDbHostApplicationServices* host) {
+  calls_.Record(NameOf(host), "workingDatabase");
   return working;
 }
 
-void Library::setWorkingDatabase(ZnDbHostApplicationServices* /*host*/, ZnDbDatabase* database) {
-  calls_.Record("", "setWorkingDatabase", NameOf(database));
+void Library::setWorkingDatabase(ZnDbHostApplicationServices* host, ZnDbDatabase* database) {
+  calls_.Record(NameOf(host), "setWorkingDatabase", NameOf(database));
   working = database;
 }
 
@@ -129,6 +129,10 @@ void Library::znutDelBuffer(wchar_t*& buffer) {
   calls_.Record("", "znutDelBuffer");
   if (buffer != nullptr && ledger_.Release(buffer, "buffer")) std::free(buffer);
   buffer = nullptr;
+}
+
+std::string Library::NameOf(const ZnDbHostApplicationServices* host) const {
+  return host == services ? "" : "services not installed";
 }
 
 std::string Library::NameOf(const ZnDbDatabase* database) const {

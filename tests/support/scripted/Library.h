@@ -52,6 +52,8 @@ class Library : public zndb::Provider {
   void znutDelBuffer(wchar_t*& buffer) override;
 
  private:
+  // Nothing for the installed services, so that their calls are told plainly.
+  std::string NameOf(const ZnDbHostApplicationServices* host) const;
   // "database 1" for the first that was made, "null" for none.
   std::string NameOf(const ZnDbDatabase* database) const;
 

@@ -104,8 +104,10 @@ class DictionaryObject : public Object<ZnDbDictionary> {
   Zent::ErrorStatus getAt(const wchar_t* name, ZnDbObjectId& id) const override {
     const Outcome outcome = Record("getAt", Arguments(name));
     if (outcome.status != Zent::kOk) return outcome.status;
-    const auto entry =
-        std::ranges::find(dictionary_.entries, std::wstring(name), &Dictionary::Entry::name);
+    const auto entry = std::ranges::find_if(
+        dictionary_.entries, [wanted = FoldCase(name)](const Dictionary::Entry& candidate) {
+          return FoldCase(candidate.name) == wanted;
+        });
     if (entry == dictionary_.entries.end()) return Zent::kKeyNotFound;
     id = IdOf(entry->object);
     return Zent::kOk;

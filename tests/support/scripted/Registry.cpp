@@ -8,9 +8,9 @@ class Linker : public ZnRxDynamicLinker {
   explicit Linker(CallLog& calls) : calls_(calls) {}
 
   ZnRxClass* isA() const override {
-    static ZnRxClass descriptor(L"Linker", ZnRxDynamicLinker::desc());
-    calls_.Record("linker", "isA");
-    return &descriptor;
+    static ZnRxClass linker(L"Linker", ZnRxDynamicLinker::desc());
+    static ZnRxClass somethingElse(L"SomethingElse", ZnRxObject::desc());
+    return calls_.Record("linker", "isA").status == Zent::kOk ? &linker : &somethingElse;
   }
   bool loadModule(const wchar_t* name, bool printMessage, bool asCommand) override {
     return !calls_.Record("", "loadModule", Arguments(name, printMessage, asCommand)).null;

@@ -8,7 +8,8 @@
 
 namespace scripted {
 
-// The linker is of a class below ZnRxDynamicLinker.
+// The linker is of a class below ZnRxDynamicLinker; where a script makes its isA fail, it says that
+// it is of another class and logs what it is asked to load all the same.
 std::unique_ptr<ZnRxDictionary> NewRegistry(CallLog& calls);
 
 }  // namespace scripted

@@ -23,8 +23,9 @@
 
 namespace scripted {
 
-// Installs a stand-in for every platform interface and, when it ends, what was there before.  There
-// is one world at a time, and it outlives everything that the engine keeps.
+// Installs a stand-in for every platform interface and, when it ends, what was there before; of the
+// walker library alone nothing is installed then.  There is one world at a time, and it outlives
+// everything that the engine keeps.
 class World {
  public:
   World();

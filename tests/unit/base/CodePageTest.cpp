@@ -31,13 +31,28 @@ TEST(CodePage, WesternRefusesTheBytesItLacks) {
   EXPECT_EQ(CodePageDecoder(1252).Decode("a\x81"), std::nullopt);
 }
 
-TEST(CodePage, TheLenientWesternTakesEveryByte) {
+TEST(CodePage, LenientlyEveryByteHasACharacter) {
   std::string all;
   for (int byte = 0; byte < 256; ++byte) all.push_back(static_cast<char>(byte));
-  const std::wstring text = DecodeWesternLeniently(all);
+  const std::wstring text = CodePageDecoder(1252).DecodeLeniently(all);
   ASSERT_EQ(text.size(), 256u);
   EXPECT_EQ(text[0x81], static_cast<wchar_t>(0x81));
   EXPECT_EQ(text[0x80], static_cast<wchar_t>(0x20AC));
+}
+
+TEST(CodePage, LenientlyAStrayByteCostsOnlyItself) {
+  EXPECT_EQ(CodePageDecoder(1253).DecodeLeniently("\xCF\xFF\xEA"), WideFromUtf8("Οÿκ"));
+  EXPECT_EQ(CodePageDecoder(932).DecodeLeniently("\x96\xCA\x90"),
+            WideFromUtf8("面") + static_cast<wchar_t>(0x90));
+}
+
+TEST(CodePage, ALetterThatWaitsForAnAccentIsNotLostAtTheEnd) {
+  EXPECT_EQ(CodePageDecoder(1258).Decode("\xD0\x61"), WideFromUtf8("Đa"));
+  EXPECT_EQ(CodePageDecoder(1255).Decode("\xF9\xEC\xE0"), WideFromUtf8("שלא"));
+}
+
+TEST(CodePage, JohabKeepsTheBackslash) {
+  EXPECT_EQ(CodePageDecoder(1361).Decode("C:\\\x88\x61"), WideFromUtf8("C:\\가"));
 }
 
 TEST(CodePage, CyrillicGreekAndJapaneseDecode) {

@@ -158,6 +158,17 @@ TEST_F(Save, SaveDwgAsWritesNothingAndSucceedsForAnyOtherClass) {
   EXPECT_THAT(Writes(), IsEmpty());
 }
 
+TEST_F(Save, SaveDwgAsSwitchesTheWorkingDatabaseThereAndBackForAnyOtherClassToo) {
+  ZnDbDatabase database(false, true);
+  for (const int saveClass : {-1, 0, 1, 8, 9}) {
+    world.ForgetCalls();
+    EXPECT_EQ(SaveDwgAs(&database, L"a.dwg", saveClass), 0) << saveClass;
+    EXPECT_THAT(world.Calls({"setWorkingDatabase", "saveAs"}),
+                ElementsAre("setWorkingDatabase(database 1)", "setWorkingDatabase(null)"))
+        << saveClass;
+  }
+}
+
 TEST_F(Save, SaveDwgAsSwitchesTheWorkingDatabaseByItself) {
   ZnDbDatabase database(false, true);
   SaveDwgAs(&database, L"a.dwg", 7);

@@ -47,6 +47,14 @@ TEST_F(WorkingDatabase, IsLeftAloneInAHostOfAnotherKind) {
   EXPECT_EQ(world.Count("saveAs"), 1);
 }
 
+TEST_F(WorkingDatabase, IsLeftAloneInAHostOfAnotherKindForADxfFileToo) {
+  world.library.productCode = 3;
+  world.library.working = &idle;
+  EXPECT_EQ(SaveDrawing(&drawing, L"a.dxf"), 0);
+  EXPECT_THAT(Switches(), IsEmpty());
+  EXPECT_EQ(world.Count("dxfOut"), 1);
+}
+
 TEST_F(WorkingDatabase, IsSwitchedInAHostOfAnotherKindIfThereIsNone) {
   world.library.productCode = 3;
   world.library.working = nullptr;

@@ -48,6 +48,19 @@ TEST(ErrorInfo, AssignmentToItselfChangesNothing) {
   EXPECT_EQ(info.GetRefId(), L"A");
 }
 
+// The record may hold anything afterwards that can be read and replaced.
+TEST(ErrorInfo, MovedToItselfItIsStillARecord) {
+  ErrorInfo info(L"A", kState, L"B");
+  ErrorInfo& same = info;
+  info = std::move(same);
+  EXPECT_TRUE(info.GetErrorMessage() == L"B" || info.GetErrorMessage().empty());
+  EXPECT_TRUE(info.GetRefId() == L"A" || info.GetRefId().empty());
+  EXPECT_EQ(info.GetFileState(), kState);
+  info = ErrorInfo(L"C", FileState{0}, L"D");
+  EXPECT_EQ(info.GetErrorMessage(), L"D");
+  EXPECT_EQ(info.GetRefId(), L"C");
+}
+
 // Long enough that no text is kept inside the string object itself.
 const std::wstring kLong(200, L'x');
 

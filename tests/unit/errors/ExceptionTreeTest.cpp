@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <ostream>
 #include <type_traits>
 
@@ -18,9 +19,14 @@ class ExceptionTree : public scripted::ScriptedTest {
   ExceptionTree() { world.utilities.texts = expected::FailureTexts(); }
 };
 
+// The leaf itself is asked, never the FileError in it alone.
+using Owned = std::unique_ptr<FileError>;
+
 struct Leaf {
   const char* name;
-  FileError (*make)(const std::wstring& path);
+  Owned (*make)(const std::wstring& path);
+  // A copy of one that `make` made, of the same class.
+  Owned (*copy)(const FileError& leaf);
   int errorCode;
   const wchar_t* messageForA;
 };
@@ -29,59 +35,74 @@ struct Leaf {
 void PrintTo(const Leaf& leaf, std::ostream* out) { *out << leaf.name; }
 
 template <class T>
-FileError Make(const std::wstring& path) {
-  return T(path);
+Owned Make(const std::wstring& path) {
+  return std::make_unique<T>(path);
 }
 
 template <int kResourceId>
-FileError MakeConversion(const std::wstring& path) {
-  return ConversionToZENTFormatFailed(kResourceId, path);
+Owned MakeConversion(const std::wstring& path) {
+  return std::make_unique<ConversionToZENTFormatFailed>(kResourceId, path);
+}
+
+template <class T>
+Owned Copy(const FileError& leaf) {
+  return std::make_unique<T>(dynamic_cast<const T&>(leaf));
+}
+
+template <class T>
+constexpr Leaf Row(const char* name, int errorCode, const wchar_t* messageForA) {
+  return {name, Make<T>, Copy<T>, errorCode, messageForA};
+}
+
+template <int kResourceId>
+constexpr Leaf ConversionRow(const char* name, const wchar_t* messageForA) {
+  return {name, MakeConversion<kResourceId>, Copy<ConversionToZENTFormatFailed>, 109, messageForA};
 }
 
 const Leaf kLeaves[] = {
-    {"ReadError", Make<ReadError>, 101, L"Unable to read file  'A' \n"},
-    {"NotFound", Make<NotFound>, 102, L"Unable to find file 'A' \n"},
-    {"InvalidFormat", Make<InvalidFormat>, 103, L"'A' is not a valid Zentrace drawing file \n"},
-    {"SecurityError", Make<SecurityError>, 104,
-     L"Security related errors encountered on file 'A' \n"},
-    {"NoAccess", Make<NoAccess>, 105, L"Unable to access file 'A' \n"},
-    {"NotConvertDigitalSigned", Make<NotConvertDigitalSigned>, 106,
-     L"Unable to convert digitally signed file 'A' \n"},
-    {"SharingViolation", Make<SharingViolation>, 107, L"Sharing violation on file 'A' \n"},
-    {"DataTooLarge", Make<DataTooLarge>, 108, L"File 'A' has too large data \n"},
-    {"ConversionToR14", MakeConversion<112>, 109, L"Unable to convert file 'A' to Zentrace R14 \n"},
-    {"ConversionTo2000", MakeConversion<113>, 109,
-     L"Unable to convert file 'A' to Zentrace 2000 \n"},
-    {"ConversionTo2004", MakeConversion<115>, 109,
-     L"Unable to convert file 'A' to Zentrace 2004 \n"},
-    {"ConversionTo2007", MakeConversion<116>, 109,
-     L"Unable to convert file 'A' to Zentrace 2007 \n"},
-    {"ConversionTo2010", MakeConversion<117>, 109,
-     L"Unable to convert file 'A' to Zentrace 2010 \n"},
-    {"ConversionTo2013", MakeConversion<118>, 109,
-     L"Unable to convert file 'A' to Zentrace 2013 \n"},
-    {"ConversionTo2017", MakeConversion<148>, 109,
-     L"Unable to convert file 'A' to Zentrace 2017 \n"},
-    {"SaveFileError", Make<SaveFileError>, 110, L"Unable to save file 'A' \n"},
-    {"BadDwgHeader", Make<BadDwgHeader>, 302, L"The header of the file 'A' is not valid \n"},
-    {"GetVerticalDependenciesError", Make<GetVerticalDependenciesError>, 303,
-     L"Unable to get vertical dependencies \n"},
-    {"UpdateVerticalDependenciesError", Make<UpdateVerticalDependenciesError>, 304,
-     L"Unable to update vertical dependencies \n"},
+    Row<ReadError>("ReadError", 101, L"Unable to read file  'A' \n"),
+    Row<NotFound>("NotFound", 102, L"Unable to find file 'A' \n"),
+    Row<InvalidFormat>("InvalidFormat", 103, L"'A' is not a valid Zentrace drawing file \n"),
+    Row<SecurityError>("SecurityError", 104, L"Security related errors encountered on file 'A' \n"),
+    Row<NoAccess>("NoAccess", 105, L"Unable to access file 'A' \n"),
+    Row<NotConvertDigitalSigned>("NotConvertDigitalSigned", 106,
+                                 L"Unable to convert digitally signed file 'A' \n"),
+    Row<SharingViolation>("SharingViolation", 107, L"Sharing violation on file 'A' \n"),
+    Row<DataTooLarge>("DataTooLarge", 108, L"File 'A' has too large data \n"),
+    ConversionRow<112>("ConversionToR14", L"Unable to convert file 'A' to Zentrace R14 \n"),
+    ConversionRow<113>("ConversionTo2000", L"Unable to convert file 'A' to Zentrace 2000 \n"),
+    ConversionRow<115>("ConversionTo2004", L"Unable to convert file 'A' to Zentrace 2004 \n"),
+    ConversionRow<116>("ConversionTo2007", L"Unable to convert file 'A' to Zentrace 2007 \n"),
+    ConversionRow<117>("ConversionTo2010", L"Unable to convert file 'A' to Zentrace 2010 \n"),
+    ConversionRow<118>("ConversionTo2013", L"Unable to convert file 'A' to Zentrace 2013 \n"),
+    ConversionRow<148>("ConversionTo2017", L"Unable to convert file 'A' to Zentrace 2017 \n"),
+    Row<SaveFileError>("SaveFileError", 110, L"Unable to save file 'A' \n"),
+    Row<BadDwgHeader>("BadDwgHeader", 302, L"The header of the file 'A' is not valid \n"),
+    Row<GetVerticalDependenciesError>("GetVerticalDependenciesError", 303,
+                                      L"Unable to get vertical dependencies \n"),
+    Row<UpdateVerticalDependenciesError>("UpdateVerticalDependenciesError", 304,
+                                         L"Unable to update vertical dependencies \n"),
 };
 
 class EveryLeaf : public ExceptionTree, public testing::WithParamInterface<Leaf> {};
 
 TEST_P(EveryLeaf, HasItsOwnErrorCode) {
-  EXPECT_EQ(GetParam().make(L"A").errorCode, GetParam().errorCode);
+  EXPECT_EQ(GetParam().make(L"A")->errorCode, GetParam().errorCode);
 }
 
 TEST_P(EveryLeaf, HasItsSentenceWithThePathInPlace) {
-  EXPECT_EQ(GetParam().make(L"A").errorMessage, GetParam().messageForA);
+  EXPECT_EQ(GetParam().make(L"A")->errorMessage, GetParam().messageForA);
 }
 
 TEST_P(EveryLeaf, WhatIsTheSameForAll) {
-  EXPECT_STREQ(GetParam().make(L"A").what(), "Unknown exception");
+  EXPECT_STREQ(GetParam().make(L"A")->what(), "Unknown exception");
+}
+
+TEST_P(EveryLeaf, ACopyHasBothFieldsAndTheSameWhat) {
+  const Owned copy = GetParam().copy(*GetParam().make(L"A"));
+  EXPECT_EQ(copy->errorCode, GetParam().errorCode);
+  EXPECT_EQ(copy->errorMessage, GetParam().messageForA);
+  EXPECT_STREQ(copy->what(), "Unknown exception");
 }
 
 INSTANTIATE_TEST_SUITE_P(Tree, EveryLeaf, testing::ValuesIn(kLeaves),
@@ -101,6 +122,27 @@ TEST(ExceptionClasses, AllThirteenLeavesAreFileErrors) {
   static_assert(std::is_base_of_v<std::exception, ZdxEngineException>);
 }
 
+template <class Leaf, class Other>
+constexpr bool kIsAnother = !std::is_same_v<Leaf, Other>;
+
+template <class Leaf, class... Leaves>
+constexpr bool IsBelowNoOther() {
+  return !((kIsAnother<Leaf, Leaves> && std::is_base_of_v<Leaves, Leaf>) || ...);
+}
+
+template <class... Leaves>
+constexpr bool AreAllBesideOneAnother() {
+  return (IsBelowNoOther<Leaves, Leaves...>() && ...);
+}
+
+TEST(ExceptionClasses, NoLeafIsCaughtAsAnother) {
+  static_assert(
+      AreAllBesideOneAnother<ReadError, NotFound, InvalidFormat, SecurityError, NoAccess,
+                             NotConvertDigitalSigned, SharingViolation, DataTooLarge,
+                             ConversionToZENTFormatFailed, SaveFileError, BadDwgHeader,
+                             GetVerticalDependenciesError, UpdateVerticalDependenciesError>());
+}
+
 TEST(ExceptionClasses, FileErrorAndTheLeavesAddNoField) {
   static_assert(sizeof(FileError) == sizeof(ZdxEngineException));
   static_assert(sizeof(ConversionToZENTFormatFailed) == sizeof(ZdxEngineException));
@@ -111,14 +153,6 @@ TEST_F(ExceptionTree, ALeafIsCaughtAsAFileErrorAndAsTheWholeTree) {
   EXPECT_THROW(throw NotFound(L"A"), FileError);
   EXPECT_THROW(throw NotFound(L"A"), ZdxEngineException);
   EXPECT_THROW(throw NotFound(L"A"), std::exception);
-}
-
-TEST_F(ExceptionTree, ACopyHasBothFieldsAndTheSameWhat) {
-  const NotFound original(L"A");
-  const NotFound copy(original);
-  EXPECT_EQ(copy.errorCode, 102);
-  EXPECT_EQ(copy.errorMessage, L"Unable to find file 'A' \n");
-  EXPECT_STREQ(copy.what(), "Unknown exception");
 }
 
 TEST_F(ExceptionTree, ACopyIsIndependentOfItsOriginal) {

@@ -12,6 +12,7 @@
 
 using scripted::Afterlife;
 using scripted::InFreshProcess;
+using scripted::InFreshProcessThatMayDie;
 using scripted::World;
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -19,9 +20,11 @@ namespace Service = ZDXEngine::ZDXService;
 
 namespace {
 
+using Body = std::function<void(World&)>;
+
 // `body` in a process in which the host is set up, with what came before forgotten.
-Afterlife Hosted(const std::function<void(World&)>& body) {
-  Afterlife after = InFreshProcess([&](World& world) {
+Afterlife Hosted(const Body& body, Afterlife (&run)(const Body&) = InFreshProcess) {
+  Afterlife after = run([&](World& world) {
     Service::SetupHostApplication();
     world.Note("hosted");
     body(world);
@@ -65,12 +68,12 @@ TEST(Validate, IgnoresTheResult) {
     Service::ValidateHostApplication(1033);
   });
   EXPECT_THAT(after.Calls({"zndbValidateSetup"}), ElementsAre("zndbValidateSetup(1033)"));
-  EXPECT_EQ(after.exitCode, 0);
 }
 
 TEST(OtherProduct, NeitherValidatesNorStartsNorStops) {
-  const Afterlife after = Hosted([](World& world) {
-    for (const int code : {0, 3, 5, -4}) {
+  const std::vector<int> codes = {0, 3, 5, -4};
+  const Afterlife after = Hosted([&](World& world) {
+    for (const int code : codes) {
       world.library.productCode = code;
       Service::ValidateHostApplication(1033);
       Service::InitHostApplication();
@@ -80,6 +83,8 @@ TEST(OtherProduct, NeitherValidatesNorStartsNorStops) {
   for (const std::string& call : after.Calls()) {
     EXPECT_TRUE(call == "zndbHostApplicationServices()" || call == "prodcode()") << call;
   }
+  // Each of the three asks once.
+  EXPECT_EQ(after.Calls({"prodcode"}).size(), 3 * codes.size());
 }
 
 TEST(OtherProduct, DoesNotStopWhatWasStarted) {
@@ -113,6 +118,18 @@ TEST(Init, LooksTheLinkerUpAfreshForEachModule) {
                           "loadModule(znModelDocObj.zdx, false, false)"));
 }
 
+// What then becomes of the call isn't told: a runtime without a linker isn't set up.
+TEST(Init, AnEntryThatSaysItIsNoLinkerIsAskedToLoadNothing) {
+  const Afterlife after = Hosted(
+      [](World& world) {
+        world.Fail("linker.isA", 1);
+        Service::InitHostApplication();
+      },
+      InFreshProcessThatMayDie);
+  EXPECT_GE(after.Calls({"isA"}).size(), 1u);
+  EXPECT_THAT(after.Calls({"loadModule"}), IsEmpty());
+}
+
 TEST(Init, GoesOnWhenAModuleDoesNotLoad) {
   const Afterlife after = Hosted([](World& world) {
     world.ReturnNull("loadModule");
@@ -140,7 +157,6 @@ TEST(Init, WithoutABlockTheWorkingDatabaseBecomesNull) {
   });
   EXPECT_THAT(after.Calls({"ZnDbDatabase", "setWorkingDatabase"}),
               ElementsAre("setWorkingDatabase(null)"));
-  EXPECT_EQ(after.exitCode, 0);
 }
 
 TEST(Init, WithoutABlockALaterCallTriesAgainInFull) {
@@ -194,12 +210,30 @@ TEST(UnInit, LooksTheLinkerUpAfreshForEachModule) {
     world.Note("stop");
     Service::UnInitializeHostApplication();
   });
-  std::vector<std::string> calls = after.Calls({"note", "at", "unloadModule"});
+  std::vector<std::string> calls =
+      after.Calls({"note", "znrxSysRegistry", "at", "isA", "unloadModule"});
   calls.erase(calls.begin(), std::ranges::find(calls, "note(stop)"));
-  EXPECT_THAT(calls,
-              ElementsAre("note(stop)", "at(DynamicLinker)", "unloadModule(znismobj24.zdx, false)",
-                          "at(DynamicLinker)", "unloadModule(znGeomentObj.zdx, false)",
-                          "at(DynamicLinker)", "unloadModule(znModelDocObj.zdx, false)"));
+  EXPECT_THAT(calls, ElementsAre("note(stop)",  //
+                                 "znrxSysRegistry()", "at(DynamicLinker)", "linker.isA()",
+                                 "unloadModule(znismobj24.zdx, false)",  //
+                                 "znrxSysRegistry()", "at(DynamicLinker)", "linker.isA()",
+                                 "unloadModule(znGeomentObj.zdx, false)",  //
+                                 "znrxSysRegistry()", "at(DynamicLinker)", "linker.isA()",
+                                 "unloadModule(znModelDocObj.zdx, false)"));
+}
+
+TEST(UnInit, AnEntryThatSaysItIsNoLinkerIsAskedToUnloadNothing) {
+  const Afterlife after = Hosted(
+      [](World& world) {
+        Service::InitHostApplication();
+        world.Note("stop");
+        world.Fail("linker.isA", 1);
+        Service::UnInitializeHostApplication();
+      },
+      InFreshProcessThatMayDie);
+  EXPECT_EQ(after.Calls({"note"}).size(), 1u);
+  EXPECT_GE(after.Calls({"isA"}).size(), 4u);
+  EXPECT_THAT(after.Calls({"unloadModule"}), IsEmpty());
 }
 
 TEST(UnInit, DoesNotSetTheWorkingDatabase) {
@@ -263,14 +297,54 @@ TEST(Restart, LoadsTheModulesAndBuildsADatabaseAnew) {
 }
 
 TEST(Stopped, TheServicesObjectStillAnswersAndTextsAreStillRead) {
-  const Afterlife after = Hosted([](World& world) {
+  const Afterlife after = InFreshProcess([](World& world) {
     world.utilities.texts[108] = L"still here";
+    ZDXEngine::HostApplicationParam param;
+    param.hostIdentityPrimary = L"first";
+    param.hostIdentitySecondary = L"one";
+    Service::SetupHostApplication(param);
     Service::InitHostApplication();
     Service::UnInitializeHostApplication();
-    world.Note(scripted::Shown(world.library.services->getHostIdentityPrimary()));
+    const ZnDbHostApplicationServices& host = *world.library.services;
+    world.Note(std::to_string(host.prodcode()));
+    world.Note(scripted::Shown(host.getHostIdentityPrimary()));
+    world.Note(scripted::Shown(host.getHostIdentitySecondary()));
     world.Note(scripted::Shown(ZDXEngine::LoadResourceText(108)));
   });
-  EXPECT_THAT(after.Calls({"note"}), ElementsAre("note()", "note(still here)"));
+  EXPECT_THAT(after.Calls({"note"}),
+              ElementsAre("note(4)", "note(first)", "note(one)", "note(still here)"));
+}
+
+// What the engine asks of other services than those installed is logged with words in front.
+TEST(OthersServices, AreGivenTheWorkingDatabaseIfTheyCameFirst) {
+  const Afterlife after = InFreshProcess([](World& world) {
+    world.InstallServices();
+    Service::SetupHostApplication();
+    Service::ValidateHostApplication(1033);
+    Service::InitHostApplication();
+    world.Note("stop");
+    Service::UnInitializeHostApplication();
+  });
+  EXPECT_THAT(after.Calls({"prodcode", "zndbValidateSetup", "loadModule", "ZnDbDatabase",
+                           "setWorkingDatabase", "note", "zndbCleanUp", "~ZnDbDatabase"}),
+              ElementsAre("prodcode()", "zndbValidateSetup(1033)", "prodcode()",
+                          "loadModule(znismobj24.zdx, false, false)",
+                          "loadModule(znGeomentObj.zdx, false, false)",
+                          "loadModule(znModelDocObj.zdx, false, false)", "ZnDbDatabase(true, true)",
+                          "setWorkingDatabase(database 1)", "note(stop)", "prodcode()",
+                          "zndbCleanUp()", "~ZnDbDatabase(database 1)"));
+}
+
+TEST(OthersServices, AreAskedInPlaceOfTheEnginesIfTheyTookItsPlace) {
+  const Afterlife after = Hosted([](World& world) {
+    world.InstallServices();
+    Service::ValidateHostApplication(1033);
+    Service::InitHostApplication();
+    Service::UnInitializeHostApplication();
+  });
+  EXPECT_THAT(
+      after.Calls({"prodcode", "setWorkingDatabase"}),
+      ElementsAre("prodcode()", "prodcode()", "setWorkingDatabase(database 1)", "prodcode()"));
 }
 
 TEST(Stopped, SetupHasNoEffect) {
@@ -292,7 +366,6 @@ TEST(Walker, IsStartedAndStoppedAndTheAnswersAreDropped) {
   });
   EXPECT_THAT(after.Calls(),
               ElementsAre("initializeEconveyEngine()", "unInitializeEconveyEngine()"));
-  EXPECT_EQ(after.exitCode, 0);
 }
 
 TEST(Walker, EveryCallGoesThrough) {

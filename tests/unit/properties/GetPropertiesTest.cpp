@@ -2,6 +2,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <type_traits>
+
 #include "ZDXEngine/FilePropertyMgr.h"
 #include "ZDXEngine/ZdxEngineException.h"
 #include "support/scripted/ScriptedTest.h"
@@ -47,12 +49,48 @@ TEST(Instance, IsOneObject) {
   EXPECT_EQ(&FilePropertyMgr::Instance(), &FilePropertyMgr::Instance());
 }
 
+// The type traits also ask for a destructor; these ask for the constructor alone.
+template <class T>
+concept CanBeMade = requires {
+  new T();
+};
+template <class T>
+concept CanBeCopied = requires(const T& original) {
+  new T(original);
+};
+
+TEST(Instance, IsMadeAndEndedByItsClassAlone) {
+  static_assert(!CanBeMade<FilePropertyMgr>);
+  static_assert(!CanBeCopied<FilePropertyMgr>);
+  static_assert(!std::is_destructible_v<FilePropertyMgr>);
+}
+
+TEST(Instance, AnAssignmentGivesTheObjectItself) {
+  FilePropertyMgr& manager = FilePropertyMgr::Instance();
+  EXPECT_EQ(&(manager = FilePropertyMgr::Instance()), &manager);
+}
+
+TEST(BlockFilter, ItsFieldsStandInTheirOrder) {
+  const BlockFilterParam filter;
+  EXPECT_EQ(static_cast<const void*>(&filter), &filter.blockName);
+  EXPECT_LT(static_cast<const void*>(&filter.blockName), &filter.formatId);
+  EXPECT_LT(static_cast<const void*>(&filter.formatId), &filter.matched);
+  EXPECT_LT(&filter.matched, &filter.usePrompt);
+  static_assert(sizeof filter.formatId == 16);
+  static_assert(sizeof filter.matched == 1 && sizeof filter.usePrompt == 1);
+}
+
 TEST(BlockFilter, AFreshOneHasItsDefaults) {
   const BlockFilterParam filter;
   EXPECT_EQ(filter.blockName, L"");
   EXPECT_EQ(filter.formatId, GUID{});
   EXPECT_FALSE(filter.matched);
   EXPECT_TRUE(filter.usePrompt);
+}
+
+TEST(Selection, ItAndTheFlavourAreOfThirtyTwoBits) {
+  static_assert(sizeof(Set) == 4);
+  static_assert(sizeof(DwgFileType) == 4);
 }
 
 TEST(Selection, EveryBitHasItsValue) {
@@ -67,6 +105,10 @@ TEST(Selection, EveryBitHasItsValue) {
   EXPECT_EQ(static_cast<int>(FilePropertyMgr::Thumbnail), 0x080);
   EXPECT_EQ(static_cast<int>(FilePropertyMgr::SymbolTables), 0x100);
   EXPECT_EQ(static_cast<int>(FilePropertyMgr::CustomSummary), 0x200);
+}
+
+TEST(Selection, TwoBitsAreNamedByTheirUnion) {
+  EXPECT_EQ(FilePropertyMgr::SummaryInfo | FilePropertyMgr::CustomSummary, Set{0x240});
 }
 
 TEST(Selection, EveryFlavourHasItsValue) {

@@ -20,8 +20,6 @@ bool IsDictionary(std::string_view type) {
 
 bool IsProxy(std::string_view type) { return type == kProxyObject || type == kProxyEntity; }
 
-std::wstring Widen(std::string_view ascii) { return {ascii.begin(), ascii.end()}; }
-
 }  // namespace
 
 DxfDrawing::DxfDrawing(file::MappedFile file, Form form, std::shared_ptr<model::Report> report)
@@ -148,6 +146,11 @@ std::optional<std::wstring> DxfDrawing::LinetypeComments(model::ObjectKey record
 }
 
 std::optional<model::ObjectKey> DxfDrawing::RootDictionary() {
+  if (!root_) root_ = FindRootDictionary();
+  return *root_;
+}
+
+std::optional<model::ObjectKey> DxfDrawing::FindRootDictionary() {
   const auto section = FindSection(kObjectsSection);
   if (!section) return std::nullopt;
   ObjectStart start = stream_.NextObject(section->begin);
@@ -233,13 +236,13 @@ std::wstring DxfDrawing::ProxiedClassName(const ObjectStart& start) {
   std::int64_t value = 0;
   if (!number || !ParseInteger(stream_.form(), number->value, value)) return {};
   const auto name = Classes().ClassOfNumber(value);
-  return name ? Widen(*name) : std::wstring();
+  return name ? TypeText(*name) : std::wstring();
 }
 
 // The declared class; without one the object's last subclass marker, which names its own class; the
 // type where there is none either.  Behind the marker of a free record anything may stand.
 std::wstring DxfDrawing::ClassName(const ObjectStart& start) {
-  if (const auto declared = Classes().ClassOfType(start.type)) return Widen(*declared);
+  if (const auto declared = Classes().ClassOfType(start.type)) return TypeText(*declared);
   std::string_view name = start.type;
   ObjectTags tags(stream_, start.body);
   Tag tag;
@@ -247,7 +250,7 @@ std::wstring DxfDrawing::ClassName(const ObjectStart& start) {
     if (tag.code == kSubclassCode) name = Trimmed(tag.value);
   }
   WarnOfDamage(tags);
-  return Widen(name);
+  return TypeText(name);
 }
 
 ObjectStart DxfDrawing::StartOf(model::ObjectKey object) const {
@@ -279,13 +282,17 @@ std::wstring DxfDrawing::Text(const Tag& tag, model::TextUse use) {
   return text;
 }
 
+std::wstring DxfDrawing::TypeText(std::string_view type) {
+  model::TextFlaws ignored;
+  return decoder_->Decode(type, model::TextUse::kName, ignored);
+}
+
 void DxfDrawing::WarnOfDamage(const ObjectTags& tags) {
   if (tags.damagedAt() != kNowhere) WarnOfDamage(tags.damagedAt());
 }
 
 void DxfDrawing::WarnOfDamage(std::size_t at) {
-  Warn(L"Something here isn't a group code with its value; the rest of its object is passed over.",
-       at);
+  Warn(L"What stands here isn't a group code with its value; it is passed over.", at);
 }
 
 void DxfDrawing::Warn(std::wstring text, std::size_t at) {
@@ -299,7 +306,7 @@ void DxfDrawing::TellLines() {
   for (model::Finding& warning : report_->warnings) *end++ = &warning;
   std::sort(findings.begin(), end,
             [](const auto* a, const auto* b) { return a->offset < b->offset; });
-  std::size_t at = 0;
+  std::size_t at = stream_.Begin();
   std::uint64_t line = 1;
   for (auto finding = findings.begin(); finding != end; ++finding) {
     for (; at < *(*finding)->offset && at < stream_.bytes().size(); ++line) {

@@ -62,12 +62,14 @@ class DxfDrawing : public model::Drawing {
   void CollectRecords(Tables& tables);
   void CollectBlocks(std::vector<model::ObjectKey>& blocks);
   const ClassTable& Classes();
+  std::optional<model::ObjectKey> FindRootDictionary();
   const ObjectIndex& IndexOfObjects();
   const ObjectIndex& IndexOfEverything();
   std::wstring ProxiedClassName(const ObjectStart& start);
   std::wstring ClassName(const ObjectStart& start);
 
   TagSearch FirstTag(model::ObjectKey object, int code);
+  std::wstring TypeText(std::string_view type);
   void WarnOfDamage(const ObjectTags& tags);
   const Tag* HeaderTag(std::string_view name) const;
   std::optional<std::wstring> VariableText(std::string_view name);
@@ -94,6 +96,7 @@ class DxfDrawing : public model::Drawing {
   // Filled at the first question that needs them.
   std::optional<Tables> tables_;
   std::optional<ClassTable> classes_;
+  std::optional<std::optional<model::ObjectKey>> root_;
   std::optional<ObjectIndex> objectsIndex_;
   std::optional<ObjectIndex> everythingIndex_;
 };

@@ -1,14 +1,21 @@
 #include "backends/database/dxf/HeaderVariables.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string>
 
 #include "backends/database/dxf/Lines.h"
+#include "backends/database/dxf/Tokens.h"
 
 namespace zdx::dxf {
 namespace {
 
 constexpr char kNamePrefix = '$';
+
+bool IsRead(std::string_view name) {
+  return std::find(std::begin(kReadVariables), std::end(kReadVariables), name) !=
+         std::end(kReadVariables);
+}
 
 std::size_t NextTextVariable(std::string_view bytes, std::size_t from, std::size_t end) {
   while (from < end) {
@@ -48,8 +55,9 @@ HeaderVariables::HeaderVariables(const TagStream& stream, std::size_t begin, std
       at = NextVariable(stream, expectedAt, end);
       wantsValue = false;
     } else if (tag.code == kVariableCode) {
-      variables_.push_back({Trimmed(tag.value), {}});
-      wantsValue = true;
+      const std::string_view name = Trimmed(tag.value);
+      wantsValue = IsRead(name);
+      if (wantsValue) variables_.push_back({name, {}});
     } else if (wantsValue && tag.code != kCommentCode) {
       variables_.back().value = tag;
       wantsValue = false;

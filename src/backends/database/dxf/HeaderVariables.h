@@ -10,8 +10,8 @@
 
 namespace zdx::dxf {
 
-// The variables in the order of the file, each with its first value; points have more, which nobody
-// asks for.
+// The variables that are read here, in the order of the file, each with its first value; points
+// have more, which nobody asks for.  A header may hold any number of others.
 class HeaderVariables {
  public:
   struct Variable {

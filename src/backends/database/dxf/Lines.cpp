@@ -12,10 +12,14 @@ namespace {
 
 constexpr std::size_t kMostDigits = 6;
 
-// The longer ones first.
-constexpr std::string_view kLineEnds[] = {"\r\r\n", "\r\n", "\n", "\r"};
-
 bool IsLineEnd(char c) { return c == '\n' || c == '\r'; }
+// The size of the line end at `at`: of LF, CR, CR LF or CR CR LF.
+std::size_t LineEndSize(std::string_view bytes, std::size_t at) {
+  if (bytes[at] == '\n') return 1;
+  if (bytes.substr(at + 1, 1) == "\n") return 2;
+  return bytes.substr(at + 1, 2) == "\r\n" ? 3 : 1;
+}
+
 bool IsBlank(char c) { return c == ' ' || c == '\t'; }
 
 #if defined(__SSE2__)
@@ -78,11 +82,7 @@ std::string_view TakeLine(std::string_view bytes, std::size_t& at) {
   const std::size_t begin = at;
   while (at < bytes.size() && !IsLineEnd(bytes[at])) ++at;
   const std::string_view line = bytes.substr(begin, at - begin);
-  for (const std::string_view end : kLineEnds) {
-    if (bytes.substr(at, end.size()) != end) continue;
-    at += end.size();
-    break;
-  }
+  if (at < bytes.size()) at += LineEndSize(bytes, at);
   return line;
 }
 

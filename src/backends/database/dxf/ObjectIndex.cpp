@@ -20,13 +20,16 @@ std::uint64_t HandleOf(const TagStream& stream, const ObjectStart& start) {
   return 0;
 }
 
-// After so many objects the number of all is estimated.
-constexpr std::size_t kSample = 4096;
+constexpr std::uint64_t kCompactLimit = std::uint64_t{1} << 32;
 
-// A little more than the objects that `size` bytes hold, if `counted` of them took `taken` bytes.
-std::size_t EstimateCount(std::size_t counted, std::size_t taken, std::size_t size) {
-  const std::size_t bytesEach = std::max<std::size_t>(taken / counted, 1);
-  return size / bytesEach + size / bytesEach / 8;
+// After so many objects the number of all is estimated, but for objects below a size no further.
+constexpr std::size_t kSample = 4096;
+constexpr std::size_t kLeastObjectSize = 64;
+
+// A little more than the objects that `size` bytes hold, if `kSample` of them took `taken` bytes.
+std::size_t EstimateCount(std::size_t taken, std::size_t size) {
+  const std::size_t count = size / std::max(taken / kSample, kLeastObjectSize);
+  return count + count / 8;
 }
 
 }  // namespace
@@ -35,29 +38,43 @@ ObjectIndex ObjectIndex::Build(const TagStream& stream, std::size_t begin, std::
   ObjectIndex index;
   ObjectStart start = stream.NextObject(begin);
   for (; start.Found() && start.at < end; start = stream.NextObject(start.body)) {
-    const std::uint64_t handle = HandleOf(stream, start);
-    if (handle == 0) continue;
+    // A section's begin is no object, but what follows in a header looks like one's tags.
+    if (start.type == kSection) continue;
+    index.Add(HandleOf(stream, start), start.at);
     // Growing by doubling would for a moment take twice what the index needs in the end.
-    if (index.entries_.size() == kSample) {
-      index.entries_.reserve(EstimateCount(kSample, start.at - begin, end - begin));
+    if (index.compact_.size() == kSample) {
+      index.compact_.reserve(EstimateCount(start.at - begin, end - begin));
     }
-    index.entries_.push_back({handle, start.at});
   }
-  const auto byHandle = [](const Entry& a, const Entry& b) { return a.handle < b.handle; };
-  auto& entries = index.entries_;
-  if (!std::is_sorted(entries.begin(), entries.end(), byHandle)) {
-    std::stable_sort(entries.begin(), entries.end(), byHandle);
-  }
-  entries.shrink_to_fit();
+  const auto sort = [](auto& entries) {
+    if (!std::is_sorted(entries.begin(), entries.end())) std::sort(entries.begin(), entries.end());
+  };
+  sort(index.compact_);
+  sort(index.wide_);
   return index;
 }
 
+void ObjectIndex::Add(std::uint64_t handle, std::uint64_t at) {
+  if (handle == 0) return;
+  if (handle < kCompactLimit && at < kCompactLimit) {
+    compact_.push_back(handle << 32 | at);
+  } else {
+    wide_.emplace_back(handle, at);
+  }
+}
+
+// The compact entries of a handle lie before its wide ones in the file.
 std::optional<std::size_t> ObjectIndex::Find(std::uint64_t handle) const {
+  if (handle < kCompactLimit) {
+    const auto entry = std::lower_bound(compact_.begin(), compact_.end(), handle << 32);
+    if (entry != compact_.end() && *entry >> 32 == handle) {
+      return static_cast<std::size_t>(*entry & (kCompactLimit - 1));
+    }
+  }
   const auto entry =
-      std::lower_bound(entries_.begin(), entries_.end(), handle,
-                       [](const Entry& e, std::uint64_t value) { return e.handle < value; });
-  if (entry == entries_.end() || entry->handle != handle) return std::nullopt;
-  return static_cast<std::size_t>(entry->at);
+      std::lower_bound(wide_.begin(), wide_.end(), std::pair(handle, std::uint64_t{0}));
+  if (entry == wide_.end() || entry->first != handle) return std::nullopt;
+  return static_cast<std::size_t>(entry->second);
 }
 
 }  // namespace zdx::dxf

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "backends/database/dxf/TagStream.h"
@@ -19,15 +20,16 @@ class ObjectIndex {
 
   // The place of the object with that handle.
   std::optional<std::size_t> Find(std::uint64_t handle) const;
-  std::size_t size() const { return entries_.size(); }
+  std::size_t size() const { return compact_.size() + wide_.size(); }
 
  private:
-  struct Entry {
-    std::uint64_t handle;
-    std::uint64_t at;
-  };
+  void Add(std::uint64_t handle, std::uint64_t at);
 
-  std::vector<Entry> entries_;  // ascending by handle
+  // Nearly all handles and places fit 32 bits each: the handle in the upper half, the place in the
+  // lower.  Ascending.
+  std::vector<std::uint64_t> compact_;
+  // The others, as handle and place.  Ascending.
+  std::vector<std::pair<std::uint64_t, std::uint64_t>> wide_;
 };
 
 }  // namespace zdx::dxf

@@ -20,10 +20,11 @@ Recognition Refuse(std::wstring reason, std::size_t offset) {
   return {std::nullopt, {std::move(reason), offset, {}, {}}};
 }
 
-Recognition RefuseText(std::wstring reason, std::string_view bytes, std::size_t at) {
+Recognition RefuseText(std::wstring reason, const TagStream& stream, std::size_t at) {
+  const std::string_view bytes = stream.bytes();
   if (bytes.find('\0') != std::string_view::npos) return Refuse(std::move(reason), at);
   std::uint64_t line = 1;
-  for (std::size_t begin = 0; begin < at; ++line) TakeLine(bytes, begin);
+  for (std::size_t begin = stream.Begin(); begin < at; ++line) TakeLine(bytes, begin);
   return {std::nullopt, {std::move(reason), {}, line, {}}};
 }
 
@@ -54,7 +55,7 @@ Recognition RecogniseText(std::string_view bytes) {
     if (tag.code == kTypeCode && begins) return {Form::kText, {}};
     break;
   }
-  return RefuseText(L"The file doesn't begin with a DXF section.", stream.bytes(),
+  return RefuseText(L"The file doesn't begin with a DXF section.", stream,
                     std::min(tag.at, stream.bytes().size()));
 }
 

@@ -77,4 +77,12 @@ inline constexpr std::string_view kDimblkVariable = "$DIMBLK";
 inline constexpr std::string_view kDimblk1Variable = "$DIMBLK1";
 inline constexpr std::string_view kDimblk2Variable = "$DIMBLK2";
 
+// All of them.
+inline constexpr std::string_view kReadVariables[] = {
+    kVersionVariable,        kCodePageVariable,      kTitleVariable,       kSubjectVariable,
+    kAuthorVariable,         kKeywordsVariable,      kCommentsVariable,    kLastSavedByVariable,
+    kRevisionNumberVariable, kCustomNameVariable,    kCustomValueVariable, kMenuVariable,
+    kProjectNameVariable,    kHyperlinkBaseVariable, kStyleSheetVariable,  kDimpostVariable,
+    kDimapostVariable,       kDimblkVariable,        kDimblk1Variable,     kDimblk2Variable};
+
 }  // namespace zdx::dxf

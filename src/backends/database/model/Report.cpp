@@ -5,9 +5,10 @@
 namespace zdx::model {
 namespace {
 
+// Never destroyed: a client may ask while the process exits.
 std::shared_ptr<Report>& LastReport() {
-  static std::shared_ptr<Report> last;
-  return last;
+  static auto* const last = new std::shared_ptr<Report>();
+  return *last;
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <map>
 #include <optional>
 
 #include "ZDXEngine/Utf8.h"
@@ -56,19 +57,23 @@ void AppendUnit(std::wstring& text, std::uint32_t unit) {
   text.push_back(static_cast<wchar_t>(unit));
 }
 
-std::optional<std::wstring> DoubleByteCharacter(wchar_t digit, std::uint32_t code) {
+using DoubleByteDecoders = std::map<CodePageId, CodePageDecoder>;
+
+std::optional<std::wstring> DoubleByteCharacter(wchar_t digit, std::uint32_t code,
+                                                DoubleByteDecoders& decoders) {
   for (const DoubleBytePage& row : kDoubleBytePages) {
     if (row.digit != digit) continue;
     const char bytes[] = {static_cast<char>(code >> 8), static_cast<char>(code & 0xFF)};
     const bool single = code < 0x100;
-    return CodePageDecoder(row.page).Decode(
-        std::string_view(single ? bytes + 1 : bytes, single ? 1 : 2));
+    return decoders.try_emplace(row.page, row.page)
+        .first->second.Decode(std::string_view(single ? bytes + 1 : bytes, single ? 1 : 2));
   }
   return std::nullopt;
 }
 
 // Appends what the escape at `at` stands for and returns its length; 0 if there is none.
-std::size_t AppendEscape(std::wstring_view text, std::size_t at, std::wstring& out) {
+std::size_t AppendEscape(std::wstring_view text, std::size_t at, DoubleByteDecoders& decoders,
+                         std::wstring& out) {
   const std::wstring_view rest = text.substr(at);
   if (rest.substr(0, kUnitEscape.size()) == kUnitEscape) {
     const auto unit = HexadecimalAt(rest, kUnitEscape.size());
@@ -80,7 +85,7 @@ std::size_t AppendEscape(std::wstring_view text, std::size_t at, std::wstring& o
   if (rest.substr(0, kDoubleByteEscape.size()) == kDoubleByteEscape && rest.size() > kCodeAt) {
     const auto code = HexadecimalAt(rest, kCodeAt);
     if (!code) return 0;
-    const auto character = DoubleByteCharacter(rest[kCodeAt - 1], *code);
+    const auto character = DoubleByteCharacter(rest[kCodeAt - 1], *code, decoders);
     if (!character) return 0;
     out += *character;
     return kCodeAt + kDigits;
@@ -103,12 +108,13 @@ std::size_t AppendCaret(std::wstring_view text, std::size_t at, std::wstring& ou
   return 2;
 }
 
-std::wstring ExpandEscapes(std::wstring_view text, bool backslashes, bool carets) {
+std::wstring ExpandEscapes(std::wstring_view text, bool backslashes, bool carets,
+                           DoubleByteDecoders& decoders) {
   std::wstring out;
   out.reserve(text.size());
   for (std::size_t at = 0; at < text.size();) {
     std::size_t length = 0;
-    if (backslashes && text[at] == L'\\') length = AppendEscape(text, at, out);
+    if (backslashes && text[at] == L'\\') length = AppendEscape(text, at, decoders, out);
     if (carets && text[at] == L'^') length = AppendCaret(text, at, out);
     if (length == 0) out.push_back(text[at]);
     at += std::max<std::size_t>(length, 1);
@@ -132,14 +138,14 @@ std::wstring StoredTextDecoder::DecodeBytes(std::string_view bytes, TextFlaws& f
   if (auto text = utf8_ ? utf8.Decode(bytes) : page_.Decode(bytes)) return *std::move(text);
   flaws.notInEncoding = true;
   if (auto text = utf8_ ? page_.Decode(bytes) : utf8.Decode(bytes)) return *std::move(text);
-  return DecodeWesternLeniently(bytes);
+  return page_.DecodeLeniently(bytes);
 }
 
 std::wstring StoredTextDecoder::Decode(std::string_view bytes, TextUse use, TextFlaws& flaws) {
   std::wstring text = DecodeBytes(bytes, flaws);
   const bool backslashes = use == TextUse::kName || !utf8_;
   if (text.find_first_of(L"\\^") != std::wstring::npos) {
-    text = ExpandEscapes(text, backslashes, controls_ == ControlCharacters::kCaret);
+    text = ExpandEscapes(text, backslashes, controls_ == ControlCharacters::kCaret, doubleByte_);
   }
   if (std::erase(text, L'\0') != 0) flaws.hasNul = true;
   return text;

@@ -1,6 +1,7 @@
 // From the bytes of a stored text to the text that the drawing means.
 #pragma once
 
+#include <map>
 #include <string>
 #include <string_view>
 
@@ -31,7 +32,8 @@ class StoredTextDecoder {
   StoredTextDecoder(Version version, CodePageId page, ControlCharacters controls);
 
   // The text of `bytes`.  A text that isn't valid in the drawing's encoding is tried in the other
-  // one, and at last taken byte by byte as Western, so that none is lost.  Escapes of `\U+XXXX` and
+  // one, and at last its stray bytes are taken as Western, so that none is lost.  Escapes of
+  // `\U+XXXX` and
   // `\M+nXXXX` form are decoded as TextUse says; a pair of surrogates gives one character.
   std::wstring Decode(std::string_view bytes, TextUse use, TextFlaws& flaws);
 
@@ -41,6 +43,8 @@ class StoredTextDecoder {
   bool utf8_;
   ControlCharacters controls_;
   CodePageDecoder page_;
+  // Those of double-byte escapes, made at the first escape that names them.
+  std::map<CodePageId, CodePageDecoder> doubleByte_;
 };
 
 }  // namespace zdx::model

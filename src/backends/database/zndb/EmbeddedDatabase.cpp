@@ -33,6 +33,15 @@ FailureRow RowOf(file::OpenFailure failure) {
 
 }  // namespace
 
+// Takes up the reading of `path`; false if a drawing was read already, whose objects are handed
+// out.
+bool EmbeddedDatabase::Begin(const wchar_t* path) {
+  if (drawing_ != nullptr) return false;
+  path_ = path;
+  report_ = model::Report::Begin(path_);
+  return true;
+}
+
 Zent::ErrorStatus EmbeddedDatabase::Fail(Zent::ErrorStatus status, model::Finding reason) {
   report_->errors.push_back(std::move(reason));
   return status;
@@ -46,8 +55,7 @@ Zent::ErrorStatus EmbeddedDatabase::Fail(file::OpenFailure failure) {
 Zent::ErrorStatus EmbeddedDatabase::readDwgFile(const wchar_t* path, int /*openMode*/,
                                                 bool /*allowCodePageConversion*/,
                                                 const wchar_t* /*password*/) {
-  path_ = path;
-  report_ = model::Report::Begin(path_);
+  if (!Begin(path)) return Zent::kNotApplicable;
   const auto opened = file::MappedFile::Open(path_);
   if (const auto* failure = std::get_if<file::OpenFailure>(&opened)) {
     return Fail(*failure);
@@ -56,8 +64,7 @@ Zent::ErrorStatus EmbeddedDatabase::readDwgFile(const wchar_t* path, int /*openM
 }
 
 Zent::ErrorStatus EmbeddedDatabase::dxfIn(const wchar_t* path, const wchar_t* /*logPath*/) {
-  path_ = path;
-  report_ = model::Report::Begin(path_);
+  if (!Begin(path)) return Zent::kNotApplicable;
   auto opened = file::MappedFile::Open(path_);
   if (const auto* failure = std::get_if<file::OpenFailure>(&opened)) {
     return Fail(*failure);

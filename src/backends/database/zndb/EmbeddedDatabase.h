@@ -68,6 +68,7 @@ class EmbeddedDatabase : public ::zndb::DatabaseBody {
   ZnRxClass* ClassNamed(const std::wstring& name);
   Zent::ErrorStatus OpenDictionary(ZnDbObjectId id, ZnDbDictionary*& dictionary);
   Zent::ErrorStatus OpenStandardDictionary(model::DictionaryKind kind, ZnDbDictionary*& dictionary);
+  bool Begin(const wchar_t* path);
   Zent::ErrorStatus Fail(Zent::ErrorStatus status, model::Finding reason);
   Zent::ErrorStatus Fail(file::OpenFailure failure);
   void KeepTexts();

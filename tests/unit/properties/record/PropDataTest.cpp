@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "ZDXEngine/PropData.h"
@@ -37,6 +38,22 @@ TEST_F(PropData, ANewRecordInitialisesAnEmptyValue) {
   EXPECT_EQ(record->formatId, L"");
   EXPECT_EQ(record->name, L"");
   EXPECT_THAT(world.Calls(), ElementsAre("VariantInit()"));
+}
+
+TEST_F(PropData, ItsFieldsStandInTheirOrder) {
+  const _PropData record;
+  EXPECT_EQ(static_cast<const void*>(&record), &record.formatId);
+  EXPECT_LT(&record.formatId, &record.name);
+  EXPECT_LT(static_cast<const void*>(&record.name), &record.value);
+  EXPECT_LT(static_cast<const void*>(&record.value), &record.typeCode);
+}
+
+TEST_F(PropData, TheTypeCodesHaveTheirValues) {
+  EXPECT_EQ(ZDXEngine::kTypeFlag, 0);
+  EXPECT_EQ(ZDXEngine::kTypeNumber, 1);
+  EXPECT_EQ(ZDXEngine::kTypeText, 2);
+  EXPECT_EQ(ZDXEngine::kTypeBinary, 4);
+  static_assert(sizeof(_PropData::typeCode) == 4);
 }
 
 TEST_F(PropData, DestroyingARecordClearsItsValue) {
@@ -132,14 +149,33 @@ TEST_F(PropData, AFlagANumberAndBytesAreCopiedToo) {
   EXPECT_EQ(numberCopy.value.dblVal, 1.5);
 }
 
-TEST_F(PropData, AListThatCannotGrowKeepsWhatItHolds) {
+TEST_F(PropData, AMovedRecordTakesItsValueAlong) {
+  _PropData record = Holding(L"Walls");
+  world.ForgetCalls();
+  const _PropData moved(std::move(record));
+  EXPECT_EQ(world.Count("VariantCopy"), 0);
+  EXPECT_EQ(moved.formatId, L"set");
+  EXPECT_EQ(moved.typeCode, 2);
+  EXPECT_EQ(expected::Shown(moved), "Layer Name=Walls");
+  EXPECT_EQ(record.value.vt, VT_EMPTY);  // NOLINT(bugprone-use-after-move)
+}
+
+TEST_F(PropData, AListThatGrowsCopiesNoneOfItsValues) {
+  std::vector<_PropData> list;
+  list.push_back(Holding(L"Walls"));
+  world.ForgetCalls();
+  list.reserve(list.capacity() + 1);
+  EXPECT_EQ(world.Count("VariantCopy"), 0);
+  EXPECT_THAT(expected::Shown(list), ElementsAre("Layer Name=Walls"));
+}
+
+TEST_F(PropData, AListThatCannotTakeARecordKeepsWhatItHolds) {
   std::vector<_PropData> list;
   list.reserve(2);
   list.push_back(Holding(L"Walls"));
   list.push_back(Holding(L"Doors"));
   const _PropData third = Holding(L"Windows");
-  // The third record is copied first and then the second of the two that move.
-  world.Fail("VariantCopy", E_OUTOFMEMORY, 3);
+  world.Fail("VariantCopy", E_OUTOFMEMORY, 1);
   EXPECT_THROW(list.push_back(third), _com_error);
   EXPECT_THAT(expected::Shown(list), ElementsAre("Layer Name=Walls", "Layer Name=Doors"));
 }
