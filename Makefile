@@ -1,6 +1,7 @@
 # The everyday tasks.  `make help` tells them; the build itself is CMake's.
 
 SHELL := /bin/bash
+MAKEFLAGS += --no-print-directory
 .DEFAULT_GOAL := help
 .PHONY: help demo test lint format-check bench clean
 
@@ -36,7 +37,7 @@ demo:
 # The quick check first; what CTest says comes last.
 test:
 	@.ci/packages $(TEST_PACKAGES)
-	@if command -v clang-format-14 > /dev/null; then $(MAKE) --no-print-directory format-check; \
+	@if command -v clang-format-14 > /dev/null; then $(MAKE) format-check; \
 	  else echo 'The form of the sources is not checked: clang-format-14 is not here.'; fi
 	@for preset in dev asan; do \
 	  echo "== $$preset"; \
@@ -50,7 +51,7 @@ format-check:
 
 lint:
 	@.ci/packages $(LINT_PACKAGES)
-	@$(MAKE) --no-print-directory format-check
+	@$(MAKE) format-check
 	@cmake -S . -B build/lint -DZDX_BENCHMARKS=ON -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON > /dev/null
 	@run-clang-tidy-14 -quiet -p build/lint -j $(JOBS) \
 	  "^$(CURDIR)/(src|tools|examples|benchmarks)/(?!.*_benchmark\.cpp)"
