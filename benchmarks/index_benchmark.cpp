@@ -37,7 +37,8 @@ std::size_t CountHandles(std::string_view bytes) {
       while (code.starts_with(' ')) code.remove_prefix(1);
     } else {
       if (code == "0") {
-        wantsHandle = true;
+        // The variables of a header follow the type of their section.
+        wantsHandle = line != "SECTION";
         handleCode = line == "DIMSTYLE" ? "105" : "5";
       } else if (wantsHandle && (code == handleCode || code == "100")) {
         wantsHandle = false;
@@ -59,6 +60,8 @@ void BuildIndex(benchmark::State& state, std::string_view bytes) {
     const ObjectIndex index = ObjectIndex::Build(stream, 0, bytes.size());
     benchmark::DoNotOptimize(index.size());
   }
+  state.counters["objects"] =
+      static_cast<double>(ObjectIndex::Build(stream, 0, bytes.size()).size());
   state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * bytes.size()));
 }
 

@@ -22,8 +22,8 @@ class ZDXENGINE_API _PropData {
  public:
   _PropData();
   _PropData(const _PropData& other);
-  // Takes the value over: so a list grows without copying its texts.  `other` is left with no value,
-  // or by the assignment with the one that stood here.
+  // Takes the value over: so a list grows without copying its texts.  `other` is left with no
+  // value, or by the assignment with the one that stood here.
   _PropData(_PropData&& other) noexcept;
   _PropData& operator=(const _PropData& other);
   _PropData& operator=(_PropData&& other) noexcept;
