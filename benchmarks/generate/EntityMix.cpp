@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "generate/Tokens.h"
+
 namespace bench {
 namespace {
 
@@ -54,7 +56,7 @@ class Mix {
     out_.Text(0, type);
     out_.Handle(5, handle);
     out_.Handle(330, owner);
-    out_.Text(100, "AcDbEntity");
+    out_.Text(100, kEntityMarker);
     out_.Text(8, layer_);
     return handle;
   }
@@ -71,7 +73,7 @@ class Mix {
 
   void WriteLine() {
     BeginOnLayer("LINE");
-    out_.Text(100, "AcDbLine");
+    out_.Text(100, kLineMarker);
     Point(10);
     Point(11);
     ++counts_.lines;
@@ -80,7 +82,7 @@ class Mix {
   void WritePolyline() {
     const int vertices = static_cast<int>(3 + random_.Below(18));
     BeginOnLayer("LWPOLYLINE");
-    out_.Text(100, "AcDbPolyline");
+    out_.Text(100, kPolylineMarker);
     out_.Integer(90, vertices);
     out_.Integer(70, static_cast<int>(random_.Below(2)));
     out_.Real(43, 0.0);
@@ -94,7 +96,7 @@ class Mix {
 
   void WriteCircle() {
     BeginOnLayer("CIRCLE");
-    out_.Text(100, "AcDbCircle");
+    out_.Text(100, kCircleMarker);
     Point(10);
     out_.Real(40, random_.Coordinate() / 1000.0);
     ++counts_.circles;
@@ -102,16 +104,16 @@ class Mix {
 
   void WriteText() {
     BeginOnLayer("TEXT");
-    out_.Text(100, "AcDbText");
+    out_.Text(100, kTextMarker);
     Point(10);
     out_.Real(40, 2.5);
     out_.Text(1, "Room " + std::to_string(++counts_.texts));
-    out_.Text(100, "AcDbText");
+    out_.Text(100, kTextMarker);
   }
 
   void WriteInsert(bool withAttributes) {
     const std::uint64_t handle = BeginOnLayer("INSERT");
-    out_.Text(100, "AcDbBlockReference");
+    out_.Text(100, kBlockReferenceMarker);
     if (withAttributes) out_.Integer(66, 1);
     out_.Text(2, frame_.Blocks()[random_.Below(frame_.Blocks().size())]);
     Point(10);
@@ -124,11 +126,11 @@ class Mix {
 
   void WriteAttribute(std::uint64_t insert, const char* tag) {
     Begin("ATTRIB", insert);
-    out_.Text(100, "AcDbText");
+    out_.Text(100, kTextMarker);
     Point(10);
     out_.Real(40, 2.5);
     out_.Text(1, "Value " + std::to_string(++counts_.attributes));
-    out_.Text(100, "AcDbAttribute");
+    out_.Text(100, kAttributeMarker);
     out_.Integer(280, 0);
     out_.Text(2, tag);
     out_.Integer(70, 0);

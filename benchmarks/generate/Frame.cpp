@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+#include "generate/Tokens.h"
+
 namespace bench {
 namespace {
 
@@ -59,7 +61,7 @@ void Frame::Variable(const char* name, int code, const char* text) {
 
 void Frame::WriteHeader() {
   BeginSection("HEADER");
-  Variable("$ACADVER", 1, "AC1032");
+  Variable(kVersionVariable, 1, "AC1032");
   Variable("$DWGCODEPAGE", 3, "ANSI_1252");
   Variable("$TITLE", 1, "Generated plan");
   Expect("2", "Generated plan");
@@ -86,7 +88,7 @@ void Frame::WriteClasses() {
   BeginSection("CLASSES");
   out_.Text(0, "CLASS");
   out_.Text(1, "LAYOUT");
-  out_.Text(2, "AcDbLayout");
+  out_.Text(2, kLayoutMarker);
   out_.Text(3, "ObjectLib Classes");
   for (const int code : {90, 91, 280, 281}) out_.Integer(code, 0);
   EndSection();
@@ -106,9 +108,9 @@ void Frame::WriteBlocks() {
       out_.Text(0, "LINE");
       out_.Handle(5, NextHandle());
       out_.Handle(330, record);
-      out_.Text(100, "AcDbEntity");
+      out_.Text(100, kEntityMarker);
       out_.Text(8, "0");
-      out_.Text(100, "AcDbLine");
+      out_.Text(100, kLineMarker);
       out_.Point(10, shape, 0.125 * shape);
       out_.Point(11, 0.375 * shape, shape);
     }
@@ -121,9 +123,9 @@ void Frame::BeginBlock(const std::string& name, std::uint64_t record, bool hasDe
   out_.Text(0, "BLOCK");
   out_.Handle(5, NextHandle());
   out_.Handle(330, record);
-  out_.Text(100, "AcDbEntity");
+  out_.Text(100, kEntityMarker);
   out_.Text(8, "0");
-  out_.Text(100, "AcDbBlockBegin");
+  out_.Text(100, kBlockBeginMarker);
   out_.Text(2, name);
   out_.Integer(70, hasDefinitions ? 2 : 0);
   out_.Point(10, 0.0, 0.0);
@@ -135,22 +137,22 @@ void Frame::EndBlock(std::uint64_t record) {
   out_.Text(0, "ENDBLK");
   out_.Handle(5, NextHandle());
   out_.Handle(330, record);
-  out_.Text(100, "AcDbEntity");
+  out_.Text(100, kEntityMarker);
   out_.Text(8, "0");
-  out_.Text(100, "AcDbBlockEnd");
+  out_.Text(100, kBlockEndMarker);
 }
 
 void Frame::WriteDefinition(std::uint64_t record, const char* tag) {
   out_.Text(0, "ATTDEF");
   out_.Handle(5, NextHandle());
   out_.Handle(330, record);
-  out_.Text(100, "AcDbEntity");
+  out_.Text(100, kEntityMarker);
   out_.Text(8, "0");
-  out_.Text(100, "AcDbText");
+  out_.Text(100, kTextMarker);
   out_.Point(10, 0.0, 0.0);
   out_.Real(40, 2.5);
   out_.Text(1, "");
-  out_.Text(100, "AcDbAttributeDefinition");
+  out_.Text(100, kAttributeDefinitionMarker);
   out_.Integer(280, 0);
   out_.Text(3, std::string("Enter ") + tag);
   out_.Text(2, tag);

@@ -1,4 +1,5 @@
 #include "generate/Frame.h"
+#include "generate/Tokens.h"
 
 namespace bench {
 namespace {
@@ -17,7 +18,7 @@ std::uint64_t Frame::Entry(Entries& entries, std::string name) {
 void Frame::BeginObject(const char* type, std::uint64_t handle, std::uint64_t owner) {
   out_.Text(0, type);
   out_.Handle(5, handle);
-  out_.Text(102, "{ACAD_REACTORS");
+  out_.Text(102, kReactorGroup);
   out_.Handle(330, owner);
   out_.Text(102, "}");
   out_.Handle(330, owner);
@@ -25,7 +26,7 @@ void Frame::BeginObject(const char* type, std::uint64_t handle, std::uint64_t ow
 
 void Frame::WriteDictionary(std::uint64_t handle, std::uint64_t owner, const Entries& entries) {
   BeginObject("DICTIONARY", handle, owner);
-  out_.Text(100, "AcDbDictionary");
+  out_.Text(100, kDictionaryMarker);
   out_.Integer(281, 1);
   for (const auto& [name, entry] : entries) {
     out_.Text(3, name);
@@ -36,10 +37,10 @@ void Frame::WriteDictionary(std::uint64_t handle, std::uint64_t owner, const Ent
 void Frame::WriteObjects() {
   BeginSection("OBJECTS");
   Entries root;
-  const std::uint64_t groups = Entry(root, "ACAD_GROUP");
-  const std::uint64_t layouts = Entry(root, "ACAD_LAYOUT");
-  const std::uint64_t styles = Entry(root, "ACAD_MLINESTYLE");
-  const std::uint64_t setups = Entry(root, "ACAD_PLOTSETTINGS");
+  const std::uint64_t groups = Entry(root, kGroupKey);
+  const std::uint64_t layouts = Entry(root, kLayoutKey);
+  const std::uint64_t styles = Entry(root, kMlineStyleKey);
+  const std::uint64_t setups = Entry(root, kPlotSettingsKey);
   for (int i = 0; i < kRecords; ++i) Entry(root, "APP_RECORD_" + std::to_string(i));
   for (const auto& entry : root) Expect("Named Object Name", entry.first);
   generated_.counts.namedObjects = root.size();
@@ -51,7 +52,7 @@ void Frame::WriteObjects() {
   const std::uint64_t style = Entry(styleEntries, "Standard");
   WriteDictionary(styles, kRoot, styleEntries);
   BeginObject("MLINESTYLE", style, styles);
-  out_.Text(100, "AcDbMlineStyle");
+  out_.Text(100, kMlineStyleMarker);
   out_.Text(2, "Standard");
   Expect("MultiLine Style Name", "Standard");
 
@@ -64,7 +65,7 @@ void Frame::WriteObjects() {
 
   for (std::size_t i = root.size() - kRecords; i < root.size(); ++i) {
     BeginObject("XRECORD", root[i].second, kRoot);
-    out_.Text(100, "AcDbXrecord");
+    out_.Text(100, kXrecordMarker);
     out_.Integer(280, 1);
     out_.Text(1, "Contents of " + root[i].first);
   }
@@ -80,7 +81,7 @@ void Frame::WriteGroups(std::uint64_t dictionary, std::uint64_t root) {
   WriteDictionary(dictionary, root, entries);
   for (const auto& entry : entries) {
     BeginObject("GROUP", entry.second, dictionary);
-    out_.Text(100, "AcDbGroup");
+    out_.Text(100, kGroupMarker);
     out_.Text(300, "");
     out_.Integer(70, 0);
     out_.Integer(71, 1);
@@ -97,7 +98,7 @@ void Frame::WriteLayouts(std::uint64_t dictionary, std::uint64_t root) {
   for (std::size_t tab = 0; tab < entries.size(); ++tab) {
     BeginObject("LAYOUT", entries[tab].second, dictionary);
     WritePlotSettings("");
-    out_.Text(100, "AcDbLayout");
+    out_.Text(100, kLayoutMarker);
     out_.Text(1, entries[tab].first);
     out_.Integer(70, 1);
     out_.Integer(71, static_cast<int>(tab));
@@ -106,7 +107,7 @@ void Frame::WriteLayouts(std::uint64_t dictionary, std::uint64_t root) {
 }
 
 void Frame::WritePlotSettings(const std::string& pageSetup) {
-  out_.Text(100, "AcDbPlotSettings");
+  out_.Text(100, kPlotSettingsMarker);
   out_.Text(1, pageSetup);
   out_.Text(2, "none_device");
   out_.Text(4, "A3");

@@ -1,4 +1,5 @@
 #include "generate/Frame.h"
+#include "generate/Tokens.h"
 
 namespace bench {
 namespace {
@@ -27,7 +28,7 @@ std::uint64_t Frame::BeginTable(const char* name, std::size_t count) {
   out_.Text(2, name);
   out_.Handle(5, handle);
   out_.Handle(330, 0);
-  out_.Text(100, "AcDbSymbolTable");
+  out_.Text(100, kSymbolTableMarker);
   out_.Integer(70, static_cast<int>(count));
   return handle;
 }
@@ -37,7 +38,7 @@ void Frame::BeginRecord(const char* table, std::uint64_t owner, const char* mark
   out_.Text(0, table);
   out_.Handle(5, handle);
   out_.Handle(330, owner);
-  out_.Text(100, "AcDbSymbolTableRecord");
+  out_.Text(100, kSymbolTableRecordMarker);
   out_.Text(100, marker);
   out_.Text(2, name);
 }
@@ -55,7 +56,7 @@ void Frame::WriteTables() {
 void Frame::WriteLinetypes() {
   const std::uint64_t table = BeginTable("LTYPE", std::size(kLinetypes));
   for (const Linetype& linetype : kLinetypes) {
-    BeginRecord("LTYPE", table, "AcDbLinetypeTableRecord", linetype.name, NextHandle());
+    BeginRecord("LTYPE", table, kLinetypeTableRecordMarker, linetype.name, NextHandle());
     out_.Integer(70, 0);
     out_.Text(3, linetype.comments);
     out_.Integer(72, 65);
@@ -71,7 +72,7 @@ void Frame::WriteLayers() {
   const std::uint64_t table = BeginTable("LAYER", layers_.size());
   int colour = 1;
   for (const std::string& layer : layers_) {
-    BeginRecord("LAYER", table, "AcDbLayerTableRecord", layer, NextHandle());
+    BeginRecord("LAYER", table, kLayerTableRecordMarker, layer, NextHandle());
     out_.Integer(70, 0);
     out_.Integer(62, colour++ % kColours);
     out_.Text(6, "Continuous");
@@ -84,7 +85,7 @@ void Frame::WriteLayers() {
 void Frame::WriteViews() {
   const std::uint64_t table = BeginTable("VIEW", std::size(kViews));
   for (const char* view : kViews) {
-    BeginRecord("VIEW", table, "AcDbViewTableRecord", view, NextHandle());
+    BeginRecord("VIEW", table, kViewTableRecordMarker, view, NextHandle());
     out_.Integer(70, 0);
     out_.Real(40, 100.0);
     out_.Real(10, 0.0);
@@ -101,14 +102,14 @@ void Frame::WriteOtherTables() {
     out_.Text(0, "ENDTAB");
   }
   const std::uint64_t styles = BeginTable("STYLE", 1);
-  BeginRecord("STYLE", styles, "AcDbTextStyleTableRecord", "Standard", NextHandle());
+  BeginRecord("STYLE", styles, kTextStyleTableRecordMarker, "Standard", NextHandle());
   out_.Integer(70, 0);
   out_.Text(3, "txt");
   out_.Text(4, "");
   out_.Text(0, "ENDTAB");
 
   const std::uint64_t applications = BeginTable("APPID", 1);
-  BeginRecord("APPID", applications, "AcDbRegAppTableRecord", "ACAD", NextHandle());
+  BeginRecord("APPID", applications, kRegAppTableRecordMarker, kApplication, NextHandle());
   out_.Integer(70, 0);
   out_.Text(0, "ENDTAB");
 }
@@ -116,7 +117,7 @@ void Frame::WriteOtherTables() {
 void Frame::WriteBlockRecords() {
   const std::uint64_t table = BeginTable("BLOCK_RECORD", blocks_.size() + 2);
   const auto record = [&](const std::string& name, std::uint64_t handle) {
-    BeginRecord("BLOCK_RECORD", table, "AcDbBlockTableRecord", name, handle);
+    BeginRecord("BLOCK_RECORD", table, kBlockTableRecordMarker, name, handle);
     out_.Handle(340, 0);
     out_.Integer(70, 0);
     out_.Integer(280, 1);

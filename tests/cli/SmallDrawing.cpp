@@ -2,6 +2,8 @@
 
 #include <cstddef>
 
+#include "support/dxf/Tokens.h"
+
 namespace zdx_test {
 
 namespace {
@@ -39,7 +41,8 @@ class Tags {
 
 void AddHeader(Tags& tags, const SmallDrawing& drawing) {
   tags.Begin("SECTION", "HEADER")
-      .Variable("ACADVER", 1, kVersion)
+      .Add(9, dxf::kVersionVariable)
+      .Add(1, kVersion)
       .Variable("DWGCODEPAGE", 3, "ANSI_1252")
       .Variable("TITLE", 1, drawing.title)
       .Variable("SUBJECT", 1, "")

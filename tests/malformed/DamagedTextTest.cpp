@@ -6,6 +6,7 @@
 
 #include "malformed/Damage.h"
 #include "support/PublicRead.h"
+#include "support/dxf/Tokens.h"
 
 namespace {
 
@@ -18,6 +19,9 @@ using testing::Not;
 using zdx_test::kSummary;
 using zdx_test::ReadBytes;
 using zdx_test::Reading;
+
+// The entry of the root dictionary that leads to the groups, up to its handle.
+const std::string kGroupEntry = std::string("  3\n") + dxf::kGroupKey + "\n350\n";
 
 // The number of the line that begins with the first `text`.
 std::uint64_t LineOf(const std::string& bytes, const std::string& text) {
@@ -162,7 +166,7 @@ TEST(DamagedText, LineEndsThatWereConvertedTwiceAreRead) {
 }
 
 TEST(DamagedText, ManySectionsAndALostHandleEndSoon) {
-  std::string text = Replaced(SoundText(), "  3\nACAD_GROUP\n350\n", "  3\nACAD_GROUP\n350\nFFF\n");
+  std::string text = Replaced(SoundText(), kGroupEntry, kGroupEntry + "FFF\n");
   std::string sections;
   for (int i = 0; i < 50000; ++i) sections += "  0\nSECTION\n  2\nX\n  0\nENDSEC\n";
   const Reading reading = ReadBytes(Replaced(text, "  0\nEOF\n", sections + "  0\nEOF\n"));
@@ -173,7 +177,7 @@ TEST(DamagedText, ManySectionsAndALostHandleEndSoon) {
 TEST(DamagedText, DamageInTheRootDictionaryCostsTheEntriesBehindIt) {
   const std::string text = Replaced(SoundText(), "  3\nMY_DATA\n350\n", "rubbish\n");
   const Reading reading = ReadBytes(text);
-  EXPECT_THAT(reading.Texts(L"Named Object Name"), Contains("ACAD_GROUP"));
+  EXPECT_THAT(reading.Texts(L"Named Object Name"), Contains(dxf::kGroupKey));
   EXPECT_THAT(reading.Texts(L"Group Name"), ElementsAre("Pair"));
   ExpectWarningAt(reading, LineOf(text, "rubbish"));
 }
@@ -202,7 +206,7 @@ TEST(DamagedText, ZeroHandlesLoseOnlyWhatIsNamedByThem) {
     text.replace(at, text.find('\n', at + 5) - at, "\n  5\n0");
   }
   const Reading reading = ReadBytes(text);
-  EXPECT_THAT(reading.Texts(L"Named Object Name"), Contains("ACAD_GROUP"));
+  EXPECT_THAT(reading.Texts(L"Named Object Name"), Contains(dxf::kGroupKey));
   EXPECT_THAT(reading.Texts(L"Group Name"), ElementsAre());
   EXPECT_THAT(reading.Texts(L"Layer Name"), ElementsAre("0", "First", "Second", "Third"));
 }
@@ -212,10 +216,10 @@ TEST(DamagedText, ADictionaryThatHoldsItselfEnds) {
   const std::string text = SoundText();
   const std::size_t root = text.find("  0\nDICTIONARY\n  5\n") + 19;
   const std::string handle = text.substr(root, text.find('\n', root) - root);
-  const std::size_t entry = text.find("  3\nACAD_GROUP\n350\n") + 19;
+  const std::size_t entry = text.find(kGroupEntry) + kGroupEntry.size();
   std::string circle = text;
   circle.replace(entry, text.find('\n', entry) - entry, handle);
-  EXPECT_THAT(ReadBytes(circle).Texts(L"Group Name"), Contains("ACAD_GROUP"));
+  EXPECT_THAT(ReadBytes(circle).Texts(L"Group Name"), Contains(dxf::kGroupKey));
 }
 
 TEST(DamagedText, ADictionaryEntryThatLeadsToALineIsNoDictionary) {

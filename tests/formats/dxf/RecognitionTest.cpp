@@ -3,13 +3,17 @@
 #include <string>
 
 #include "backends/database/dxf/Recognition.h"
+#include "support/dxf/Tokens.h"
 
 namespace zdx::dxf {
 namespace {
 
 using namespace std::string_literals;
 
-const std::string kSentinel = "AutoCAD Binary DXF\r\n\x1A\0"s;
+const std::string kSentinel(::dxf::kBinarySentinel);
+
+// The bytes with their line ends converted.
+std::string Converted(std::string bytes) { return bytes.erase(bytes.find('\r'), 1); }
 
 void ExpectRefused(std::string_view bytes) {
   const Recognition recognition = Recognise(bytes);
@@ -40,7 +44,7 @@ TEST(Recognition, ABinaryFileTellsTheWidthOfItsCodes) {
 }
 
 TEST(Recognition, ABinaryFileWithConvertedLineEndsIsRefused) {
-  ExpectRefused("AutoCAD Binary DXF\n\x1A\0\0\0SECTION\0"s);
+  ExpectRefused(Converted(kSentinel + "\0\0SECTION\0"s));
 }
 
 TEST(Recognition, ABinaryFileOfItsMarkAloneIsRefused) {
@@ -60,7 +64,7 @@ TEST(Recognition, OtherFilesAreRefused) {
   ExpectRefused("<html></html>");
   ExpectRefused("  0\nLINE\n  8\n0\n");
   ExpectRefused(std::string(1000, '\0'));
-  ExpectRefused("AutoCAD");
+  ExpectRefused(kSentinel.substr(0, 7));
 }
 
 TEST(Recognition, ARefusedTextTellsTheLine) {
@@ -73,7 +77,7 @@ TEST(Recognition, OtherRefusedFilesTellTheOffset) {
   EXPECT_EQ(Recognise("").refusal.offset, 0u);
   EXPECT_EQ(Recognise("\x89PNG\r\n\x1A\n\0\0\0\rIHDR"s).refusal.offset, 0u);
   EXPECT_EQ(Recognise(kSentinel + "\x05").refusal.offset, 22u);
-  EXPECT_EQ(Recognise("AutoCAD Binary DXF\n\x1A\0\0\0SECTION\0"s).refusal.offset, 18u);
+  EXPECT_EQ(Recognise(Converted(kSentinel + "\0\0SECTION\0"s)).refusal.offset, 18u);
 }
 
 TEST(Recognition, TheFirstSectionIsNotSoughtForEver) {

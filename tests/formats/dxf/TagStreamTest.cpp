@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "backends/database/dxf/TagStream.h"
+#include "support/dxf/Tokens.h"
 
 namespace zdx::dxf {
 namespace {
@@ -14,7 +15,7 @@ using namespace std::string_literals;
 using testing::ElementsAre;
 using testing::Pair;
 
-const std::string kSentinel = "AutoCAD Binary DXF\r\n\x1A\0"s;
+const std::string kSentinel(::dxf::kBinarySentinel);
 
 // The codes and values of the object's tags.
 std::vector<std::pair<int, std::string>> TagsOf(const TagStream& stream, std::size_t body,

@@ -41,7 +41,7 @@ std::vector<ClassSpec> ClassesOf(const DrawingSpec& spec, Version version) {
   std::vector<ClassSpec> classes;
   if (HasLayouts(version)) {
     classes = {{kDictionaryWithDefault, kDictionaryWithDefaultMarker},
-               {kPlaceholder, "AcDbPlaceHolder"},
+               {kPlaceholder, kPlaceHolderMarker},
                {kLayout, kLayoutMarker}};
   }
   if (!spec.images.empty() && HasImages(version)) {

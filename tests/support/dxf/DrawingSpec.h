@@ -7,6 +7,7 @@
 #include "support/dxf/EntitySpec.h"
 #include "support/dxf/ObjectSpec.h"
 #include "support/dxf/Tags.h"
+#include "support/dxf/Tokens.h"
 
 namespace dxf {
 
@@ -198,7 +199,7 @@ struct DrawingSpec {
   std::vector<LinetypeSpec> linetypes;
   std::vector<TextStyleSpec> textStyles = {"Standard"};
   std::vector<ViewSpec> views;
-  std::vector<std::string> applications = {"ACAD"};
+  std::vector<std::string> applications = {kApplication};
 
   // Behind model space and paper spaces.
   std::vector<BlockSpec> blocks;

@@ -5,7 +5,7 @@ namespace dxf {
 namespace {
 
 constexpr const char* kLightPolyline = "LWPOLYLINE";
-constexpr const char* kHeavyMarker = "AcDb2dPolyline";
+constexpr const char* kHeavyMarker = k2dPolylineMarker;
 
 // The parts of a polyline that are entities of their own lie where it lies, and are its own.
 struct Part {
@@ -26,7 +26,7 @@ void WriteLightPolyline(Drawing& drawing, const EntitySpec& polyline, const Plan
   light.type = kLightPolyline;
   BeginEntity(drawing, light, block.recordHandle, block.isPaper);
   drawing.out.Put(
-      {{100, "AcDbPolyline"}, {90, polyline.vertices.size()}, {70, polyline.closed}, {43, 0.0}});
+      {{100, kPolylineMarker}, {90, polyline.vertices.size()}, {70, polyline.closed}, {43, 0.0}});
   for (const Point& vertex : polyline.vertices) drawing.out.Put({{10, vertex.x}, {20, vertex.y}});
 }
 
@@ -38,7 +38,7 @@ void WriteHeavyPolyline(Drawing& drawing, const EntitySpec& polyline, const Plan
   const Part part{polyline.layer, handle, block.isPaper};
   for (const Point& vertex : polyline.vertices) {
     BeginPart(drawing, "VERTEX", part);
-    drawing.out.Put({{100, "AcDbVertex"}, {100, "AcDb2dVertex"}});
+    drawing.out.Put({{100, kVertexMarker}, {100, k2dVertexMarker}});
     drawing.out.PutPoint(10, vertex.x, vertex.y);
   }
   BeginPart(drawing, kSequenceEnd, part);

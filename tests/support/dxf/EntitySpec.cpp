@@ -20,14 +20,14 @@ EntitySpec Entity(std::string type, std::string layer, const char* marker) {
 }  // namespace
 
 EntitySpec Line(std::string layer, Point from, Point to) {
-  EntitySpec entity = Entity("LINE", std::move(layer), "AcDbLine");
+  EntitySpec entity = Entity("LINE", std::move(layer), kLineMarker);
   AppendPoint(entity.body, 10, from);
   AppendPoint(entity.body, 11, to);
   return entity;
 }
 
 EntitySpec Circle(std::string layer, Point centre, double radius) {
-  EntitySpec entity = Entity("CIRCLE", std::move(layer), "AcDbCircle");
+  EntitySpec entity = Entity("CIRCLE", std::move(layer), kCircleMarker);
   AppendPoint(entity.body, 10, centre);
   entity.body.emplace_back(40, radius);
   return entity;
@@ -36,12 +36,12 @@ EntitySpec Circle(std::string layer, Point centre, double radius) {
 EntitySpec Arc(std::string layer, Point centre, double radius, double from, double to) {
   EntitySpec entity = Circle(std::move(layer), centre, radius);
   entity.type = "ARC";
-  entity.body.insert(entity.body.end(), {Tag(100, "AcDbArc"), Tag(50, from), Tag(51, to)});
+  entity.body.insert(entity.body.end(), {Tag(100, kArcMarker), Tag(50, from), Tag(51, to)});
   return entity;
 }
 
 EntitySpec Dot(std::string layer, Point at) {
-  EntitySpec entity = Entity("POINT", std::move(layer), "AcDbPoint");
+  EntitySpec entity = Entity("POINT", std::move(layer), kPointMarker);
   AppendPoint(entity.body, 10, at);
   return entity;
 }
@@ -67,7 +67,7 @@ EntitySpec Polyline(std::string layer, std::vector<Point> vertices, bool closed)
 
 EntitySpec Insert(std::string block, std::vector<AttributeSpec> attributes, Placement placement,
                   std::string layer) {
-  EntitySpec entity = Entity(kInsert, std::move(layer), "AcDbBlockReference");
+  EntitySpec entity = Entity(kInsert, std::move(layer), kBlockReferenceMarker);
   if (!attributes.empty()) entity.body.emplace_back(66, 1);
   entity.body.emplace_back(2, std::move(block));
   AppendPoint(entity.body, 10, placement.at);

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "support/dxf/ObjectSpec.h"
+#include "support/dxf/Tokens.h"
 
 namespace dxf {
 
@@ -39,9 +40,7 @@ struct GeoSpec {
   std::string observationCoverage = {};
 };
 
-inline constexpr const char* kGeoKey = "ACAD_GEOGRAPHICDATA";
 inline constexpr const char* kGeoType = "GEODATA";
-inline constexpr const char* kGeoClass = "AcDbGeoData";
 
 ObjectSpec GeoObject(const GeoSpec& geo);
 

@@ -2,6 +2,7 @@
 #include <utility>
 
 #include "support/dxf/Drawing.h"
+#include "support/dxf/Tokens.h"
 
 namespace dxf {
 namespace {
@@ -22,9 +23,9 @@ std::vector<Tag> PointTags(double x, double y, double z) { return {{10, x}, {20,
 
 // Version, code page and what the drawing tells about itself.
 std::vector<KnownVariable> Identity(const DrawingSpec& spec, Version version) {
-  std::vector<KnownVariable> list = {{{"$ACADVER", {{1, spec.version}}}}};
+  std::vector<KnownVariable> list = {{{kVersionVariable, {{1, spec.version}}}}};
   const Tag maintenance(version >= Version::AC1032 ? 90 : 70, 0);
-  list.push_back({{"$ACADMAINTVER", {maintenance}}, Version::AC1014});
+  list.push_back({{kMaintenanceVariable, {maintenance}}, Version::AC1014});
   if (spec.statesCodePage) list.push_back({{"$DWGCODEPAGE", {{3, spec.codePage}}}});
   const SummarySpec& summary = spec.summary;
   const std::pair<const char*, const std::string&> fields[] = {

@@ -39,7 +39,7 @@ class Table {
 
   void End() { drawing_.out.Put({0, "ENDTAB"}); }
 
-  static constexpr const char* kBlockRecordMarker = "AcDbBlockTableRecord";
+  static constexpr const char* kBlockRecordMarker = kBlockTableRecordMarker;
 
  private:
   Drawing& drawing_;
@@ -62,7 +62,7 @@ StandardNames NamesOf(Version version) {
 }
 
 void WriteViewports(Drawing& drawing) {
-  Table table(drawing, "VPORT", "AcDbViewportTableRecord", 1);
+  Table table(drawing, "VPORT", kViewportTableRecordMarker, 1);
   table.BeginRecord(NamesOf(drawing.version).activeViewport, 0);
   drawing.out.Put({{10, 0}, {20, 0},  {11, 1},  {21, 1},  {12, 210}, {22, 148.5}, {13, 0},
                    {23, 0}, {14, 10}, {24, 10}, {15, 10}, {25, 10},  {16, 0},     {26, 0},
@@ -90,13 +90,13 @@ void WriteLinetypes(Drawing& drawing) {
   if (HasObjects(drawing.version)) list = {{names.byBlock, ""}, {names.byLayer, ""}};
   list.push_back({names.continuous, "Solid line"});
   list.insert(list.end(), drawing.spec.linetypes.begin(), drawing.spec.linetypes.end());
-  Table table(drawing, "LTYPE", "AcDbLinetypeTableRecord", list.size());
+  Table table(drawing, "LTYPE", kLinetypeTableRecordMarker, list.size());
   for (const LinetypeSpec& linetype : list) WriteLinetype(drawing, table, linetype);
   table.End();
 }
 
 void WriteLayers(Drawing& drawing) {
-  Table table(drawing, "LAYER", "AcDbLayerTableRecord", drawing.spec.layers.size());
+  Table table(drawing, "LAYER", kLayerTableRecordMarker, drawing.spec.layers.size());
   for (const LayerSpec& layer : drawing.spec.layers) {
     table.BeginRecord(layer.name, layer.flags, layer.handle);
     drawing.out.Put({62, layer.colour});
@@ -108,20 +108,20 @@ void WriteLayers(Drawing& drawing) {
 }
 
 void WriteTextStyles(Drawing& drawing) {
-  Table table(drawing, "STYLE", "AcDbTextStyleTableRecord", drawing.spec.textStyles.size());
+  Table table(drawing, "STYLE", kTextStyleTableRecordMarker, drawing.spec.textStyles.size());
   for (const TextStyleSpec& style : drawing.spec.textStyles) {
     table.BeginRecord(style.name, style.flags);
     drawing.out.Put({{40, 0}, {41, 1}, {50, 0}, {71, 0}, {42, 2.5}});
     drawing.out.Put({{3, style.font}, {4, style.bigFont}});
     if (!style.family.empty()) {
-      drawing.out.Put({{1001, "ACAD"}, {1000, style.family}, {1071, 34}});
+      drawing.out.Put({{1001, kApplication}, {1000, style.family}, {1071, 34}});
     }
   }
   table.End();
 }
 
 void WriteViews(Drawing& drawing) {
-  Table table(drawing, "VIEW", "AcDbViewTableRecord", drawing.spec.views.size());
+  Table table(drawing, "VIEW", kViewTableRecordMarker, drawing.spec.views.size());
   for (const ViewSpec& view : drawing.spec.views) {
     table.BeginRecord(view.name, 0);
     drawing.out.Put({{40, view.height}, {10, view.centre.x}, {20, view.centre.y}});
@@ -134,7 +134,7 @@ void WriteViews(Drawing& drawing) {
 }
 
 void WriteApplications(Drawing& drawing) {
-  Table table(drawing, "APPID", "AcDbRegAppTableRecord", drawing.spec.applications.size());
+  Table table(drawing, "APPID", kRegAppTableRecordMarker, drawing.spec.applications.size());
   for (const std::string& application : drawing.spec.applications) {
     table.BeginRecord(application, 0);
   }
@@ -142,8 +142,8 @@ void WriteApplications(Drawing& drawing) {
 }
 
 void WriteDimensionStyles(Drawing& drawing) {
-  Table table(drawing, kDimensionStyle, "AcDbDimStyleTableRecord", 1);
-  if (HasLayouts(drawing.version)) drawing.out.Put({100, "AcDbDimStyleTable"});
+  Table table(drawing, kDimensionStyle, kDimStyleTableRecordMarker, 1);
+  if (HasLayouts(drawing.version)) drawing.out.Put({100, kDimStyleTableMarker});
   const SettingsSpec& settings = drawing.spec.settings;
   table.BeginRecord(NamesOf(drawing.version).standard, 0);
   drawing.out.Put({{3, settings.dimpost}, {4, settings.dimapost}});
@@ -179,7 +179,7 @@ void WriteTables(Drawing& drawing) {
   WriteLayers(drawing);
   WriteTextStyles(drawing);
   WriteViews(drawing);
-  Table(drawing, "UCS", "AcDbUCSTableRecord", 0).End();
+  Table(drawing, "UCS", kUCSTableRecordMarker, 0).End();
   WriteApplications(drawing);
   WriteDimensionStyles(drawing);
   WriteBlockRecords(drawing);

@@ -62,4 +62,30 @@ inline constexpr const char* kSummaryCookie = "DWGPROPS COOKIE";
 inline constexpr const char* kMultiLineKey = "ACAD_MLATT";
 inline constexpr const char* kEmbeddedObject = "Embedded Object";
 
+inline constexpr const char* kMaintenanceVariable = "$ACADMAINTVER";
+inline constexpr const char* kVersionVariable = "$ACADVER";
+inline constexpr const char* kApplication = "ACAD";
+inline constexpr const char* kGeoKey = "ACAD_GEOGRAPHICDATA";
+inline constexpr const char* k2dPolylineMarker = "AcDb2dPolyline";
+inline constexpr const char* k2dVertexMarker = "AcDb2dVertex";
+inline constexpr const char* kArcMarker = "AcDbArc";
+inline constexpr const char* kBlockReferenceMarker = "AcDbBlockReference";
+inline constexpr const char* kBlockTableRecordMarker = "AcDbBlockTableRecord";
+inline constexpr const char* kCircleMarker = "AcDbCircle";
+inline constexpr const char* kDimStyleTableMarker = "AcDbDimStyleTable";
+inline constexpr const char* kDimStyleTableRecordMarker = "AcDbDimStyleTableRecord";
+inline constexpr const char* kGeoClass = "AcDbGeoData";
+inline constexpr const char* kLayerTableRecordMarker = "AcDbLayerTableRecord";
+inline constexpr const char* kLineMarker = "AcDbLine";
+inline constexpr const char* kLinetypeTableRecordMarker = "AcDbLinetypeTableRecord";
+inline constexpr const char* kPlaceHolderMarker = "AcDbPlaceHolder";
+inline constexpr const char* kPointMarker = "AcDbPoint";
+inline constexpr const char* kPolylineMarker = "AcDbPolyline";
+inline constexpr const char* kRegAppTableRecordMarker = "AcDbRegAppTableRecord";
+inline constexpr const char* kTextStyleTableRecordMarker = "AcDbTextStyleTableRecord";
+inline constexpr const char* kUCSTableRecordMarker = "AcDbUCSTableRecord";
+inline constexpr const char* kVertexMarker = "AcDbVertex";
+inline constexpr const char* kViewTableRecordMarker = "AcDbViewTableRecord";
+inline constexpr const char* kViewportTableRecordMarker = "AcDbViewportTableRecord";
+
 }  // namespace dxf
