@@ -121,6 +121,14 @@ TEST(DamagedText, ADamagedSummaryRecordLeavesOutWhatStoodBehind) {
   EXPECT_THAT(reading.Texts(kSummary, L"9"), ElementsAre());
 }
 
+TEST(DamagedText, ASummaryRecordWithoutItsMarkerTakesNothingFromTheNextObject) {
+  dxf::DrawingSpec spec = damage::Sound("AC1015");
+  spec.rootEntries.clear();
+  std::string text = Without(dxf::Make(spec), std::string("100\n") + dxf::kXrecordMarker + "\n");
+  text = Replaced(text, "Sound\n", "Sound\n  0\nOTHER\n  3\nForeign\n");
+  EXPECT_THAT(ReadBytes(text).Texts(kSummary, L"3"), ElementsAre(""));
+}
+
 TEST(DamagedText, DamageBeforeTheCommentsOfALineTypeCostsTheCommentsAlone) {
   const std::string text = Replaced(SoundText(), "  3\nDashed __ __\n", "Dashed __ __\n");
   const Reading reading = ReadBytes(text);

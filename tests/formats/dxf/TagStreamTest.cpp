@@ -86,6 +86,15 @@ TEST(TextTags, AnObjectEndsAtTheNext) {
   EXPECT_THAT(TagsOf(stream, start.body), ElementsAre(Pair(2, "Walls"), Pair(70, "0")));
 }
 
+TEST(TextTags, AnObjectThatHasEndedStaysEnded) {
+  const TagStream stream("  2\nWalls\n  0\nLAYER\n  2\nDoors\n", Form::kText);
+  ObjectTags tags(stream, 0);
+  Tag tag;
+  EXPECT_TRUE(tags.Next(tag));
+  EXPECT_FALSE(tags.Next(tag));
+  EXPECT_FALSE(tags.Next(tag));
+}
+
 TEST(TextTags, CommentsArePassedOver) {
   const TagStream stream("999\nby hand\n  2\nWalls\n999\n0\n", Form::kText);
   EXPECT_THAT(TagsOf(stream, 0), ElementsAre(Pair(2, "Walls")));

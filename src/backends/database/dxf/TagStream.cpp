@@ -185,7 +185,11 @@ bool ObjectTags::Next(Tag& tag) {
     const bool damaged = endedByDamage_ || tag.at != expectedAt;
     if (damaged && damagedAt_ == kNowhere) damagedAt_ = expectedAt;
     if (endedByDamage_) return false;
-    if (tag.code != kCommentCode) return tag.code != kTypeCode;
+    if (tag.code == kCommentCode) continue;
+    if (tag.code != kTypeCode) return true;
+    // The next object isn't entered, however often somebody asks.
+    at_ = tag.at;
+    return false;
   }
 }
 
