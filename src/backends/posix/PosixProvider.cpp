@@ -84,6 +84,12 @@ BSTR PosixProvider::SysAllocString(const wchar_t* text) {
   return text == nullptr ? nullptr : NewBstr(text, std::wcslen(text));
 }
 
+HRESULT PosixProvider::InitVariantFromBuffer(const void*, std::uint32_t, VARIANT*) {
+  return E_FAIL;
+}
+
+HRESULT PosixProvider::CLSIDFromString(const wchar_t*, GUID*) { return CO_E_CLASSSTRING; }
+
 HRESULT PosixProvider::CoInitialize(void* /*reserved*/) { return S_OK; }
 
 void PosixProvider::CoUninitialize() {}

@@ -15,6 +15,8 @@ class PosixProvider : public os::Provider {
   // A variant of another type is left as it is: nobody knows what it holds.
   HRESULT VariantClear(VARIANT* variant) override;
   BSTR SysAllocString(const wchar_t* text) override;
+  HRESULT InitVariantFromBuffer(const void* buffer, std::uint32_t size, VARIANT* variant) override;
+  HRESULT CLSIDFromString(const wchar_t* text, GUID* id) override;
   // There is no COM here: starting it succeeds and stopping it does nothing.
   HRESULT CoInitialize(void* reserved) override;
   void CoUninitialize() override;

@@ -17,6 +17,12 @@ HRESULT VariantCopy(VARIANT* target, const VARIANT* source) {
 }
 HRESULT VariantClear(VARIANT* variant) { return slot.Get().VariantClear(variant); }
 BSTR SysAllocString(const wchar_t* text) { return slot.Get().SysAllocString(text); }
+HRESULT InitVariantFromBuffer(const void* buffer, std::uint32_t size, VARIANT* variant) {
+  return slot.Get().InitVariantFromBuffer(buffer, size, variant);
+}
+HRESULT CLSIDFromString(const wchar_t* text, GUID* id) {
+  return slot.Get().CLSIDFromString(text, id);
+}
 HRESULT CoInitialize(void* reserved) { return slot.Get().CoInitialize(reserved); }
 void CoUninitialize() { slot.Get().CoUninitialize(); }
 void OutputDebugStringW(const wchar_t* text) { slot.Get().OutputDebugStringW(text); }

@@ -1,6 +1,8 @@
 // The operating system's operations that the engine calls, with Windows' names and meanings.
 #pragma once
 
+#include <cstdint>
+
 #include "ZDXEngine/Automation.h"
 
 namespace os {
@@ -18,6 +20,12 @@ HRESULT VariantClear(VARIANT* variant);
 // A new text with the characters of `text` up to its terminator; null if `text` is null or memory
 // ran out, which the caller tells apart by its argument.  VariantClear releases it.
 BSTR SysAllocString(const wchar_t* text);
+// Makes `variant`, whatever it held, an array of bytes (VT_ARRAY | VT_UI1) with a copy of the
+// `size` bytes at `buffer`.  S_OK, or a failure that leaves it empty.
+HRESULT InitVariantFromBuffer(const void* buffer, std::uint32_t size, VARIANT* variant);
+// Sets `id` to what `text` says in braced form, "{F29F85E0-4FF9-1068-AB91-08002B27B3D9}", in any
+// case.  S_OK, or CO_E_CLASSSTRING for any other text.
+HRESULT CLSIDFromString(const wchar_t* text, GUID* id);
 // Starts COM on this thread; `reserved` is null.
 HRESULT CoInitialize(void* reserved);
 // Stops COM on this thread.
@@ -35,6 +43,9 @@ class Provider {
   virtual HRESULT VariantCopy(VARIANT* target, const VARIANT* source) = 0;
   virtual HRESULT VariantClear(VARIANT* variant) = 0;
   virtual BSTR SysAllocString(const wchar_t* text) = 0;
+  virtual HRESULT InitVariantFromBuffer(const void* buffer, std::uint32_t size,
+                                        VARIANT* variant) = 0;
+  virtual HRESULT CLSIDFromString(const wchar_t* text, GUID* id) = 0;
   virtual HRESULT CoInitialize(void* reserved) = 0;
   virtual void CoUninitialize() = 0;
   virtual void OutputDebugStringW(const wchar_t* text) = 0;

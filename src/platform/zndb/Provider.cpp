@@ -59,6 +59,14 @@ Zent::ErrorStatus zndbGetSummaryInfo(ZnDbDatabase* database, ZnDbDatabaseSummary
   return slot.Get().zndbGetSummaryInfo(database, info);
 }
 
+bool zndbGetPreviewBitmapFromDwg(const wchar_t* path, os::HBITMAP& bitmap, os::HPALETTE& palette) {
+  return slot.Get().zndbGetPreviewBitmapFromDwg(path, bitmap, palette);
+}
+
+const os::BITMAPINFO* zndbGetPreviewBitmap(const wchar_t* path) {
+  return slot.Get().zndbGetPreviewBitmap(path);
+}
+
 void* znHeapAlloc(void* heap, std::size_t size) { return slot.Get().znHeapAlloc(heap, size); }
 void znHeapFree(void* heap, void* block) { slot.Get().znHeapFree(heap, block); }
 

@@ -8,6 +8,7 @@
 #include "platform/zndb/ZnDbDatabaseSummaryInfo.h"
 #include "platform/zndb/ZnDbHostApplicationServices.h"
 #include "platform/zndb/ZnDbObjects.h"
+#include "platform/zndb/ZnDbPreview.h"
 #include "platform/zndb/ZnUt.h"
 
 namespace zndb {
@@ -83,6 +84,10 @@ class Provider {
                                            bool openErased) = 0;
   virtual Zent::ErrorStatus zndbGetSummaryInfo(ZnDbDatabase* database,
                                                ZnDbDatabaseSummaryInfo*& info) = 0;
+
+  virtual bool zndbGetPreviewBitmapFromDwg(const wchar_t* path, os::HBITMAP& bitmap,
+                                           os::HPALETTE& palette) = 0;
+  virtual const os::BITMAPINFO* zndbGetPreviewBitmap(const wchar_t* path) = 0;
 
   virtual void* znHeapAlloc(void* heap, std::size_t size) = 0;
   virtual void znHeapFree(void* heap, void* block) = 0;

@@ -46,6 +46,12 @@ class Library : public zndb::Provider {
   Zent::ErrorStatus zndbGetSummaryInfo(ZnDbDatabase* database,
                                        ZnDbDatabaseSummaryInfo*& info) override;
 
+  bool zndbGetPreviewBitmapFromDwg(const wchar_t* /*path*/, os::HBITMAP& /*bitmap*/,
+                                   os::HPALETTE& /*palette*/) override {
+    return false;
+  }
+  const os::BITMAPINFO* zndbGetPreviewBitmap(const wchar_t* /*path*/) override { return nullptr; }
+
   void* znHeapAlloc(void* heap, std::size_t size) override;
   void znHeapFree(void* heap, void* block) override;
   Zent::ErrorStatus znutNewString(const wchar_t* source, wchar_t*& buffer) override;

@@ -68,6 +68,10 @@ BSTR System::SysAllocString(const wchar_t* text) {
   return NewText(text, std::wcslen(text) * sizeof(wchar_t));
 }
 
+HRESULT System::InitVariantFromBuffer(const void*, std::uint32_t, VARIANT*) { return E_FAIL; }
+
+HRESULT System::CLSIDFromString(const wchar_t*, GUID*) { return CO_E_CLASSSTRING; }
+
 HRESULT System::CoInitialize(void* reserved) {
   return calls_.Record("", "CoInitialize", reserved == nullptr ? "null" : "reserved").status;
 }

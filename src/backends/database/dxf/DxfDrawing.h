@@ -40,6 +40,7 @@ class DxfDrawing : public model::Drawing {
   model::ObjectDescription Describe(model::ObjectKey object) override;
   std::optional<std::wstring> SettingText(model::Setting setting) override;
   std::optional<model::Summary> ReadSummary() override;
+  std::vector<model::StoredPicture> PreviewPictures() override { return {}; }
 
  private:
   struct Tables {

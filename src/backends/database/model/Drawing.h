@@ -65,6 +65,16 @@ struct Summary {
   std::vector<std::pair<std::wstring, std::wstring>> custom;
 };
 
+// A preview picture as the file stores it.
+struct StoredPicture {
+  enum class Kind { kBitmap, kMetafile, kPng };
+  Kind kind = Kind::kBitmap;
+  // A bitmap begins with its 40-byte head, without that of a file of its own.
+  std::string bytes;
+  // Where it begins in the file.
+  std::uint64_t at = 0;
+};
+
 class Drawing {
  public:
   virtual ~Drawing() = default;
@@ -95,6 +105,8 @@ class Drawing {
   virtual std::optional<std::wstring> SettingText(Setting setting) = 0;
   // nullopt if the drawing's version has no summary.
   virtual std::optional<Summary> ReadSummary() = 0;
+  // The preview pictures in stored order, those whose bytes are all there.
+  virtual std::vector<StoredPicture> PreviewPictures() = 0;
 
  protected:
   Drawing() = default;

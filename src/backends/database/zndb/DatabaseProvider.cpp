@@ -85,6 +85,11 @@ class Provider : public ::zndb::Provider {
     return Zent::kOk;
   }
 
+  bool zndbGetPreviewBitmapFromDwg(const wchar_t*, os::HBITMAP&, os::HPALETTE&) override {
+    return false;
+  }
+  const os::BITMAPINFO* zndbGetPreviewBitmap(const wchar_t*) override { return nullptr; }
+
   void* znHeapAlloc(void* /*heap*/, std::size_t size) override { return std::malloc(size); }
   void znHeapFree(void* /*heap*/, void* block) override { std::free(block); }
 
