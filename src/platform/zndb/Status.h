@@ -15,6 +15,9 @@ inline constexpr ErrorStatus kUnknownHandle = 32;
 inline constexpr ErrorStatus kOutOfMemory = 40;
 inline constexpr ErrorStatus kFileNotFound = 76;
 inline constexpr ErrorStatus kFileAccess = 77;
+inline constexpr ErrorStatus kUnknownVersion = 78;
+inline constexpr ErrorStatus kDamaged = 79;
 inline constexpr ErrorStatus kNotADrawing = 314;
+inline constexpr ErrorStatus kEncrypted = 1001;
 
 }  // namespace Zent

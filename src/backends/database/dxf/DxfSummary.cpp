@@ -2,12 +2,12 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
-#include <map>
 
 #include "backends/database/dxf/DxfDrawing.h"
 #include "backends/database/dxf/Lines.h"
 #include "backends/database/dxf/Tokens.h"
 #include "backends/database/model/BuiltIns.h"
+#include "backends/database/model/SummaryRecord.h"
 #include "base/CaseFold.h"
 
 namespace zdx::dxf {
@@ -40,35 +40,21 @@ bool NamesAnArrow(Setting setting) {
          setting == Setting::kDimblk2;
 }
 
-// A field of the summary: its header variable from AC1018 on, and its group code in the record in
-// which AC1012 to AC1015 keep it.
 struct SummaryRow {
   std::optional<std::wstring> Summary::*field;
   std::string_view variable;
-  int code;
 };
 
+// From AC1018 on; before, a record has the summary.
 constexpr SummaryRow kSummaryFields[] = {
-    {&Summary::title, kTitleVariable, 2},
-    {&Summary::subject, kSubjectVariable, 3},
-    {&Summary::author, kAuthorVariable, 4},
-    {&Summary::comments, kCommentsVariable, 6},
-    {&Summary::keywords, kKeywordsVariable, 7},
-    {&Summary::lastSavedBy, kLastSavedByVariable, 8},
-    {&Summary::revisionNumber, kRevisionNumberVariable, 9},
+    {&Summary::title, kTitleVariable},
+    {&Summary::subject, kSubjectVariable},
+    {&Summary::author, kAuthorVariable},
+    {&Summary::keywords, kKeywordsVariable},
+    {&Summary::comments, kCommentsVariable},
+    {&Summary::lastSavedBy, kLastSavedByVariable},
+    {&Summary::revisionNumber, kRevisionNumberVariable},
 };
-
-// The record holds custom entries as "name=value"; an unused place holds "=".
-constexpr int kFirstCustomCode = 300;
-constexpr int kLastCustomCode = 309;
-constexpr wchar_t kCustomSeparator = L'=';
-
-void AddCustomEntry(Summary& summary, const std::wstring& text) {
-  const std::size_t separator = std::min(text.find(kCustomSeparator), text.size());
-  const std::size_t value = std::min(separator + 1, text.size());
-  if (separator == 0 && value == text.size()) return;
-  summary.custom.emplace_back(text.substr(0, separator), text.substr(value));
-}
 
 }  // namespace
 
@@ -133,38 +119,26 @@ void DxfDrawing::ReadCustomEntries(Summary& summary) {
 }
 
 Summary DxfDrawing::SummaryOfRecord() {
-  Summary summary;
   const std::optional<model::ObjectKey> root = RootDictionary();
-  if (!root) return summary;
+  if (!root) return {};
   const std::vector<model::DictionaryEntry> entries = DictionaryEntries(*root);
   const auto entry = std::find_if(entries.begin(), entries.end(), [](const auto& e) {
     return CompareIgnoringCase(e.key, kSummaryKey) == 0;
   });
-  if (entry == entries.end()) return summary;
+  if (entry == entries.end()) return {};
   const std::optional<model::ObjectKey> record = Find(entry->target);
-  if (!record || StartOf(*record).type != kXrecord) return summary;
+  if (!record || StartOf(*record).type != kXrecord) return {};
   ObjectTags tags(stream_, StartOf(*record).body);
   Tag tag;
   while (tags.Next(tag) && !(tag.code == kSubclassCode && Trimmed(tag.value) == kXrecordMarker)) {
   }
-  std::map<int, std::wstring> fields;
+  model::SummaryRecord summary;
   while (tags.Next(tag)) {
-    if (tag.code >= kFirstCustomCode && tag.code <= kLastCustomCode) {
-      AddCustomEntry(summary, Text(tag, model::TextUse::kValue));
-      continue;
-    }
-    for (const SummaryRow& row : kSummaryFields) {
-      if (row.code == tag.code) fields[row.code] = Text(tag, model::TextUse::kValue);
-    }
-  }
-  for (const SummaryRow& row : kSummaryFields) {
-    const auto field = fields.find(row.code);
-    if (field != fields.end()) summary.*row.field = field->second;
-    // What damage may have swallowed isn't known to be empty.
-    if (field == fields.end() && tags.endedByDamage()) summary.*row.field = std::nullopt;
+    if (!model::SummaryRecord::Wants(tag.code)) continue;
+    summary.Take(tag.code, Text(tag, model::TextUse::kValue));
   }
   WarnOfDamage(tags);
-  return summary;
+  return summary.Finish(tags.endedByDamage());
 }
 
 }  // namespace zdx::dxf

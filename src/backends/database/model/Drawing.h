@@ -86,6 +86,8 @@ class Drawing {
   virtual const std::vector<ObjectKey>& TableRecords(TableKind table) = 0;
   // The name of such a record; nullopt if it can't be read.
   virtual std::optional<std::wstring> RecordName(TableKind table, ObjectKey record) = 0;
+  // Whether such a record is called `name`, in any case.  A record may have more than one name.
+  virtual bool HasName(TableKind table, ObjectKey record, const std::wstring& name);
   // The comments of a line type, empty if it has none; nullopt if they can't be read.
   virtual std::optional<std::wstring> LinetypeComments(ObjectKey record) = 0;
 

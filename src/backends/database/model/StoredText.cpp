@@ -4,8 +4,10 @@
 #include <cstdint>
 #include <map>
 #include <optional>
+#include <utility>
 
 #include "ZDXEngine/Utf8.h"
+#include "base/LittleEndian.h"
 
 namespace zdx::model {
 namespace {
@@ -142,7 +144,19 @@ std::wstring StoredTextDecoder::DecodeBytes(std::string_view bytes, TextFlaws& f
 }
 
 std::wstring StoredTextDecoder::Decode(std::string_view bytes, TextUse use, TextFlaws& flaws) {
-  std::wstring text = DecodeBytes(bytes, flaws);
+  return Expand(DecodeBytes(bytes, flaws), use, flaws);
+}
+
+std::wstring StoredTextDecoder::DecodeUtf16(std::string_view bytes, TextUse use, TextFlaws& flaws) {
+  std::wstring text;
+  text.reserve(bytes.size() / 2);
+  for (; bytes.size() >= 2; bytes.remove_prefix(2)) {
+    AppendUnit(text, LittleEndian<std::uint16_t>(bytes));
+  }
+  return Expand(std::move(text), use, flaws);
+}
+
+std::wstring StoredTextDecoder::Expand(std::wstring text, TextUse use, TextFlaws& flaws) {
   const bool backslashes = use == TextUse::kName || !utf8_;
   if (text.find_first_of(L"\\^") != std::wstring::npos) {
     text = ExpandEscapes(text, backslashes, controls_ == ControlCharacters::kCaret, doubleByte_);

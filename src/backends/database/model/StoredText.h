@@ -36,8 +36,12 @@ class StoredTextDecoder {
   // `\U+XXXX` and
   // `\M+nXXXX` form are decoded as TextUse says; a pair of surrogates gives one character.
   std::wstring Decode(std::string_view bytes, TextUse use, TextFlaws& flaws);
+  // The same of a text in UTF-16 with the low byte first, in whatever version.  Half a pair of
+  // surrogates is kept as it is.
+  std::wstring DecodeUtf16(std::string_view bytes, TextUse use, TextFlaws& flaws);
 
  private:
+  std::wstring Expand(std::wstring text, TextUse use, TextFlaws& flaws);
   std::wstring DecodeBytes(std::string_view bytes, TextFlaws& flaws);
 
   bool utf8_;

@@ -3,6 +3,7 @@
 #include <utility>
 #include <variant>
 
+#include "backends/database/dwg/DwgDrawing.h"
 #include "backends/database/dxf/DxfDrawing.h"
 #include "backends/database/dxf/Recognition.h"
 #include "backends/database/file/MappedFile.h"
@@ -31,6 +32,19 @@ FailureRow RowOf(file::OpenFailure failure) {
   }
 }
 
+Zent::ErrorStatus StatusOf(dwg::RefusalKind kind) {
+  switch (kind) {
+    case dwg::RefusalKind::kNotADrawing:
+      return Zent::kNotADrawing;
+    case dwg::RefusalKind::kProtected:
+      return Zent::kEncrypted;
+    case dwg::RefusalKind::kVersionNotKnown:
+      return Zent::kUnknownVersion;
+    default:
+      return Zent::kDamaged;
+  }
+}
+
 }  // namespace
 
 // Takes up the reading of `path`; false if a drawing was read already, whose objects are handed
@@ -56,11 +70,17 @@ Zent::ErrorStatus EmbeddedDatabase::readDwgFile(const wchar_t* path, int /*openM
                                                 bool /*allowCodePageConversion*/,
                                                 const wchar_t* /*password*/) {
   if (!Begin(path)) return Zent::kNotApplicable;
-  const auto opened = file::MappedFile::Open(path_);
+  auto opened = file::MappedFile::Open(path_);
   if (const auto* failure = std::get_if<file::OpenFailure>(&opened)) {
     return Fail(*failure);
   }
-  return Fail(Zent::kNotADrawing, Unplaced(L"This version reads DXF drawings alone."));
+  auto drawing = dwg::DwgDrawing::Open(std::move(std::get<file::MappedFile>(opened)), report_);
+  if (auto* const refusal = std::get_if<dwg::Refusal>(&drawing)) {
+    return Fail(StatusOf(refusal->kind), std::move(refusal->reason));
+  }
+  drawing_ = std::move(std::get<std::unique_ptr<model::Drawing>>(drawing));
+  KeepTexts();
+  return Zent::kOk;
 }
 
 Zent::ErrorStatus EmbeddedDatabase::dxfIn(const wchar_t* path, const wchar_t* /*logPath*/) {

@@ -83,11 +83,9 @@ Zent::ErrorStatus EmbeddedTable<Base>::getIdAt(const wchar_t* name, ZnDbObjectId
                                                bool /*getErased*/) const {
   EmbeddedDatabase* const database = this->stub_->owner;
   for (const model::ObjectKey record : database->drawing()->TableRecords(kind_)) {
-    const std::optional<std::wstring> found = database->drawing()->RecordName(kind_, record);
-    if (found && CompareIgnoringCase(*found, name) == 0) {
-      id = database->RecordId(kind_, record);
-      return Zent::kOk;
-    }
+    if (!database->drawing()->HasName(kind_, record, name)) continue;
+    id = database->RecordId(kind_, record);
+    return Zent::kOk;
   }
   return Zent::kKeyNotFound;
 }

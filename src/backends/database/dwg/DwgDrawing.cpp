@@ -1,0 +1,225 @@
+#include "backends/database/dwg/DwgDrawing.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+#include "backends/database/dwg/Tokens.h"
+#include "backends/database/dwg/records/Layouts.h"
+#include "backends/database/dwg/records/SectionBlock.h"
+#include "base/CaseFold.h"
+
+namespace zdx::dwg {
+
+std::variant<std::unique_ptr<model::Drawing>, Refusal> DwgDrawing::Open(
+    file::MappedFile file, std::shared_ptr<model::Report> report) {
+  Recognition recognition = Recognise(file.bytes());
+  if (!recognition.version) return std::move(recognition.refusal);
+  const FileHead head = *ReadFileHead(file.bytes());
+  const Format format = {*recognition.version, head.maintenance};
+  std::unique_ptr<DwgDrawing> drawing(new DwgDrawing(std::move(file), format, std::move(report)));
+  drawing->ReportHead(head);
+  auto container = OpenContainer(format.version, drawing->file_.bytes(), *drawing->report_);
+  if (auto* const reason = std::get_if<model::Finding>(&container)) {
+    return Refusal{RefusalKind::kDamaged, std::move(*reason)};
+  }
+  drawing->container_ = std::move(std::get<std::unique_ptr<Container>>(container));
+  return drawing;
+}
+
+DwgDrawing::DwgDrawing(file::MappedFile file, Format format, std::shared_ptr<model::Report> report)
+    : file_(std::move(file)), format_(format), report_(std::move(report)) {}
+
+void DwgDrawing::ReportHead(const FileHead& head) {
+  const std::string_view magic = file_.bytes().substr(0, kMagicSize);
+  report_->format = L"DWG";
+  report_->version.assign(magic.begin(), magic.end());
+  const NumberedCodePage* const page = CodePageByNumber(head.codePage);
+  if (page != nullptr) {
+    page_ = page->page;
+    report_->codePage = page->name;
+  } else if (!format_.HasStringStream()) {
+    WarnAt(L"The code page isn't known; Western (1252) is used.", kCodePageAt);
+  }
+  decoder_.emplace(format_.version, page_, model::ControlCharacters::kPlain);
+}
+
+const FieldValues& DwgDrawing::Header() {
+  if (header_) return *header_;
+  header_.emplace();
+  Section* const section = container_->Find(SectionId::kHeader);
+  if (section == nullptr) {
+    Warn(L"The file has no header variables.", 0);
+    return *header_;
+  }
+  SectionBlock block(*section, format_, kHeaderMark, L"header variables", *report_);
+  Streams* const streams = block.Fields();
+  if (streams != nullptr && !ReadFields(HeaderLayout(), format_.version, *streams, *header_)) {
+    WarnAt(L"The header variables end early.", block.place());
+  }
+  return *header_;
+}
+
+ObjectMap& DwgDrawing::Map() {
+  if (!map_) {
+    Section* const section = container_->Find(SectionId::kObjectMap);
+    if (section == nullptr) Warn(L"The file has no object map.", 0);
+    map_ = section != nullptr ? ObjectMap(*section, *report_) : ObjectMap();
+  }
+  return *map_;
+}
+
+const ClassTable& DwgDrawing::Classes() {
+  if (!classes_) {
+    Section* const section = container_->Find(SectionId::kClasses);
+    classes_ = section != nullptr ? ClassTable(*section, format_, *report_) : ClassTable();
+  }
+  return *classes_;
+}
+
+std::optional<model::ObjectKey> DwgDrawing::Find(model::Handle handle) {
+  if (handle == 0 || !Map().Find(handle)) return std::nullopt;
+  return model::ObjectKey{handle};
+}
+
+std::optional<DwgDrawing::Object> DwgDrawing::Read(model::Handle handle) {
+  const std::optional<std::uint64_t> at = Map().Find(handle);
+  if (!at) return std::nullopt;
+  Section* const objects = container_->Find(SectionId::kObjects);
+  if (objects == nullptr) {
+    Warn(L"The file has no objects.", 0);
+    return std::nullopt;
+  }
+  Record record(*objects, *at, format_);
+  if (!record.Whole() || record.handle() != handle) {
+    Warn(L"The record of an object is damaged.", handle);
+    return std::nullopt;
+  }
+  if (!record.CheckIsRight()) Warn(L"The checksum of a record is wrong.", handle);
+  Object object;
+  object.type = record.type();
+  object.like = object.type;
+  if (object.type >= kFirstClassType) object.declared = Classes().Find(object.type);
+  if (object.declared != nullptr) object.like = object.declared->like.value_or(object.type);
+  const bool isEntity = IsEntity(object);
+  std::optional<Streams> streams = record.Fields(isEntity);
+  if (streams) {
+    const model::Version version = format_.version;
+    const auto own = OwnLayout(object.like);
+    object.whole = isEntity
+                       ? ReadFields(EntityLayout(), version, *streams, object.fields)
+                       : ReadFields(ObjectLayout(), version, *streams, object.fields) &&
+                             ReadFields(ObjectHandlesLayout(), version, *streams, object.fields);
+    object.whole = object.whole && ReadFields(own, version, *streams, object.fields);
+  }
+  if (!object.whole) Warn(L"The record of an object ends early.", handle);
+  return object;
+}
+
+bool DwgDrawing::IsEntity(const Object& object) const {
+  return object.declared != nullptr ? object.declared->isEntity : IsFixedEntity(object.type);
+}
+
+model::ObjectDescription DwgDrawing::Describe(model::ObjectKey key) {
+  using Kind = model::ObjectDescription::Kind;
+  const auto handle = static_cast<model::Handle>(key);
+  const std::optional<Object> object = Read(handle);
+  if (!object) return {};
+  const auto className = [&](ObjectType type, const DeclaredClass* declared) {
+    if (declared != nullptr) return Text(declared->className, model::TextUse::kName);
+    return std::wstring(FixedClassName(type));
+  };
+  if (object->type == kProxyObjectType || object->type == kProxyEntityType) {
+    const auto number = static_cast<ObjectType>(object->fields.Number(Key::kClassNumber));
+    return {Kind::kProxy, className(number, Classes().Find(number))};
+  }
+  return {object->like == kDictionaryType ? Kind::kDictionary : Kind::kObject,
+          className(object->type, object->declared)};
+}
+
+std::optional<model::ObjectKey> DwgDrawing::RootDictionary() {
+  const FieldValues::Value* const root = Header().Find(Key::kRootDictionary);
+  return root == nullptr ? std::nullopt : Find(root->handle.From(0));
+}
+
+std::vector<model::DictionaryEntry> DwgDrawing::DictionaryEntries(model::ObjectKey dictionary) {
+  const auto handle = static_cast<model::Handle>(dictionary);
+  const std::optional<Object> object = Read(handle);
+  if (!object || object->like != kDictionaryType) return {};
+  const std::vector<std::string>& keys = object->fields.Texts(Key::kKeys);
+  const std::vector<HandleReference>& values = object->fields.Handles(Key::kEntries);
+  std::vector<model::DictionaryEntry> entries;
+  entries.reserve(keys.size());
+  for (std::size_t i = 0; i < keys.size(); ++i) {
+    const model::Handle target = i < values.size() ? values[i].From(handle) : 0;
+    entries.push_back({Text(keys[i], model::TextUse::kName, handle), target});
+  }
+  return entries;
+}
+
+std::wstring DwgDrawing::DictionaryName(model::DictionaryKind kind) const {
+  switch (kind) {
+    case model::DictionaryKind::kGroup:
+      return std::wstring(kGroupKey);
+    case model::DictionaryKind::kMlineStyle:
+      return std::wstring(kMlineStyleKey);
+    case model::DictionaryKind::kLayout:
+      return std::wstring(kLayoutKey);
+    default:
+      return std::wstring(kPlotSettingsKey);
+  }
+}
+
+// What `dictionary` holds under `key`; nullopt if it has no such entry.
+std::optional<model::Handle> DwgDrawing::EntryOf(model::Handle dictionary, std::wstring_view key) {
+  for (const model::DictionaryEntry& entry : DictionaryEntries(model::ObjectKey{dictionary})) {
+    if (CompareIgnoringCase(entry.key, key) == 0) return entry.target;
+  }
+  return std::nullopt;
+}
+
+std::wstring DwgDrawing::Text(std::string_view stored, model::TextUse use, model::Handle handle) {
+  model::TextFlaws flaws;
+  std::wstring text = format_.HasStringStream() ? decoder_->DecodeUtf16(stored, use, flaws)
+                                                : decoder_->Decode(stored, use, flaws);
+  WarnOfFlaws(flaws, handle);
+  return text;
+}
+
+// The text of a group, which may be of another code page than the drawing's.
+std::wstring DwgDrawing::GroupText(std::string_view text, std::uint16_t codePage,
+                                   model::Handle handle) {
+  const NumberedCodePage* const page = CodePageByNumber(codePage);
+  if (format_.HasStringStream() || page == nullptr || page->page == page_) {
+    return Text(text, model::TextUse::kValue, handle);
+  }
+  const auto decoder = otherDecoders_.try_emplace(page->page, format_.version, page->page,
+                                                  model::ControlCharacters::kPlain);
+  model::TextFlaws flaws;
+  std::wstring decoded = decoder.first->second.Decode(text, model::TextUse::kValue, flaws);
+  WarnOfFlaws(flaws, handle);
+  return decoded;
+}
+
+void DwgDrawing::WarnOfFlaws(const model::TextFlaws& flaws, model::Handle handle) {
+  if (flaws.notInEncoding) Warn(L"A text isn't valid in the file's encoding.", handle);
+  if (flaws.hasNul) Warn(L"A text holds NUL characters, which are left out.", handle);
+}
+
+// Tells the place where the object's record is said to be.
+void DwgDrawing::Warn(std::wstring text, model::Handle handle) {
+  model::Finding finding = {std::move(text), {}, {}, {}};
+  if (handle != 0) {
+    finding.handle = handle;
+    Section* const objects = container_->Find(SectionId::kObjects);
+    const std::optional<std::uint64_t> at = Map().Find(handle);
+    if (objects != nullptr && at) finding.offset = objects->PlaceOf(*at);
+  }
+  report_->Warn(std::move(finding));
+}
+
+void DwgDrawing::WarnAt(std::wstring text, std::uint64_t at) {
+  report_->Warn({std::move(text), at, {}, {}});
+}
+
+}  // namespace zdx::dwg

@@ -1,0 +1,106 @@
+// A drawing that stands in a DWG file.
+#pragma once
+
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include "backends/database/dwg/Recognition.h"
+#include "backends/database/dwg/container/Container.h"
+#include "backends/database/dwg/container/FileHead.h"
+#include "backends/database/dwg/records/ClassTable.h"
+#include "backends/database/dwg/records/FieldReader.h"
+#include "backends/database/dwg/records/ObjectMap.h"
+#include "backends/database/dwg/records/Record.h"
+#include "backends/database/file/MappedFile.h"
+#include "backends/database/model/Drawing.h"
+#include "backends/database/model/Report.h"
+#include "backends/database/model/StoredText.h"
+#include "base/CodePage.h"
+
+namespace zdx::dwg {
+
+// Keeps the file mapped and reads sections and records when they are asked for.  An object's key is
+// its handle.
+class DwgDrawing : public model::Drawing {
+ public:
+  // The drawing in `file`, or why it can't be read.  What is found goes to `report`.
+  static std::variant<std::unique_ptr<model::Drawing>, Refusal> Open(
+      file::MappedFile file, std::shared_ptr<model::Report> report);
+
+  DwgDrawing(const DwgDrawing&) = delete;
+  DwgDrawing& operator=(const DwgDrawing&) = delete;
+
+  model::Version version() const override { return format_.version; }
+  const std::vector<model::ObjectKey>& TableRecords(model::TableKind table) override;
+  std::optional<std::wstring> RecordName(model::TableKind table, model::ObjectKey record) override;
+  bool HasName(model::TableKind table, model::ObjectKey record, const std::wstring& name) override;
+  std::optional<std::wstring> LinetypeComments(model::ObjectKey record) override;
+  std::optional<model::ObjectKey> RootDictionary() override;
+  std::vector<model::DictionaryEntry> DictionaryEntries(model::ObjectKey dictionary) override;
+  std::wstring DictionaryName(model::DictionaryKind kind) const override;
+  std::optional<model::ObjectKey> Find(model::Handle handle) override;
+  model::ObjectDescription Describe(model::ObjectKey object) override;
+  std::optional<std::wstring> SettingText(model::Setting setting) override;
+  std::optional<model::Summary> ReadSummary() override;
+  std::vector<model::StoredPicture> PreviewPictures() override;
+
+ private:
+  // What was read of an object.
+  struct Object {
+    ObjectType type = 0;
+    // The type whose layout it has, which is another if its class is like one.
+    ObjectType like = 0;
+    // Set if the type is the number of a class.
+    const DeclaredClass* declared = nullptr;
+    FieldValues fields;
+    // Whether the fields asked for are all there.
+    bool whole = false;
+  };
+
+  DwgDrawing(file::MappedFile file, Format format, std::shared_ptr<model::Report> report);
+
+  void ReportHead(const FileHead& head);
+  const FieldValues& Header();
+  ObjectMap& Map();
+  const ClassTable& Classes();
+
+  // Reads an object and its fields by the layout of its type; nullopt if its record can't be found.
+  std::optional<Object> Read(model::Handle handle);
+  bool IsEntity(const Object& object) const;
+  std::vector<model::ObjectKey> CollectRecords(model::TableKind table);
+  std::wstring FullBlockName(std::wstring cut, const FieldValues& block, model::Handle handle);
+  std::optional<std::wstring> TrueSpelling(model::Handle handle);
+  std::optional<std::wstring> ArrowName(const FieldValues::Value& value);
+  std::wstring BlockSpelling(const std::wstring& name);
+  std::optional<model::Handle> EntryOf(model::Handle dictionary, std::wstring_view key);
+  model::Summary SummaryOfSection();
+  model::Summary SummaryOfRecord();
+
+  std::wstring Text(std::string_view stored, model::TextUse use, model::Handle handle = 0);
+  std::wstring GroupText(std::string_view text, std::uint16_t codePage, model::Handle handle);
+  void WarnOfFlaws(const model::TextFlaws& flaws, model::Handle handle);
+  void Warn(std::wstring text, model::Handle handle);
+  void WarnAt(std::wstring text, std::uint64_t at);
+
+  file::MappedFile file_;
+  Format format_;
+  std::shared_ptr<model::Report> report_;
+  std::unique_ptr<Container> container_;
+  std::optional<model::StoredTextDecoder> decoder_;
+  CodePageId page_ = kWestern;
+  // Of texts that tell a page of their own.
+  std::map<CodePageId, model::StoredTextDecoder> otherDecoders_;
+
+  // Filled at the first question that needs them.
+  std::optional<FieldValues> header_;
+  std::optional<ObjectMap> map_;
+  std::optional<ClassTable> classes_;
+  std::map<model::TableKind, std::vector<model::ObjectKey>> tables_;
+};
+
+}  // namespace zdx::dwg

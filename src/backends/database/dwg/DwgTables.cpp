@@ -1,0 +1,155 @@
+// The symbol tables, and the names of their records.
+#include <algorithm>
+#include <iterator>
+#include <unordered_set>
+#include <utility>
+
+#include "backends/database/dwg/DwgDrawing.h"
+#include "backends/database/dwg/Tokens.h"
+#include "backends/database/dwg/records/FreeRecord.h"
+#include "base/CaseFold.h"
+
+namespace zdx::dwg {
+namespace {
+
+struct TableRow {
+  model::TableKind kind;
+  // The header variable that names the table.
+  Key variable;
+  ObjectType type;
+  ObjectType recordType;
+  // The records that the table names apart from its list, and that come first.
+  Key firstApart;
+  Key secondApart;
+};
+
+constexpr TableRow kTables[] = {
+    {model::TableKind::kBlock, Key::kBlockTable, kBlockTableType, kBlockRecordType,
+     Key::kModelSpace, Key::kPaperSpace},
+    {model::TableKind::kLayer, Key::kLayerTable, kLayerTableType, kLayerType, Key::kNone,
+     Key::kNone},
+    {model::TableKind::kLinetype, Key::kLinetypeTable, kLinetypeTableType, kLinetypeType,
+     Key::kByBlock, Key::kByLayer},
+    {model::TableKind::kView, Key::kViewTable, kViewTableType, kViewType, Key::kNone, Key::kNone},
+};
+
+const TableRow& RowOf(model::TableKind kind) {
+  return *std::find_if(std::begin(kTables), std::end(kTables),
+                       [kind](const TableRow& row) { return row.kind == kind; });
+}
+
+// Groups of the record that has the true spelling of names.
+constexpr int kSpellingGroupCode = 102;
+constexpr int kTrueNameCode = 2;
+
+// The names of these records are cut behind their kind.
+bool IsAnonymous(const std::wstring& name) { return !name.empty() && name.front() == L'*'; }
+
+}  // namespace
+
+const std::vector<model::ObjectKey>& DwgDrawing::TableRecords(model::TableKind table) {
+  const auto found = tables_.find(table);
+  if (found != tables_.end()) return found->second;
+  return tables_.emplace(table, CollectRecords(table)).first->second;
+}
+
+// Tables of sound files may name nothing, or records that aren't there.
+std::vector<model::ObjectKey> DwgDrawing::CollectRecords(model::TableKind kind) {
+  const TableRow& row = RowOf(kind);
+  const FieldValues::Value* const variable = Header().Find(row.variable);
+  if (variable == nullptr) return {};
+  const model::Handle table = variable->handle.From(0);
+  const std::optional<Object> object = Read(table);
+  if (!object || object->type != row.type) {
+    Warn(L"A symbol table can't be read.", table);
+    return {};
+  }
+  std::vector<model::ObjectKey> records;
+  const auto add = [&](const HandleReference& reference) {
+    if (const auto record = Find(reference.From(table))) records.push_back(*record);
+  };
+  for (const Key key : {row.firstApart, row.secondApart}) {
+    if (const FieldValues::Value* const apart = object->fields.Find(key)) add(apart->handle);
+  }
+  for (const HandleReference& reference : object->fields.Handles(Key::kEntries)) add(reference);
+  // A record that stands in both places is told once.
+  std::vector<model::ObjectKey> told;
+  std::unordered_set<std::uint64_t> known;
+  for (const model::ObjectKey record : records) {
+    if (known.insert(static_cast<std::uint64_t>(record)).second) told.push_back(record);
+  }
+  return told;
+}
+
+std::optional<std::wstring> DwgDrawing::RecordName(model::TableKind table,
+                                                   model::ObjectKey record) {
+  const auto handle = static_cast<model::Handle>(record);
+  const std::optional<Object> object = Read(handle);
+  if (!object) return std::nullopt;
+  const FieldValues::Value* const name = object->fields.Find(Key::kName);
+  if (object->type != RowOf(table).recordType || name == nullptr) {
+    Warn(L"A record of a symbol table can't be read.", handle);
+    return std::nullopt;
+  }
+  std::wstring text = Text(name->bytes, model::TextUse::kName, handle);
+  if (table == model::TableKind::kBlock && IsAnonymous(text)) {
+    return FullBlockName(std::move(text), object->fields, handle);
+  }
+  return text;
+}
+
+// The name in the block's begin, which isn't cut.
+std::wstring DwgDrawing::FullBlockName(std::wstring cut, const FieldValues& block,
+                                       model::Handle handle) {
+  const FieldValues::Value* const begin = block.Find(Key::kBlockBegin);
+  if (begin == nullptr) return cut;
+  const model::Handle beginHandle = begin->handle.From(handle);
+  const std::optional<Object> object = Read(beginHandle);
+  if (!object || object->type != kBlockBeginType) return cut;
+  const FieldValues::Value* const name = object->fields.Find(Key::kName);
+  if (name == nullptr || name->bytes.empty()) return cut;
+  return Text(name->bytes, model::TextUse::kName, beginHandle);
+}
+
+// AC1014 stores names in capitals, and they are told so; but people may know the true spelling.
+bool DwgDrawing::HasName(model::TableKind table, model::ObjectKey record,
+                         const std::wstring& name) {
+  if (Drawing::HasName(table, record, name)) return true;
+  if (format_.version > model::kVersion1014) return false;
+  const auto spelling = TrueSpelling(static_cast<model::Handle>(record));
+  return spelling && CompareIgnoringCase(*spelling, name) == 0;
+}
+
+// The spelling stands in a free record of the record's extension dictionary: a group that begins
+// the spellings, then the name in capitals and the true one.
+std::optional<std::wstring> DwgDrawing::TrueSpelling(model::Handle handle) {
+  const std::optional<Object> record = Read(handle);
+  const FieldValues::Value* const extension =
+      record ? record->fields.Find(Key::kExtension) : nullptr;
+  if (extension == nullptr || extension->handle.From(handle) == 0) return std::nullopt;
+  const auto spellings = EntryOf(extension->handle.From(handle), kSpellingKey);
+  const std::optional<Object> object = spellings ? Read(*spellings) : std::nullopt;
+  const FieldValues::Value* const content =
+      object && object->like == kFreeRecordType ? object->fields.Find(Key::kBytes) : nullptr;
+  if (content == nullptr) return std::nullopt;
+  GroupReader groups(content->bytes, format_);
+  bool within = false;
+  while (const std::optional<Group> group = groups.Next()) {
+    if (!group->isText) continue;
+    const std::wstring text = GroupText(group->text, group->codePage, *spellings);
+    if (group->code == kSpellingGroupCode) within = text == kSpellingGroup;
+    if (within && group->code == kTrueNameCode) return text;
+  }
+  return std::nullopt;
+}
+
+std::optional<std::wstring> DwgDrawing::LinetypeComments(model::ObjectKey record) {
+  const auto handle = static_cast<model::Handle>(record);
+  const std::optional<Object> object = Read(handle);
+  if (!object) return std::nullopt;
+  const FieldValues::Value* const comments = object->fields.Find(Key::kComments);
+  if (comments == nullptr) return std::nullopt;
+  return Text(comments->bytes, model::TextUse::kValue, handle);
+}
+
+}  // namespace zdx::dwg

@@ -1,0 +1,301 @@
+#include "backends/database/dwg/container/CodedContainer.h"
+
+#include <algorithm>
+#include <map>
+#include <utility>
+
+#include "backends/database/dwg/container/CodedChecks.h"
+#include "backends/database/dwg/container/CodedHeader.h"
+#include "backends/database/dwg/container/Decompression.h"
+#include "backends/database/dwg/container/PageMap.h"
+#include "backends/database/dwg/container/PagedSection.h"
+#include "backends/database/dwg/container/ReedSolomon.h"
+#include "backends/database/dwg/container/SectionNames.h"
+#include "base/LittleEndian.h"
+
+namespace zdx::dwg {
+namespace {
+
+// An entry of the page map: size, number.
+constexpr std::size_t kPageEntrySize = 2 * 8;
+
+// An entry of the section map: eight words, the name, and seven words for each page.
+constexpr std::size_t kNameSizeAt = 4 * 8;
+constexpr std::size_t kEncodingAt = 6 * 8;
+constexpr std::size_t kPageCountAt = 7 * 8;
+constexpr std::size_t kSectionHeadSize = 8 * 8;
+constexpr std::size_t kSectionPageSize = 7 * 8;
+
+constexpr std::uint64_t kWithParity = 4;
+
+// Sums of sizes from the file stay far from wrapping.
+constexpr std::uint64_t kMostSize = std::uint64_t{1} << 40;
+
+struct SectionEntry {
+  std::uint64_t size = 0;
+  bool withParity = false;
+  std::vector<SectionPage> pages;
+};
+
+struct Content {
+  std::string bytes;
+  bool right = false;
+};
+
+class CodedContainer : public Container {
+ public:
+  CodedContainer(std::string_view bytes, model::Report& report)
+      : bytes_(bytes),
+        report_(report),
+        memory_(Budget::OfMemory(bytes.size())),
+        reading_(Budget::OfReading(bytes.size())) {}
+
+  // What keeps the maps from being read; nullopt if nothing does.
+  std::optional<model::Finding> ReadMaps();
+
+  Section* Find(SectionId id) override;
+
+ private:
+  std::optional<std::string> ReadMap(const CodedMap& map, std::optional<std::uint64_t> address,
+                                     std::optional<std::uint64_t> copyAddress, const wchar_t* what);
+  std::optional<Content> MapAt(const CodedMap& map, std::uint64_t address, bool mends);
+  void ReadPageMap(std::string_view map);
+  void ReadSectionMap(std::string_view map);
+  std::vector<SectionPage> ReadPages(std::string_view list, const SectionEntry& section);
+  std::optional<PageBytes> ReadPage(const SectionEntry& section, const SectionPage& page);
+  std::optional<PageBytes> ReadCodedPage(const SectionPage& page);
+  std::optional<Content> CodedPage(const SectionPage& page, bool mends);
+  std::optional<std::uint64_t> AddressOf(std::uint64_t page) const;
+  void Warn(std::wstring text, std::uint64_t at) { report_.Warn({std::move(text), at, {}, {}}); }
+
+  std::string_view bytes_;
+  model::Report& report_;
+  Budget memory_;
+  Budget reading_;
+  PageMap pageMap_;
+  std::map<SectionId, SectionEntry> entries_;
+  std::map<SectionId, PagedSection> sections_;
+};
+
+std::uint64_t RoundedUp(std::uint64_t size) { return (size + 7) & ~std::uint64_t{7}; }
+
+std::uint64_t WordCount(std::uint64_t size, ParityKind kind) {
+  return (size + DataSize(kind) - 1) / DataSize(kind);
+}
+
+// The content of data that are stored plain where compression gained nothing.
+Decompressed Expanded(std::string_view stored, std::uint64_t size) {
+  if (stored.size() >= size) {
+    return {std::string(stored.substr(0, static_cast<std::size_t>(size))), true};
+  }
+  return DecompressCoded(stored, static_cast<std::size_t>(size));
+}
+
+std::optional<model::Finding> CodedContainer::ReadMaps() {
+  const std::optional<CodedHeader> header = ReadCodedHeader(bytes_, report_);
+  if (!header) return model::Finding{L"The file's header can't be read.", 0x80, {}, {}};
+  const CodedMap& pageMap = header->pageMap;
+  const auto pages = ReadMap(pageMap, pageMap.place, pageMap.copyPlace, L"page map");
+  if (!pages) return model::Finding{L"The page map can't be read.", pageMap.place, {}, {}};
+  ReadPageMap(*pages);
+  const CodedMap& sectionMap = header->sectionMap;
+  const auto address = AddressOf(sectionMap.place);
+  const auto sections =
+      ReadMap(sectionMap, address, AddressOf(sectionMap.copyPlace), L"section map");
+  if (!sections) return model::Finding{L"The section map can't be read.", address, {}, {}};
+  ReadSectionMap(*sections);
+  return std::nullopt;
+}
+
+std::optional<std::uint64_t> CodedContainer::AddressOf(std::uint64_t page) const {
+  const auto placed = pageMap_.Find(static_cast<std::int64_t>(page));
+  return placed ? std::optional(placed->address) : std::nullopt;
+}
+
+// Tries the first page as it is, then mended, then the copy.  Of damaged ones the first counts.
+std::optional<std::string> CodedContainer::ReadMap(const CodedMap& map,
+                                                   std::optional<std::uint64_t> address,
+                                                   std::optional<std::uint64_t> copyAddress,
+                                                   const wchar_t* what) {
+  std::optional<Content> first;
+  if (address) first = MapAt(map, *address, false);
+  if (first && first->right) return std::move(first->bytes);
+  const std::wstring name = L"The " + std::wstring(what);
+  for (const auto& place : {address, copyAddress}) {
+    std::optional<Content> mended;
+    if (place) mended = MapAt(map, *place, true);
+    if (!mended || !mended->right) continue;
+    Warn(name + (place == address ? L" is damaged; it was mended."
+                                  : L" is damaged; its copy is used."),
+         address.value_or(*place));
+    return std::move(mended->bytes);
+  }
+  if (!first) return std::nullopt;
+  Warn(name + L" is damaged.", *address);
+  return std::move(first->bytes);
+}
+
+std::optional<Content> CodedContainer::MapAt(const CodedMap& map, std::uint64_t address,
+                                             bool mends) {
+  if (map.compressedSize > kMostSize || map.repeats == 0 || map.repeats > kMostSize ||
+      address > bytes_.size() || !memory_.Take(map.size)) {
+    return std::nullopt;
+  }
+  const std::string_view page = bytes_.substr(static_cast<std::size_t>(address));
+  const std::uint64_t once = RoundedUp(map.compressedSize);
+  if (once > page.size() || map.repeats > page.size()) return std::nullopt;
+  const std::uint64_t words = WordCount(once * map.repeats, ParityKind::kSystemPage);
+  if (words > page.size() / kWordSize) return std::nullopt;
+  const auto count = static_cast<std::size_t>(words);
+  const std::string data = mends ? TakeMendedData(page, count, ParityKind::kSystemPage)
+                                 : TakeData(page, count, ParityKind::kSystemPage);
+  const std::string_view stored =
+      std::string_view(data).substr(0, static_cast<std::size_t>(map.compressedSize));
+  Decompressed expanded = Expanded(stored, map.size);
+  const bool right = expanded.whole && CodedPageCrc(stored) == map.compressedCrc &&
+                     CodedPageCrc(expanded.bytes) == map.crc;
+  return Content{std::move(expanded.bytes), right};
+}
+
+void CodedContainer::ReadPageMap(std::string_view map) {
+  std::uint64_t address = kFirstCodedPage;
+  for (; map.size() >= kPageEntrySize; map.remove_prefix(kPageEntrySize)) {
+    const auto size = LittleEndian<std::uint64_t>(map);
+    const auto id = static_cast<std::int64_t>(LittleEndianAt<std::uint64_t>(map, 8));
+    if (size > kMostSize || address > kMostSize) return;
+    if (id >= 0) pageMap_.Add(id, {address, size});
+    address += size;
+  }
+}
+
+void CodedContainer::ReadSectionMap(std::string_view map) {
+  while (map.size() >= kSectionHeadSize) {
+    SectionEntry section;
+    section.size = std::min(LittleEndian<std::uint64_t>(map), kMostSize);
+    const auto nameSize = LittleEndianAt<std::uint64_t>(map, kNameSizeAt);
+    section.withParity = LittleEndianAt<std::uint64_t>(map, kEncodingAt) == kWithParity;
+    const auto count = LittleEndianAt<std::uint64_t>(map, kPageCountAt);
+    map.remove_prefix(kSectionHeadSize);
+    if (nameSize > map.size()) return;
+    std::string name;
+    for (std::size_t i = 0; i + 1 < nameSize && map[i] != '\0'; i += 2) name.push_back(map[i]);
+    map.remove_prefix(static_cast<std::size_t>(nameSize));
+    const std::size_t listSize =
+        static_cast<std::size_t>(std::min<std::uint64_t>(count, map.size() / kSectionPageSize)) *
+        kSectionPageSize;
+    if (const std::optional<SectionId> id = SectionByName(name)) {
+      section.pages = ReadPages(map.substr(0, listSize), section);
+      entries_.emplace(*id, std::move(section));
+    }
+    map.remove_prefix(listSize);
+  }
+}
+
+std::vector<SectionPage> CodedContainer::ReadPages(std::string_view list,
+                                                   const SectionEntry& section) {
+  std::vector<SectionPage> pages;
+  for (; !list.empty(); list.remove_prefix(kSectionPageSize)) {
+    const auto word = [list](std::size_t i) { return LittleEndianAt<std::uint64_t>(list, 8 * i); };
+    SectionPage page;
+    page.start = word(0);
+    page.id = static_cast<std::int64_t>(word(2));
+    page.size = word(3);
+    page.storedSize = word(4);
+    page.checksum = word(5);
+    page.crc = word(6);
+    if (page.start >= section.size || page.size > kMostSize) continue;
+    page.address = AddressOf(word(2)).value_or(0);
+    if (!section.withParity && page.storedSize >= page.size) page.plainAt = page.address;
+    pages.push_back(page);
+  }
+  return pages;
+}
+
+Section* CodedContainer::Find(SectionId id) {
+  const auto entry = entries_.find(id);
+  if (entry == entries_.end()) return nullptr;
+  auto found = sections_.find(id);
+  if (found == sections_.end()) {
+    const SectionEntry& section = entry->second;
+    const auto read = [this, &section](const SectionPage& page) { return ReadPage(section, page); };
+    found = sections_.try_emplace(id, section.size, section.pages, read).first;
+  }
+  return &found->second;
+}
+
+std::optional<PageBytes> CodedContainer::ReadPage(const SectionEntry& section,
+                                                  const SectionPage& page) {
+  if (page.address < kFirstCodedPage || page.address > bytes_.size()) {
+    Warn(L"A page isn't in the file.", page.address);
+    return std::nullopt;
+  }
+  if (section.withParity) return ReadCodedPage(page);
+  const std::string_view behind = bytes_.substr(static_cast<std::size_t>(page.address));
+  if (page.storedSize > behind.size() || !reading_.Take(page.storedSize) ||
+      (page.storedSize < page.size && !memory_.Take(page.size))) {
+    Warn(L"A page is said to be larger than this file can make it.", page.address);
+    return std::nullopt;
+  }
+  const std::string_view stored = behind.substr(0, static_cast<std::size_t>(page.storedSize));
+  if (page.storedSize >= page.size) {
+    const std::string_view data = stored.substr(0, static_cast<std::size_t>(page.size));
+    if (CodedPageSum(data) != page.checksum)
+      Warn(L"The checksum of a page is wrong.", page.address);
+    return PageBytes{{}, data};
+  }
+  Decompressed data = DecompressCoded(stored, static_cast<std::size_t>(page.size));
+  if (!data.whole || CodedPageSum(data.bytes) != page.checksum) {
+    Warn(L"The checksum of a page is wrong.", page.address);
+  }
+  return PageBytes{std::move(data.bytes), {}};
+}
+
+std::optional<PageBytes> CodedContainer::ReadCodedPage(const SectionPage& page) {
+  if (!reading_.Take(page.storedSize) || !memory_.Take(page.size)) {
+    Warn(L"A page is said to be larger than this file can make it.", page.address);
+    return std::nullopt;
+  }
+  std::optional<Content> content = CodedPage(page, false);
+  if (!content) {
+    Warn(L"A page isn't all in the file.", page.address);
+    return std::nullopt;
+  }
+  if (!content->right) {
+    std::optional<Content> mended = CodedPage(page, true);
+    if (mended->right) {
+      Warn(L"A page is damaged; it was mended.", page.address);
+      content = std::move(mended);
+    } else {
+      Warn(L"The checksum of a page is wrong.", page.address);
+    }
+  }
+  return PageBytes{std::move(content->bytes), {}};
+}
+
+// The content of a page with parity, and whether its two checks are right.
+std::optional<Content> CodedContainer::CodedPage(const SectionPage& page, bool mends) {
+  const std::string_view behind = bytes_.substr(static_cast<std::size_t>(page.address));
+  if (page.storedSize > behind.size()) return std::nullopt;
+  const std::uint64_t words = WordCount(RoundedUp(page.storedSize), ParityKind::kDataPage);
+  if (words > behind.size() / kWordSize) return std::nullopt;
+  const auto count = static_cast<std::size_t>(words);
+  const std::string data = mends ? TakeMendedData(behind, count, ParityKind::kDataPage)
+                                 : TakeData(behind, count, ParityKind::kDataPage);
+  const std::string_view stored =
+      std::string_view(data).substr(0, static_cast<std::size_t>(page.storedSize));
+  Decompressed expanded = Expanded(stored, page.size);
+  const bool right = expanded.whole && CodedPageSum(expanded.bytes) == page.checksum &&
+                     CodedPageCrc(stored) == page.crc;
+  return Content{std::move(expanded.bytes), right};
+}
+
+}  // namespace
+
+std::variant<std::unique_ptr<Container>, model::Finding> OpenCoded(std::string_view bytes,
+                                                                   model::Report& report) {
+  auto container = std::make_unique<CodedContainer>(bytes, report);
+  if (auto refusal = container->ReadMaps()) return *std::move(refusal);
+  return container;
+}
+
+}  // namespace zdx::dwg

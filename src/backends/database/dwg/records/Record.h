@@ -1,0 +1,61 @@
+// One object's record, up to its own fields.
+//
+//   size (MS, from behind it and behind the next to the check)
+//   size of the handles in bits (UMC, from AC1024 on)
+//   type, place of the handles (AC1015 to AC1021), own handle
+//   extended data: size, application, bytes; until a size of 0
+//   an entity's picture
+//   place of the handles (AC1014)
+//   fields, texts, handles; a check (2 bytes)
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "backends/database/dwg/container/Container.h"
+#include "backends/database/dwg/records/Format.h"
+#include "backends/database/dwg/records/ObjectTypes.h"
+#include "backends/database/dwg/records/Streams.h"
+#include "backends/database/model/Drawing.h"
+#include "backends/database/model/Report.h"
+
+namespace zdx::dwg {
+
+// Holds the bytes that its streams read.
+class Record {
+ public:
+  // The record at `at` in the section of the objects.
+  Record(Section& objects, std::uint64_t at, Format format);
+  Record(const Record&) = delete;
+  Record& operator=(const Record&) = delete;
+
+  // Whether its head could be read; nothing else tells anything otherwise.
+  bool Whole() const { return whole_; }
+  // Whether its check is right.
+  bool CheckIsRight() const { return checkIsRight_; }
+  ObjectType type() const { return type_; }
+  // Its own handle, from which others are counted.
+  model::Handle handle() const { return handle_; }
+
+  // Its fields.  `isEntity` tells whether a picture stands before them, which the type alone
+  // doesn't tell.  nullopt if what stands before them runs past their end.
+  std::optional<Streams> Fields(bool isEntity);
+
+ private:
+  void SkipExtendedData(BitReader& reader) const;
+  void SkipPicture(BitReader& reader) const;
+
+  Format format_;
+  std::string scratch_;
+  std::string_view body_;
+  bool whole_ = false;
+  bool checkIsRight_ = false;
+  ObjectType type_ = 0;
+  model::Handle handle_ = 0;
+  // In bits of the body.
+  std::uint64_t handlesAt_ = 0;
+  std::uint64_t extendedDataAt_ = 0;
+};
+
+}  // namespace zdx::dwg
