@@ -7,8 +7,8 @@ MAKEFLAGS += --no-print-directory
 
 JOBS ?= $(shell nproc)
 
-BUILD_PACKAGES := g++ cmake make libcli11-dev nlohmann-json3-dev
-TEST_PACKAGES := $(BUILD_PACKAGES) libgtest-dev googletest libgmock-dev libpng-dev
+BUILD_PACKAGES := g++ cmake make libcli11-dev libpng-dev nlohmann-json3-dev
+TEST_PACKAGES := $(BUILD_PACKAGES) libgtest-dev googletest libgmock-dev graphicsmagick netpbm
 LINT_PACKAGES := $(TEST_PACKAGES) clang-format-14 clang-tidy-14 libbenchmark-dev
 BENCH_PACKAGES := $(BUILD_PACKAGES) libbenchmark-dev
 

@@ -3,10 +3,14 @@
 #include "backends/common/CommonProvider.h"
 #include "backends/database/zndb/DatabaseProvider.h"
 #include "backends/posix/ModuleStrings.h"
+#include "backends/posix/PosixFiles.h"
+#include "backends/posix/PosixGraphics.h"
 #include "backends/posix/PosixProvider.h"
 #include "backends/walker/WalkerProvider.h"
 #include "platform/common/CommonUtils.h"
 #include "platform/econvey/ZnDwgDepends.h"
+#include "platform/os/Files.h"
+#include "platform/os/Graphics.h"
 #include "platform/os/Os.h"
 #include "platform/zndb/Provider.h"
 
@@ -26,6 +30,8 @@ ZnDwgDepends::Provider* BindWalker() { return Lasting<zdx::WalkerProvider>(); }
 
 void InstallDefaultProviders() {
   os::InstallProvider(Lasting<zdx::PosixProvider>());
+  os::InstallFileProvider(Lasting<zdx::PosixFiles>());
+  os::InstallGraphicsProvider(Lasting<zdx::PosixGraphics>());
   Common::InstallProvider(Lasting<zdx::CommonProvider>(zdx::LoadModuleString));
   zndb::InstallProvider(zdx::database::EmbeddedProvider());
   ZnDwgDepends::InstallBinder(BindWalker);

@@ -1,9 +1,11 @@
 #include "properties/ReadSteps.h"
 
+#include "properties/appinfo/CreatorProperties.h"
 #include "properties/read/DatabaseProperties.h"
 #include "properties/read/DrawingFlavour.h"
 #include "properties/read/NamedObjects.h"
 #include "properties/read/SummaryProperties.h"
+#include "properties/read/ThumbnailProperty.h"
 
 namespace ZDXEngine {
 namespace {
@@ -14,10 +16,17 @@ void FromDatabase(std::vector<_PropData>& properties, const ReadRequest& request
   collect(properties, request.database);
 }
 
+// The one step that works on the file and not on the database.
+void FromFile(std::vector<_PropData>& properties, const ReadRequest& request) {
+  CollectCreatorProperties(properties, request.path);
+}
+
 // No step depends on an earlier one, but clients rely on the order of the records.
 constexpr ReadStep kSteps[] = {
     {FilePropertyMgr::SummaryInfo, FromDatabase<CollectSummaryProperties>},
     {FilePropertyMgr::CustomSummary, FromDatabase<CollectCustomSummaryProperties>},
+    {FilePropertyMgr::Thumbnail, FromDatabase<CollectThumbnailProperty>},
+    {FilePropertyMgr::CreatorInfo, FromFile},
     {FilePropertyMgr::DrawingFlavour, FromDatabase<CollectDrawingFlavour>},
     {FilePropertyMgr::DatabaseSettings, FromDatabase<CollectDatabaseProperties>},
     {FilePropertyMgr::NamedObjects, FromDatabase<ListDictionaries>},

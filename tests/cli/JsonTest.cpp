@@ -68,16 +68,31 @@ TEST_F(Json, ADrawingIsOneDocumentWithAllItsPropertiesInOrder) {
   EXPECT_EQ(document.at("file"), "plan.dxf");
   EXPECT_EQ(document.at("status"), "ok");
   EXPECT_EQ(document.at("drawingType"), "Zent");
+  EXPECT_EQ(document.at("format"), "DXF (text)");
+  EXPECT_EQ(document.at("signature"), "AC1032");
+  EXPECT_EQ(document.at("codePage"), "ANSI_1252");
   EXPECT_EQ(document.at("properties"), expected);
   EXPECT_EQ(document.at("warnings"), nlohmann::json::array());
-  EXPECT_THAT(document, SizeIs(6));
+  EXPECT_THAT(document, SizeIs(9));
 }
 
 TEST_F(Json, TheKeysStandInAFixedOrder) {
   Write("plan.dxf", DxfText());
   EXPECT_THAT(Zdx({"info", "-o", "json", "--select", "summary", "plan.dxf"}).out,
               StartsWith("{\"schema\":\"zdx/1\",\"file\":\"plan.dxf\",\"status\":\"ok\","
-                         "\"drawingType\":\"Zent\",\"properties\":[{\"formatId\":"));
+                         "\"drawingType\":\"Zent\",\"format\":\"DXF (text)\","
+                         "\"signature\":\"AC1032\",\"codePage\":\"ANSI_1252\","
+                         "\"properties\":[{\"formatId\":"));
+}
+
+TEST_F(Json, WhatTheFileDoesNotTellOfItselfIsNull) {
+  Write("bare.dxf", "0\nSECTION\n2\nENTITIES\n0\nENDSEC\n0\nEOF\n");
+  const std::vector<nlohmann::json> documents =
+      Documents(Zdx({"info", "-o", "json", "bare.dxf"}).out);
+  ASSERT_THAT(documents, SizeIs(1));
+  EXPECT_EQ(documents[0].at("format"), "DXF (text)");
+  EXPECT_TRUE(documents[0].at("signature").is_null());
+  EXPECT_TRUE(documents[0].at("codePage").is_null());
 }
 
 TEST_F(Json, EachFileIsALineOfItsOwnInTheOrderGiven) {

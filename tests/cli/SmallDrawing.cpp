@@ -85,6 +85,22 @@ void AddObjects(Tags& tags, const SmallDrawing& drawing) {
       .Add(0, "ENDSEC");
 }
 
+void AddPicture(Tags& tags, const SmallDrawing& drawing) {
+  if (drawing.picture.empty()) return;
+  tags.Begin("SECTION", "THUMBNAILIMAGE").Add(90, std::to_string(drawing.picture.size()));
+  std::string digits;
+  for (const char c : drawing.picture) {
+    const auto byte = static_cast<unsigned char>(c);
+    digits += "0123456789ABCDEF"[byte >> 4];
+    digits += "0123456789ABCDEF"[byte & 0xF];
+  }
+  constexpr std::size_t kLongest = 254;
+  for (std::size_t at = 0; at < digits.size(); at += kLongest) {
+    tags.Add(310, digits.substr(at, kLongest));
+  }
+  tags.Add(0, "ENDSEC");
+}
+
 }  // namespace
 
 std::string DxfText(const SmallDrawing& drawing) {
@@ -92,6 +108,7 @@ std::string DxfText(const SmallDrawing& drawing) {
   AddHeader(tags, drawing);
   AddTables(tags, drawing);
   AddObjects(tags, drawing);
+  AddPicture(tags, drawing);
   return tags.Add(0, "EOF").Text();
 }
 

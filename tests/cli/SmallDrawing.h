@@ -19,6 +19,8 @@ struct SmallDrawing {
   std::vector<std::pair<std::string, std::string>> linetypes = {{"Continuous", "Solid line"},
                                                                 {"Dashed", ""}};
   std::string namedObject = "SITE_DATA";
+  // A bitmap without the head of a file; empty for no picture.
+  std::string picture = {};
 };
 
 // The bytes of the drawing as a DXF file.

@@ -38,6 +38,30 @@ TEST_F(Usage, HelpNamesTheCommands) {
   EXPECT_THAT(outcome.err, IsEmpty());
 }
 
+TEST_F(Usage, HelpNamesThumb) { EXPECT_THAT(Zdx({"--help"}).out, HasSubstr("thumb")); }
+
+TEST_F(Usage, HelpOfThumbNamesItsOptionsAndExitCodes) {
+  const Outcome outcome = Zdx({"thumb", "--help"});
+  EXPECT_EQ(outcome.exitCode, 0);
+  for (const char* const word : {"-O", "--output", "FILE", ".png", ".bmp", ".wmf", "Exit codes"}) {
+    EXPECT_THAT(outcome.out, HasSubstr(word));
+  }
+}
+
+TEST_F(Usage, ThumbWithoutAPlaceToWriteIsRefused) { ExpectRefused({"thumb", "a.dxf"}, "--output"); }
+
+TEST_F(Usage, ThumbWithoutAFileIsRefused) { ExpectRefused({"thumb", "-O", "a.png"}, "FILE"); }
+
+TEST_F(Usage, ThumbOfTwoFilesIsRefused) {
+  ExpectRefused({"thumb", "-O", "a.png", "a.dxf", "b.dxf"}, "b.dxf");
+}
+
+TEST_F(Usage, APictureOfAnUnknownKindIsRefused) {
+  for (const char* const name : {"a.gif", "png", "-", "a.png.txt"}) {
+    ExpectRefused({"thumb", "-O", name, "a.dxf"}, ".png, .bmp or .wmf");
+  }
+}
+
 TEST_F(Usage, HelpOfInfoNamesItsOptionsAndSelections) {
   const Outcome outcome = Zdx({"info", "--help"});
   EXPECT_EQ(outcome.exitCode, 0);

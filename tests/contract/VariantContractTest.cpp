@@ -256,6 +256,81 @@ TEST_P(Variants, ATypeThatIsNotKnownIsRefusedAndLeavesTheTargetEmpty) {
   }
 }
 
+TEST_P(Variants, BytesAreCopiedIntoAnArray) {
+  std::uint8_t bytes[] = {1, 0, 255};
+  VARIANT variant;
+  ASSERT_EQ(os->InitVariantFromBuffer(bytes, 3, &variant), S_OK);
+  bytes[0] = 9;
+  ASSERT_EQ(variant.vt, VT_ARRAY | VT_UI1);
+  EXPECT_EQ(variant.parray->cDims, 1);
+  EXPECT_EQ(variant.parray->cbElements, 1u);
+  EXPECT_EQ(variant.parray->rgsabound[0].cElements, 3u);
+  EXPECT_EQ(variant.parray->rgsabound[0].lLbound, 0);
+  const std::uint8_t before[] = {1, 0, 255};
+  EXPECT_EQ(std::memcmp(variant.parray->pvData, before, 3), 0);
+  EXPECT_EQ(os->VariantClear(&variant), S_OK);
+}
+
+TEST_P(Variants, NoBytesMakeAnArrayOfNone) {
+  VARIANT variant{};
+  ASSERT_EQ(os->InitVariantFromBuffer(nullptr, 0, &variant), S_OK);
+  ASSERT_EQ(variant.vt, VT_ARRAY | VT_UI1);
+  EXPECT_EQ(variant.parray->rgsabound[0].cElements, 0u);
+  os->VariantClear(&variant);
+}
+
+TEST_P(Variants, AnArrayIsMadeWithoutLookingAtWhatWasThere) {
+  VARIANT variant;
+  std::memset(static_cast<void*>(&variant), 0xFF, sizeof variant);
+  ASSERT_EQ(os->InitVariantFromBuffer("x", 1, &variant), S_OK);
+  EXPECT_EQ(variant.vt, VT_ARRAY | VT_UI1);
+  os->VariantClear(&variant);
+}
+
+TEST_P(Variants, AnArrayMadeOfBytesCanBeCopied) {
+  VARIANT variant{};
+  ASSERT_EQ(os->InitVariantFromBuffer("xyz", 3, &variant), S_OK);
+  VARIANT copy{};
+  ASSERT_EQ(os->VariantCopy(&copy, &variant), S_OK);
+  os->VariantClear(&variant);
+  ASSERT_EQ(copy.parray->rgsabound[0].cElements, 3u);
+  EXPECT_EQ(std::memcmp(copy.parray->pvData, "xyz", 3), 0);
+  os->VariantClear(&copy);
+}
+
+TEST_P(Variants, ABracedTextIsAnIdInAnyCase) {
+  const GUID expected = {
+      0xF29F85E0, 0x4FF9, 0x1068, {0xAB, 0x91, 0x08, 0x00, 0x2B, 0x27, 0xB3, 0xD9}};
+  for (const wchar_t* text :
+       {L"{F29F85E0-4FF9-1068-AB91-08002B27B3D9}", L"{f29f85e0-4ff9-1068-ab91-08002b27b3d9}",
+        L"{f29F85e0-4Ff9-1068-aB91-08002b27B3d9}"}) {
+    GUID id = {};
+    EXPECT_EQ(os->CLSIDFromString(text, &id), S_OK);
+    EXPECT_EQ(id, expected);
+  }
+}
+
+TEST_P(Variants, EveryDigitOfAnIdHasItsPlace) {
+  GUID id = {};
+  ASSERT_EQ(os->CLSIDFromString(L"{01234567-89AB-CDEF-FEDC-BA9876543210}", &id), S_OK);
+  EXPECT_EQ(id,
+            (GUID{0x01234567, 0x89AB, 0xCDEF, {0xFE, 0xDC, 0xBA, 0x98, 0x76, 0x54, 0x32, 0x10}}));
+}
+
+TEST_P(Variants, AnyOtherTextIsNoId) {
+  for (const wchar_t* text :
+       {L"F29F85E0-4FF9-1068-AB91-08002B27B3D9", L"{F29F85E0-4FF9-1068-AB91-08002B27B3D9",
+        L"{F29F85E0-4FF9-1068-AB91-08002B27B3D9} ", L" {F29F85E0-4FF9-1068-AB91-08002B27B3D9}",
+        L"{F29F85E0-4FF9-1068-AB91-08002B27B3D}", L"{F29F85E0-4FF9-1068-AB91-08002B27B3D9F}",
+        L"{F29F85E0-4FF9-1068-AB9108002B27B3D9-}", L"{F29F85E04-FF9-1068-AB91-08002B27B3D9}",
+        L"{G29F85E0-4FF9-1068-AB91-08002B27B3D9}", L"(F29F85E0-4FF9-1068-AB91-08002B27B3D9)",
+        L"{+29F85E0-4FF9-1068-AB91-08002B27B3D9}", L"{F29F85E0 4FF9 1068 AB91 08002B27B3D9}",
+        L"{\uFF1129F85E0-4FF9-1068-AB91-08002B27B3D}"}) {
+    GUID id = {};
+    EXPECT_EQ(os->CLSIDFromString(text, &id), CO_E_CLASSSTRING);
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(Of, Variants, testing::ValuesIn(kSubjects),
                          [](const auto& info) { return std::string(info.param.name); });
 

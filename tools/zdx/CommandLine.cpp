@@ -15,6 +15,10 @@ namespace {
 constexpr const char* kExitCodes =
     "Exit codes: 0 all files were read, 2 a file failed (the others were told), 64 wrong usage,\n"
     "74 the output couldn't be written.";
+constexpr const char* kExitCodesOfThumb =
+    "Exit codes: 0 the picture was written, 1 the drawing has none, 2 the drawing couldn't be "
+    "read,\n"
+    "64 wrong usage, 74 the picture couldn't be written.";
 
 // The parser reads "[a,b]", "{}", "++" and an empty argument in ways of its own, but any of them
 // may be a file's name.  No argument of a process can hold this character, and before such a name
@@ -45,11 +49,18 @@ std::string CheckSelection(const std::string& list) {
   return "'" + unknown + "' isn't one of " + SelectionNames();
 }
 
+std::string CheckPictureName(const std::string& name) {
+  if (PictureKindOf(name)) return {};
+  return "'" + Unmarked(name) + "' doesn't end in .png, .bmp or .wmf";
+}
+
 // The words of the command line, before they are understood.
 struct Words {
   std::string format = "text";
   std::string selection = "all";
   std::vector<std::string> files;
+  std::string file;
+  std::string picture;
 };
 
 void AddInfo(CLI::App& app, Words& words) {
@@ -67,7 +78,28 @@ void AddInfo(CLI::App& app, Words& words) {
   info->footer("LIST: " + SelectionNames() + "\n\n" + kExitCodes);
 }
 
-InfoOptions Understood(const Words& words) {
+CLI::App* AddThumb(CLI::App& app, Words& words) {
+  CLI::App* const thumb =
+      app.add_subcommand("thumb", "Writes the preview picture of a drawing to a file.");
+  thumb
+      ->add_option("-O,--output", words.picture,
+                   "where to write; the name ends in .png, .bmp or .wmf")
+      ->required()
+      ->check(CheckPictureName)
+      ->type_name("OUT");
+  thumb->add_option("FILE", words.file, "a drawing; a name that begins with '-' goes after --")
+      ->required()
+      ->type_name("");
+  thumb->footer(kExitCodesOfThumb);
+  return thumb;
+}
+
+ThumbOptions UnderstoodThumb(const Words& words) {
+  return {Unmarked(words.file), Unmarked(words.picture),
+          PictureKindOf(words.picture).value_or(PictureKind::kPng)};
+}
+
+InfoOptions UnderstoodInfo(const Words& words) {
   InfoOptions options;
   options.format = words.format == "json" ? OutputFormat::kJson : OutputFormat::kText;
   std::string unknown;
@@ -82,7 +114,7 @@ WrongUsage Refusal(const CLI::ParseError& error) {
   std::string quoted = error.what();
   std::erase(quoted, kMark);
   return {"zdx: " + ReadableText(ZDXEngine::WideFromUtf8(quoted)) +
-          "\nRun 'zdx --help' or 'zdx info --help' to see what can be asked for.\n"};
+          "\nRun 'zdx --help' or 'zdx COMMAND --help' to see what can be asked for.\n"};
 }
 
 }  // namespace
@@ -92,9 +124,10 @@ Request ParseCommandLine(int count, const char* const* arguments) {
   app.set_version_flag("--version", "zdx " ZDX_VERSION);
   // Not more than one, or a file with a command's name would count as a second command.
   app.require_subcommand(0, 1);
-  app.footer("Run 'zdx info --help' for the options of info.");
+  app.footer("Run 'zdx COMMAND --help' for the options of a command.");
   Words words;
   AddInfo(app, words);
+  const CLI::App* const thumb = AddThumb(app, words);
   try {
     app.parse(ReversedArguments(count, arguments));
   } catch (const CLI::CallForHelp&) {
@@ -105,7 +138,8 @@ Request ParseCommandLine(int count, const char* const* arguments) {
     return Refusal(error);
   }
   if (app.get_subcommands().empty()) return WrongUsage{app.help()};
-  return Understood(words);
+  if (app.got_subcommand(thumb)) return UnderstoodThumb(words);
+  return UnderstoodInfo(words);
 }
 
 }  // namespace zdx

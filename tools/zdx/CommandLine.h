@@ -5,6 +5,7 @@
 #include <variant>
 
 #include "InfoCommand.h"
+#include "ThumbCommand.h"
 
 namespace zdx {
 
@@ -19,7 +20,7 @@ struct WrongUsage {
   std::string text;
 };
 
-using Request = std::variant<InfoOptions, PrintAndLeave, WrongUsage>;
+using Request = std::variant<InfoOptions, ThumbOptions, PrintAndLeave, WrongUsage>;
 
 // Reads the arguments of main.
 Request ParseCommandLine(int count, const char* const* arguments);

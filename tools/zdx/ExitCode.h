@@ -4,12 +4,15 @@
 namespace zdx {
 
 inline constexpr int kAllFilesRead = 0;
+// The drawing was read, and has no preview picture to write.
+inline constexpr int kNoPicture = 1;
 // At least one file failed; the others were told.
 inline constexpr int kFileFailed = 2;
 inline constexpr int kWrongUsage = 64;
 // A fault of the tool itself.
 inline constexpr int kInternalFault = 70;
-// Standard output couldn't be written; files that weren't told yet were left out.
+// Standard output couldn't be written, and files that weren't told yet were left out; or a picture
+// couldn't be.
 inline constexpr int kOutputFailed = 74;
 
 }  // namespace zdx

@@ -81,6 +81,11 @@ Json ErrorJson(const Failure& failure) {
   return error;
 }
 
+// What the file doesn't tell is null.
+Json TextOrNull(const std::wstring& text) {
+  return text.empty() ? Json(nullptr) : Json(Utf8FromWide(text));
+}
+
 Json Document(const std::wstring& path, const char* status) {
   return {{"schema", kSchema}, {"file", Utf8FromWide(path)}, {"status", status}};
 }
@@ -90,6 +95,9 @@ Json Document(const std::wstring& path, const char* status) {
 std::string JsonOf(const std::wstring& path, const DrawingReport& report) {
   Json document = Document(path, "ok");
   document["drawingType"] = Utf8FromWide(report.drawingType);
+  document["format"] = TextOrNull(report.diagnostics.format);
+  document["signature"] = TextOrNull(report.diagnostics.version);
+  document["codePage"] = TextOrNull(report.diagnostics.codePage);
   std::string text = document.dump();
   AppendMember(text, "properties", PropertiesText(report));
   AppendMember(text, "warnings", WarningsJson(report.diagnostics).dump());

@@ -2,6 +2,8 @@
 
 #include <array>
 #include <charconv>
+#include <optional>
+#include <span>
 #include <vector>
 
 #include "PropertyNames.h"
@@ -9,12 +11,20 @@
 #include "ReadableText.h"
 #include "TextGroups.h"
 #include "TextTable.h"
+#include "ThumbnailPicture.h"
 
 namespace zdx {
 
 namespace {
 
 using ZDXEngine::_PropData;
+
+// With commas between thousands.
+std::string Grouped(std::size_t number) {
+  std::string digits = std::to_string(number);
+  for (std::size_t at = digits.size(); at > 3; at -= 3) digits.insert(at - 3, ",");
+  return digits;
+}
 
 // Turns a value into the lines that show it.
 struct ShowValue {
@@ -31,12 +41,26 @@ struct ShowValue {
     return text.empty() ? Lines{"(empty)"} : ReadableLines(text);
   }
   Lines operator()(std::span<const std::uint8_t> bytes) const {
-    std::string size = "(";
-    return {size.append(std::to_string(bytes.size())).append(" bytes)")};
+    return {"(" + Grouped(bytes.size()) + " bytes)"};
   }
 };
 
+// "256 x 94 pixels, 24 bits (72,248 bytes)"; empty if the picture can't be understood.
+std::string ShownPicture(const _PropData& property) {
+  const PropertyValue value = ValueOf(property);
+  const auto* const bytes = std::get_if<std::span<const std::uint8_t>>(&value);
+  const auto picture = bytes == nullptr ? std::nullopt : ReadThumbnail(*bytes);
+  if (!picture) return {};
+  return std::to_string(picture->width) + " x " + std::to_string(picture->height) + " pixels, " +
+         std::to_string(picture->bits) + (picture->bits == 1 ? " bit (" : " bits (") +
+         Grouped(bytes->size()) + " bytes)";
+}
+
 std::vector<std::string> Shown(const _PropData& property) {
+  if (IsThumbnail(property)) {
+    const std::string picture = ShownPicture(property);
+    if (!picture.empty()) return {picture};
+  }
   return std::visit(ShowValue{}, ValueOf(property));
 }
 

@@ -9,11 +9,13 @@
 #include "Messages.h"
 #include "ReadableText.h"
 #include "StandardStreams.h"
+#include "ThumbCommand.h"
 
 namespace {
 
 struct Follow {
   int operator()(const zdx::InfoOptions& options) const { return zdx::RunInfo(options); }
+  int operator()(const zdx::ThumbOptions& options) const { return zdx::RunThumb(options); }
   int operator()(const zdx::PrintAndLeave& print) const {
     return zdx::WriteOutput(print.text) ? zdx::kAllFilesRead : zdx::kOutputFailed;
   }

@@ -3,8 +3,10 @@
 #include <cstdlib>
 #include <cstring>
 #include <cwchar>
+#include <optional>
 
 #include "backends/posix/Bstr.h"
+#include "backends/posix/IdText.h"
 #include "backends/posix/ModuleStrings.h"
 
 namespace zdx {
@@ -84,11 +86,23 @@ BSTR PosixProvider::SysAllocString(const wchar_t* text) {
   return text == nullptr ? nullptr : NewBstr(text, std::wcslen(text));
 }
 
-HRESULT PosixProvider::InitVariantFromBuffer(const void*, std::uint32_t, VARIANT*) {
-  return E_FAIL;
+HRESULT PosixProvider::InitVariantFromBuffer(const void* buffer, std::uint32_t size,
+                                             VARIANT* variant) {
+  VariantInit(variant);
+  const SAFEARRAY source = {1, 0, 1, 0, const_cast<void*>(buffer), {{size, 0}}};
+  SAFEARRAY* const array = CopyArray(source);
+  if (array == nullptr) return E_OUTOFMEMORY;
+  variant->vt = kByteArray;
+  variant->parray = array;
+  return S_OK;
 }
 
-HRESULT PosixProvider::CLSIDFromString(const wchar_t*, GUID*) { return CO_E_CLASSSTRING; }
+HRESULT PosixProvider::CLSIDFromString(const wchar_t* text, GUID* id) {
+  const std::optional<GUID> read = text == nullptr ? std::nullopt : IdFromText(text);
+  if (!read) return CO_E_CLASSSTRING;
+  *id = *read;
+  return S_OK;
+}
 
 HRESULT PosixProvider::CoInitialize(void* /*reserved*/) { return S_OK; }
 

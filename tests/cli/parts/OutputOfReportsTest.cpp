@@ -113,7 +113,7 @@ TEST_F(OutputOfReports, ALoneSurrogateIsReplacedInJson) {
   EXPECT_EQ(Value(0), "\xEF\xBF\xBD");
 }
 
-TEST_F(OutputOfReports, APictureIsBase64InJsonAndASizeInText) {
+TEST_F(OutputOfReports, BytesThatAreNoPictureAreBase64InJsonAndASizeInText) {
   AddPicture();
   EXPECT_EQ(Value(0), "AwAA/w==");
   EXPECT_THAT(TextOf(L"a", report_), HasSubstr("  Summary\n    Thumbnail  (4 bytes)\n"));

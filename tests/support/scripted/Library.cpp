@@ -97,6 +97,19 @@ Zent::ErrorStatus Library::zndbGetSummaryInfo(ZnDbDatabase* /*database*/,
   return outcome.status;
 }
 
+bool Library::zndbGetPreviewBitmapFromDwg(const wchar_t* path, os::HBITMAP& bitmap,
+                                          os::HPALETTE& palette) {
+  const std::string before = bitmap == nullptr && palette == nullptr ? "null" : "not null";
+  const Outcome outcome = calls_.Record("", "zndbGetPreviewBitmapFromDwg", Arguments(path, before));
+  if (!preview || outcome.null) return false;
+  preview(bitmap, palette);
+  return outcome.status == Zent::kOk;
+}
+
+const os::BITMAPINFO* Library::zndbGetPreviewBitmap(const wchar_t* path) {
+  return calls_.Record("", "zndbGetPreviewBitmap", Arguments(path)).null ? nullptr : previewBlock;
+}
+
 void* Library::znHeapAlloc(void* heap, std::size_t size) {
   const bool fits = size >= sizeof(ZnDbDatabase);
   const std::string words = fits ? "enough for a database" : "too little for a database";

@@ -1,6 +1,7 @@
 // The drawing-database library of a scripted world.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -24,6 +25,10 @@ class Library : public zndb::Provider {
   ZnDbDatabase* working = nullptr;
   // The last request that came to getSubstituteFont.
   ZnFontRequest* fontRequest = nullptr;
+  // Makes the handles of a file's preview; without it no file has one.
+  std::function<void(os::HBITMAP& bitmap, os::HPALETTE& palette)> preview;
+  // The same preview as one block.
+  const os::BITMAPINFO* previewBlock = nullptr;
 
   ZnRxDictionary* znrxSysRegistry() override;
 
@@ -46,11 +51,10 @@ class Library : public zndb::Provider {
   Zent::ErrorStatus zndbGetSummaryInfo(ZnDbDatabase* database,
                                        ZnDbDatabaseSummaryInfo*& info) override;
 
-  bool zndbGetPreviewBitmapFromDwg(const wchar_t* /*path*/, os::HBITMAP& /*bitmap*/,
-                                   os::HPALETTE& /*palette*/) override {
-    return false;
-  }
-  const os::BITMAPINFO* zndbGetPreviewBitmap(const wchar_t* /*path*/) override { return nullptr; }
+  // A script with a status makes it answer false and hand out the handles all the same.
+  bool zndbGetPreviewBitmapFromDwg(const wchar_t* path, os::HBITMAP& bitmap,
+                                   os::HPALETTE& palette) override;
+  const os::BITMAPINFO* zndbGetPreviewBitmap(const wchar_t* path) override;
 
   void* znHeapAlloc(void* heap, std::size_t size) override;
   void znHeapFree(void* heap, void* block) override;

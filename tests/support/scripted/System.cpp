@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <cwchar>
+#include <regex>
 
 namespace scripted {
 namespace {
@@ -41,6 +42,22 @@ std::string Words(const VARIANT& variant) {
   }
 }
 
+bool ScanId(const std::wstring& text, GUID& id) {
+  static const std::wregex shape(
+      L"\\{([0-9a-fA-F]{8})-([0-9a-fA-F]{4})-([0-9a-fA-F]{4})-"
+      L"([0-9a-fA-F]{4})-([0-9a-fA-F]{12})\\}");
+  std::wsmatch parts;
+  if (!std::regex_match(text, parts, shape)) return false;
+  id.Data1 = static_cast<std::uint32_t>(std::stoul(parts[1], nullptr, 16));
+  id.Data2 = static_cast<std::uint16_t>(std::stoul(parts[2], nullptr, 16));
+  id.Data3 = static_cast<std::uint16_t>(std::stoul(parts[3], nullptr, 16));
+  const std::wstring rest = parts[4].str() + parts[5].str();
+  for (std::size_t i = 0; i < 8; ++i) {
+    id.Data4[i] = static_cast<std::uint8_t>(std::stoul(rest.substr(2 * i, 2), nullptr, 16));
+  }
+  return true;
+}
+
 }  // namespace
 
 void System::VariantInit(VARIANT* variant) {
@@ -68,9 +85,21 @@ BSTR System::SysAllocString(const wchar_t* text) {
   return NewText(text, std::wcslen(text) * sizeof(wchar_t));
 }
 
-HRESULT System::InitVariantFromBuffer(const void*, std::uint32_t, VARIANT*) { return E_FAIL; }
+HRESULT System::InitVariantFromBuffer(const void* buffer, std::uint32_t size, VARIANT* variant) {
+  const Outcome outcome = calls_.Record("", "InitVariantFromBuffer", Arguments(size));
+  *variant = VARIANT{};
+  if (outcome.status != 0) return outcome.status;
+  const SAFEARRAY source{1, 0, 1, 0, const_cast<void*>(buffer), {{size, 0}}};
+  variant->vt = kByteArray;
+  variant->parray = NewArray(source);
+  return S_OK;
+}
 
-HRESULT System::CLSIDFromString(const wchar_t*, GUID*) { return CO_E_CLASSSTRING; }
+HRESULT System::CLSIDFromString(const wchar_t* text, GUID* id) {
+  const Outcome outcome = calls_.Record("", "CLSIDFromString", Arguments(text));
+  if (outcome.status != 0) return outcome.status;
+  return text != nullptr && ScanId(text, *id) ? S_OK : CO_E_CLASSSTRING;
+}
 
 HRESULT System::CoInitialize(void* reserved) {
   return calls_.Record("", "CoInitialize", reserved == nullptr ? "null" : "reserved").status;

@@ -17,6 +17,7 @@ class System : public os::Provider {
   HRESULT VariantClear(VARIANT* variant) override;
   // A script makes it give null.
   BSTR SysAllocString(const wchar_t* text) override;
+  // A script makes each of the two fail with an HRESULT.
   HRESULT InitVariantFromBuffer(const void* buffer, std::uint32_t size, VARIANT* variant) override;
   HRESULT CLSIDFromString(const wchar_t* text, GUID* id) override;
   HRESULT CoInitialize(void* reserved) override;

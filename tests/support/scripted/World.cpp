@@ -15,10 +15,14 @@ World::World()
     : library(log_, ledger_),
       utilities(log_),
       system(log_, ledger_),
+      files(log_, ledger_),
+      graphics(log_, ledger_),
       walker(log_),
       previousLibrary_(zndb::InstallProvider(&library)),
       previousUtilities_(Common::InstallProvider(&utilities)),
-      previousSystem_(os::InstallProvider(&system)) {
+      previousSystem_(os::InstallProvider(&system)),
+      previousFiles_(os::InstallFileProvider(&files)),
+      previousGraphics_(os::InstallGraphicsProvider(&graphics)) {
   current = this;
   ZnDwgDepends::InstallBinder(&World::Bind);
 }
@@ -26,6 +30,8 @@ World::World()
 World::~World() {
   foreignServices_.reset();
   ZnDwgDepends::InstallBinder(nullptr);
+  os::InstallGraphicsProvider(previousGraphics_);
+  os::InstallFileProvider(previousFiles_);
   os::InstallProvider(previousSystem_);
   Common::InstallProvider(previousUtilities_);
   zndb::InstallProvider(previousLibrary_);
@@ -46,6 +52,13 @@ void World::ReturnNull(std::string call, int nth) {
 
 void World::Throw(std::string call, int nth) {
   log_.Add({.call = std::move(call), .outcome = {}, .throws = true, .nth = nth});
+}
+
+void World::GivePreview(bool withPalette) {
+  library.preview = [this, withPalette](os::HBITMAP& bitmap, os::HPALETTE& palette) {
+    bitmap = graphics.NewBitmap();
+    if (withPalette) palette = graphics.NewPalette();
+  };
 }
 
 void World::InstallServices() {

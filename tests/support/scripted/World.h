@@ -15,6 +15,8 @@
 #include <vector>
 
 #include "support/scripted/CallLog.h"
+#include "support/scripted/Files.h"
+#include "support/scripted/Graphics.h"
 #include "support/scripted/Ledger.h"
 #include "support/scripted/Library.h"
 #include "support/scripted/System.h"
@@ -41,6 +43,8 @@ class World {
   Library library;
   Utilities utilities;
   System system;
+  Files files;
+  Graphics graphics;
   Walker walker;
   // What the drawing holds that every opening finds.
   Drawing& drawing = library.drawing;
@@ -57,6 +61,9 @@ class World {
 
   // Calls succeed again.
   void ForgetScripts() { log_.ForgetScripts(); }
+
+  // Gives every file a preview of `graphics`' size.
+  void GivePreview(bool withPalette = true);
 
   // Installs host services of another component's.
   void InstallServices();
@@ -84,6 +91,8 @@ class World {
   zndb::Provider* previousLibrary_ = nullptr;
   Common::Provider* previousUtilities_ = nullptr;
   os::Provider* previousSystem_ = nullptr;
+  os::FileProvider* previousFiles_ = nullptr;
+  os::GraphicsProvider* previousGraphics_ = nullptr;
   int timesBound_ = 0;
 };
 

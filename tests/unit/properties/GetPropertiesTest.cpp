@@ -2,10 +2,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <stdexcept>
 #include <type_traits>
 
 #include "ZDXEngine/FilePropertyMgr.h"
 #include "ZDXEngine/ZdxEngineException.h"
+#include "support/appinfo/AppInfoFile.h"
 #include "support/scripted/ScriptedTest.h"
 #include "unit/properties/Outages.h"
 #include "unit/properties/Shown.h"
@@ -24,8 +26,10 @@ namespace {
 
 using Set = FilePropertyMgr::FilePropertiesSet;
 
-// A drawing with one mark for each step.
+// A drawing with one mark for each step but the thumbnail's, which owns handles.
 void FillDrawing(scripted::World& world) {
+  world.files.contents[L"C:\\a.dwg"] =
+      appinfo::FileWithSummary(u"<prop id=\"258\"><string>Program</string></prop>");
   world.drawing.summary.title = L"House";
   world.drawing.summary.custom = {{L"Client", L"Smith"}};
   world.drawing.settings.menu = L"m";
@@ -42,7 +46,15 @@ std::vector<_PropData> Get(int selection, std::vector<BlockFilterParam> filters 
 
 class GetProperties : public scripted::ScriptedTest {
  protected:
-  GetProperties() { FillDrawing(world); }
+  GetProperties() {
+    FillDrawing(world);
+    world.drawing.filename = L"C:\\a.dwg";
+    world.GivePreview();
+  }
+  // Makes the file's summary set hold this text.
+  void GiveSummary(const std::u16string& text) {
+    world.files.contents[L"C:\\a.dwg"] = appinfo::File({.entries = {{appinfo::kSummaryId, text}}});
+  }
 };
 
 TEST(Instance, IsOneObject) {
@@ -124,8 +136,8 @@ TEST(Selection, EveryFlavourHasItsValue) {
 
 // The steps of the row, each told by the first call that only it makes.
 std::vector<std::string> StepsOf(const scripted::World& world) {
-  return world.Calls(
-      {"getTitle", "numCustomInfo", "namedObjectsDictionaryId", "getMenu", "getGroupDictionary"});
+  return world.Calls({"getTitle", "numCustomInfo", "getFilename", "SetFilePointer",
+                      "namedObjectsDictionaryId", "getMenu", "getGroupDictionary"});
 }
 
 TEST_F(GetProperties, SummaryAloneGivesTheSevenFields) {
@@ -135,6 +147,16 @@ TEST_F(GetProperties, SummaryAloneGivesTheSevenFields) {
 
 TEST_F(GetProperties, CustomAloneGivesTheEntries) {
   EXPECT_THAT(expected::Shown(Get(0x200)), ElementsAre("Client=Smith"));
+}
+
+TEST_F(GetProperties, ThumbnailAloneGivesThePicture) {
+  const std::vector<_PropData> properties = Get(0x080);
+  EXPECT_THAT(expected::Shown(properties), ElementsAre("17=(no text)"));
+  EXPECT_EQ(properties.at(0).typeCode, 4);
+}
+
+TEST_F(GetProperties, CreatorAloneGivesWhatTheFileTells) {
+  EXPECT_THAT(expected::Shown(Get(0x004)), ElementsAre("DWG Creator Name=Program"));
 }
 
 TEST_F(GetProperties, FlavourAloneGivesTheDwgType) {
@@ -160,7 +182,8 @@ TEST_F(GetProperties, SymbolTablesAloneGiveTheThreeTables) {
 TEST_F(GetProperties, EverythingRunsTheStepsInTheirOrder) {
   Get(0);
   EXPECT_THAT(StepsOf(world),
-              ElementsAre("getTitle()", "numCustomInfo()", "namedObjectsDictionaryId()",
+              ElementsAre("getTitle()", "numCustomInfo()", "getFilename()",
+                          "SetFilePointer(file 2, 128, null, 0)", "namedObjectsDictionaryId()",
                           "getMenu()", "getGroupDictionary(0)"));
   EXPECT_THAT(
       world.Calls({"getGroupDictionary", "getSymbolTable"}),
@@ -175,8 +198,9 @@ TEST_F(GetProperties, EveryBitSetRunsTheSameStepsInTheSameOrder) {
 }
 
 TEST_F(GetProperties, TheOrderIsTheRowsWhateverTheBits) {
-  EXPECT_THAT(expected::Shown(Get(0x008 | 0x002 | 0x200)),
-              ElementsAre("Client=Smith", "DWG Type=Zent", "Layout Name=Model"));
+  EXPECT_THAT(expected::Shown(Get(0x008 | 0x002 | 0x004 | 0x080 | 0x200)),
+              ElementsAre("Client=Smith", "17=(no text)", "DWG Creator Name=Program",
+                          "DWG Type=Zent", "Layout Name=Model"));
 }
 
 TEST_F(GetProperties, OnlyTheStepsNamedRun) {
@@ -252,6 +276,64 @@ TEST_F(GetProperties, WhatTheFlavourStepThrowsReachesTheClient) {
     FAIL() << "nothing was thrown";
   } catch (const ZDXEngine::ReadError& error) {
     EXPECT_EQ(error.errorMessage, L"<>");
+  }
+  EXPECT_EQ(world.Count("~ZnDbDatabase"), 1);
+}
+
+TEST_F(GetProperties, AFileWithoutAPreviewCostsOnlyThePicture) {
+  world.library.preview = nullptr;
+  EXPECT_THAT(expected::Shown(Get(0x080 | 0x004)), ElementsAre("DWG Creator Name=Program"));
+}
+
+TEST_F(GetProperties, AFileWithoutPropertySetsCostsOnlyTheCreator) {
+  world.files.contents.clear();
+  EXPECT_THAT(expected::Shown(Get(0x004 | 0x008)), ElementsAre("DWG Type=Zent"));
+}
+
+TEST_F(GetProperties, ADateAsTheCreatorReachesTheClient) {
+  GiveSummary(appinfo::kSummaryHead +
+              std::u16string(u"<prop id=\"258\"><datetime>2020-01-01T00:00:00</datetime></prop>"));
+  try {
+    Get(0);
+    FAIL() << "nothing was thrown";
+  } catch (const ATL::CAtlException& error) {
+    EXPECT_EQ(error.m_hr, E_FAIL);
+  }
+  EXPECT_EQ(world.Count("~ZnDbDatabase"), 1);
+}
+
+TEST_F(GetProperties, AShortPropertySetReachesTheClientAsOutOfRange) {
+  GiveSummary(u"short");
+  EXPECT_THROW(Get(0), std::out_of_range);
+  EXPECT_EQ(world.Count("~ZnDbDatabase"), 1);
+}
+
+TEST_F(GetProperties, ACreatorThatCannotBeCopiedReachesTheClient) {
+  world.ReturnNull("SysAllocString(Program)");
+  try {
+    Get(0);
+    FAIL() << "nothing was thrown";
+  } catch (const _com_error& error) {
+    EXPECT_EQ(error.Error(), E_OUTOFMEMORY);
+  }
+  EXPECT_EQ(world.Count("~ZnDbDatabase"), 1);
+}
+
+TEST_F(GetProperties, WhatTheCreatorRaisesDoesNotHappenUnselected) {
+  GiveSummary(u"short");
+  EXPECT_THAT(expected::Shown(Get(0x3FF & ~0x004)), Contains("DWG Type=Zent"));
+}
+
+TEST(GetPropertiesOfAPicture, RaisesWhatItsCopyRaises) {
+  scripted::World world;
+  world.drawing.filename = L"C:\\a.dwg";
+  world.GivePreview();
+  world.Fail("VariantCopy(bytes)", E_OUTOFMEMORY);
+  try {
+    Get(0x080);
+    FAIL() << "nothing was thrown";
+  } catch (const _com_error& error) {
+    EXPECT_EQ(error.Error(), E_OUTOFMEMORY);
   }
   EXPECT_EQ(world.Count("~ZnDbDatabase"), 1);
 }

@@ -34,14 +34,16 @@ Recognition RefuseVersion(std::string_view magic, model::Version version) {
 
 }  // namespace
 
+bool HasMagic(std::string_view bytes) {
+  return bytes.size() >= kMagicSize && model::VersionByMagic(bytes.substr(0, kMagicSize));
+}
+
 Recognition Recognise(std::string_view bytes) {
   if (bytes.empty()) return Refuse(RefusalKind::kNotADrawing, L"The file is empty.");
   const std::string_view magic = bytes.substr(0, kMagicSize);
   const std::optional<model::Version> known = KnownVersion(magic);
   if (!known) {
-    if (const auto version = model::VersionByMagic(magic); version && magic.size() == kMagicSize) {
-      return RefuseVersion(magic, *version);
-    }
+    if (HasMagic(bytes)) return RefuseVersion(magic, *model::VersionByMagic(magic));
     return Refuse(RefusalKind::kNotADrawing, L"The file doesn't begin with the mark of a drawing.");
   }
   const std::optional<FileHead> head = ReadFileHead(bytes);

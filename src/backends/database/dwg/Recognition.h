@@ -24,6 +24,9 @@ struct Recognition {
   Refusal refusal;
 };
 
+// Whether `bytes` begin as DWG drawings of any version do.
+bool HasMagic(std::string_view bytes);
+
 Recognition Recognise(std::string_view bytes);
 
 }  // namespace zdx::dwg

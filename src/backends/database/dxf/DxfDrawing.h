@@ -40,7 +40,7 @@ class DxfDrawing : public model::Drawing {
   model::ObjectDescription Describe(model::ObjectKey object) override;
   std::optional<std::wstring> SettingText(model::Setting setting) override;
   std::optional<model::Summary> ReadSummary() override;
-  std::vector<model::StoredPicture> PreviewPictures() override { return {}; }
+  std::vector<model::StoredPicture> PreviewPictures() override;
 
  private:
   struct Tables {
@@ -78,6 +78,7 @@ class DxfDrawing : public model::Drawing {
   std::wstring BlockSpelling(const std::wstring& name);
   model::Summary SummaryOfHeader();
   model::Summary SummaryOfRecord();
+  bool IsWhole(const std::optional<Tag>& length, std::size_t size);
 
   ObjectStart StartOf(model::ObjectKey object) const;
   std::wstring Text(const Tag& tag, model::TextUse use);

@@ -32,6 +32,7 @@ inline constexpr std::string_view kTablesSection = "TABLES";
 inline constexpr std::string_view kBlocksSection = "BLOCKS";
 inline constexpr std::string_view kEntitiesSection = "ENTITIES";
 inline constexpr std::string_view kObjectsSection = "OBJECTS";
+inline constexpr std::string_view kThumbnailSection = "THUMBNAILIMAGE";
 
 // Records of the symbol tables.
 inline constexpr std::string_view kLayerRecord = "LAYER";

@@ -4,8 +4,11 @@
 #include <cstdlib>
 #include <cwchar>
 #include <memory>
+#include <optional>
 
 #include "backends/database/zndb/EmbeddedDatabase.h"
+#include "backends/database/zndb/OpenDatabases.h"
+#include "backends/database/zndb/Preview.h"
 #include "backends/database/zndb/Runtime.h"
 #include "backends/database/zndb/Stub.h"
 #include "backends/database/zndb/SummaryInfo.h"
@@ -59,7 +62,7 @@ class Provider : public ::zndb::Provider {
   std::unique_ptr<::zndb::DatabaseBody> createDatabase(ZnDbDatabase* /*database*/,
                                                        bool /*buildDefault*/,
                                                        bool /*noDocument*/) override {
-    return std::make_unique<EmbeddedDatabase>();
+    return std::make_unique<EmbeddedDatabase>(open_);
   }
 
   Zent::ErrorStatus zndbOpenObject(ZnDbObject*& object, ZnDbObjectId id, const ZnRxClass* expected,
@@ -85,10 +88,18 @@ class Provider : public ::zndb::Provider {
     return Zent::kOk;
   }
 
-  bool zndbGetPreviewBitmapFromDwg(const wchar_t*, os::HBITMAP&, os::HPALETTE&) override {
-    return false;
+  bool zndbGetPreviewBitmapFromDwg(const wchar_t* path, os::HBITMAP& bitmap,
+                                   os::HPALETTE& palette) override {
+    if (path == nullptr) return false;
+    const auto preview = PreviewOf(path, open_);
+    return preview && MakeBitmap(*preview, bitmap, palette);
   }
-  const os::BITMAPINFO* zndbGetPreviewBitmap(const wchar_t*) override { return nullptr; }
+
+  const os::BITMAPINFO* zndbGetPreviewBitmap(const wchar_t* path) override {
+    preview_.reset();
+    if (path != nullptr) preview_ = PreviewOf(path, open_);
+    return preview_ ? preview_->info() : nullptr;
+  }
 
   void* znHeapAlloc(void* /*heap*/, std::size_t size) override { return std::malloc(size); }
   void znHeapFree(void* /*heap*/, void* block) override { std::free(block); }
@@ -112,6 +123,9 @@ class Provider : public ::zndb::Provider {
   RuntimeRegistry registry_;
   ZnDbHostApplicationServices* services_ = nullptr;
   ZnDbDatabase* workingDatabase_ = nullptr;
+  OpenDatabases open_;
+  // Handed out by pointer.
+  std::optional<preview::Dib> preview_;
 };
 
 }  // namespace

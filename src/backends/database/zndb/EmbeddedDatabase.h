@@ -8,9 +8,10 @@
 #include <string>
 #include <unordered_map>
 
-#include "backends/database/file/MappedFile.h"
 #include "backends/database/model/Drawing.h"
 #include "backends/database/model/Report.h"
+#include "backends/database/zndb/OpenDatabases.h"
+#include "backends/database/zndb/OpenDrawingFile.h"
 #include "backends/database/zndb/Stub.h"
 #include "platform/zndb/Provider.h"
 
@@ -18,8 +19,17 @@ namespace zdx::database {
 
 class EmbeddedDatabase : public ::zndb::DatabaseBody {
  public:
+  // Is among `open`, which must outlive it, as long as it lives.
+  explicit EmbeddedDatabase(OpenDatabases& open);
+  ~EmbeddedDatabase() override;
+  EmbeddedDatabase(const EmbeddedDatabase&) = delete;
+  EmbeddedDatabase& operator=(const EmbeddedDatabase&) = delete;
+
   // The drawing that was read; null before, and after a reading that failed.
   model::Drawing* drawing() const { return drawing_.get(); }
+  // The path of the last reading, and what was found in it; there is no report before a reading.
+  const std::wstring& path() const { return path_; }
+  model::Report& report() const { return *report_; }
 
   // The ids of a table's record and of the object with a handle, which need not exist.
   ZnDbObjectId RecordId(model::TableKind table, model::ObjectKey record);
@@ -69,11 +79,11 @@ class EmbeddedDatabase : public ::zndb::DatabaseBody {
   Zent::ErrorStatus OpenDictionary(ZnDbObjectId id, ZnDbDictionary*& dictionary);
   Zent::ErrorStatus OpenStandardDictionary(model::DictionaryKind kind, ZnDbDictionary*& dictionary);
   bool Begin(const wchar_t* path);
-  Zent::ErrorStatus Fail(Zent::ErrorStatus status, model::Finding reason);
-  Zent::ErrorStatus Fail(file::OpenFailure failure);
+  Zent::ErrorStatus Read(const wchar_t* path, Wanted wanted);
   void KeepTexts();
   Zent::ErrorStatus GiveSetting(model::Setting setting, ZnString& text) const;
 
+  OpenDatabases& open_;
   std::wstring path_;
   std::shared_ptr<model::Report> report_;
   std::unique_ptr<model::Drawing> drawing_;

@@ -1,0 +1,259 @@
+// What every provider of plain file calls does.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <ostream>
+#include <string>
+
+#include "ZDXEngine/Utf8.h"
+#include "backends/posix/PosixFiles.h"
+#include "support/scripted/Files.h"
+
+namespace {
+
+// A provider and a place for its files.
+class FileSystem {
+ public:
+  virtual ~FileSystem() = default;
+  virtual os::FileProvider& Provider() = 0;
+  // Makes a file and gives its path.
+  virtual std::wstring Put(const std::string& name, const std::string& bytes) = 0;
+  // The path of a name that is free, and of one that is a folder's.
+  virtual std::wstring Missing() = 0;
+  virtual std::wstring Folder() = 0;
+};
+
+class Disk : public FileSystem {
+ public:
+  Disk() { std::filesystem::create_directories(folder_); }
+  ~Disk() override { std::filesystem::remove_all(folder_); }
+
+  os::FileProvider& Provider() override { return files_; }
+  std::wstring Put(const std::string& name, const std::string& bytes) override {
+    std::ofstream(folder_ + "/" + name, std::ios::binary) << bytes;
+    return ZDXEngine::WideFromUtf8(folder_ + "/" + name);
+  }
+  std::wstring Missing() override { return ZDXEngine::WideFromUtf8(folder_ + "/missing"); }
+  std::wstring Folder() override { return ZDXEngine::WideFromUtf8(folder_); }
+
+ private:
+  zdx::PosixFiles files_;
+  std::string folder_ = testing::TempDir() + "/file-contract-" + std::to_string(getpid());
+};
+
+// The stand-in with what it writes into, which must end up even.
+class Memory : public FileSystem {
+ public:
+  ~Memory() override { EXPECT_THAT(ledger_.Leftovers(), testing::IsEmpty()); }
+
+  os::FileProvider& Provider() override { return files_; }
+  std::wstring Put(const std::string& name, const std::string& bytes) override {
+    files_.contents[ZDXEngine::WideFromUtf8(name)] = bytes;
+    return ZDXEngine::WideFromUtf8(name);
+  }
+  std::wstring Missing() override { return L"missing"; }
+  std::wstring Folder() override { return L"folder"; }
+
+ private:
+  scripted::CallLog log_;
+  scripted::Ledger ledger_;
+  scripted::Files files_{log_, ledger_};
+};
+
+struct Subject {
+  const char* name;
+  std::unique_ptr<FileSystem> (*make)();
+};
+
+// How a failing test names its subject.
+void PrintTo(const Subject& subject, std::ostream* out) { *out << subject.name; }
+
+const Subject kSubjects[] = {
+    {"Posix", []() -> std::unique_ptr<FileSystem> { return std::make_unique<Disk>(); }},
+    {"Scripted", []() -> std::unique_ptr<FileSystem> { return std::make_unique<Memory>(); }},
+};
+
+class Files : public testing::TestWithParam<Subject> {
+ protected:
+  os::FileHandle OpenPath(const std::wstring& path) {
+    return files.CreateFileW(path.c_str(), os::kGenericRead, os::kShareRead | os::kShareWrite,
+                             nullptr, os::kOpenExisting, os::kAttributeNormal, nullptr);
+  }
+  os::FileHandle Open(const std::string& bytes) { return OpenPath(system->Put("a.dwg", bytes)); }
+  // What a read gives; "failed" if it fails.
+  std::string Read(os::FileHandle file, std::uint32_t size) {
+    std::string bytes(size, '.');
+    std::uint32_t count = 77;
+    if (files.ReadFile(file, bytes.data(), size, &count, nullptr) == 0) return "failed";
+    EXPECT_LE(count, size);
+    EXPECT_EQ(bytes.substr(count), std::string(size - count, '.'));
+    return bytes.substr(0, count);
+  }
+  std::uint32_t Seek(os::FileHandle file, std::int32_t distance) {
+    return files.SetFilePointer(file, distance, nullptr, os::kFromBegin);
+  }
+
+  std::unique_ptr<FileSystem> system = GetParam().make();
+  os::FileProvider& files = system->Provider();
+};
+
+TEST_P(Files, AFileIsReadFromItsBegin) {
+  const os::FileHandle file = Open("abcdef");
+  EXPECT_EQ(Read(file, 3), "abc");
+  EXPECT_EQ(Read(file, 2), "de");
+  EXPECT_NE(files.CloseHandle(file), 0);
+}
+
+TEST_P(Files, TheLastReadIsShortAndTheNextGivesNothing) {
+  const os::FileHandle file = Open("abc");
+  EXPECT_EQ(Read(file, 5), "abc");
+  EXPECT_EQ(Read(file, 5), "");
+  files.CloseHandle(file);
+}
+
+TEST_P(Files, AnEmptyFileGivesNothing) {
+  const os::FileHandle file = Open("");
+  EXPECT_NE(file, os::kInvalidHandle);
+  EXPECT_EQ(Read(file, 5), "");
+  files.CloseHandle(file);
+}
+
+TEST_P(Files, ALargeFileIsReadInOneCall) {
+  const std::string bytes(300000, 'x');
+  const os::FileHandle file = Open(bytes);
+  EXPECT_EQ(Read(file, 300000), bytes);
+  files.CloseHandle(file);
+}
+
+TEST_P(Files, EveryByteComesAsItIs) {
+  std::string bytes;
+  for (int i = 0; i < 256; ++i) bytes += static_cast<char>(i);
+  const os::FileHandle file = Open(bytes + "\r\n\x1A");
+  EXPECT_EQ(Read(file, 300), bytes + "\r\n\x1A");
+  files.CloseHandle(file);
+}
+
+TEST_P(Files, AHandleIsNeitherNullNorInvalid) {
+  const os::FileHandle file = Open("abc");
+  EXPECT_NE(file, nullptr);
+  EXPECT_NE(file, os::kInvalidHandle);
+  files.CloseHandle(file);
+}
+
+TEST_P(Files, AFileThatIsNotThereDoesNotOpen) {
+  EXPECT_EQ(OpenPath(system->Missing()), os::kInvalidHandle);
+  EXPECT_EQ(OpenPath(L""), os::kInvalidHandle);
+}
+
+TEST_P(Files, AFolderIsNoFile) { EXPECT_EQ(OpenPath(system->Folder()), os::kInvalidHandle); }
+
+TEST_P(Files, APathOutsideAsciiIsOpened) {
+  const os::FileHandle file = OpenPath(system->Put("Grundri\u00DF \u4E2D\U0001F600.dwg", "abc"));
+  ASSERT_NE(file, os::kInvalidHandle);
+  EXPECT_EQ(Read(file, 3), "abc");
+  files.CloseHandle(file);
+}
+
+TEST_P(Files, OneFileCanBeOpenTwiceAndEachHasItsOwnPosition) {
+  const os::FileHandle first = Open("abcdef");
+  const os::FileHandle second = Open("abcdef");
+  EXPECT_NE(first, second);
+  EXPECT_EQ(Read(first, 3), "abc");
+  EXPECT_EQ(Read(second, 2), "ab");
+  files.CloseHandle(first);
+  EXPECT_EQ(Read(second, 2), "cd");
+  files.CloseHandle(second);
+}
+
+TEST_P(Files, APositionIsCountedFromTheBegin) {
+  const os::FileHandle file = Open("abcdef");
+  Read(file, 3);
+  EXPECT_EQ(Seek(file, 1), 1u);
+  EXPECT_EQ(Read(file, 2), "bc");
+  EXPECT_EQ(Seek(file, 0), 0u);
+  EXPECT_EQ(Read(file, 2), "ab");
+  files.CloseHandle(file);
+}
+
+TEST_P(Files, APositionPastTheEndIsReachedAndGivesNothing) {
+  const os::FileHandle file = Open("abc");
+  EXPECT_EQ(Seek(file, 0x7FFFFFFF), 0x7FFFFFFFu);
+  EXPECT_EQ(Read(file, 1), "");
+  EXPECT_EQ(Seek(file, 2), 2u);
+  EXPECT_EQ(Read(file, 1), "c");
+  files.CloseHandle(file);
+}
+
+TEST_P(Files, APositionBeforeTheBeginIsRefusedAndTheOldOneStays) {
+  const os::FileHandle file = Open("abc");
+  Seek(file, 1);
+  EXPECT_EQ(Seek(file, -1), os::kInvalidFilePointer);
+  EXPECT_EQ(Seek(file, -2147483647 - 1), os::kInvalidFilePointer);
+  EXPECT_EQ(Read(file, 1), "b");
+  files.CloseHandle(file);
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, Files, testing::ValuesIn(kSubjects),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+// What only a disk can show.
+class DiskFiles : public testing::Test {
+ protected:
+  os::FileHandle Open(const std::wstring& path, std::uint32_t access = os::kGenericRead,
+                      std::uint32_t disposition = os::kOpenExisting) {
+    return disk.Provider().CreateFileW(path.c_str(), access, 0, nullptr, disposition, 0, nullptr);
+  }
+
+  Disk disk;
+};
+
+TEST_F(DiskFiles, AReadThatFailsSaysSoAndCountsNothing) {
+  const os::FileHandle file = Open(disk.Put("a.dwg", "abc"));
+  ASSERT_NE(disk.Provider().CloseHandle(file), 0);
+  char byte = '.';
+  std::uint32_t count = 77;
+  EXPECT_EQ(disk.Provider().ReadFile(file, &byte, 1, &count, nullptr), 0);
+  EXPECT_EQ(count, 0u);
+  EXPECT_EQ(disk.Provider().SetFilePointer(file, 0, nullptr, os::kFromBegin),
+            os::kInvalidFilePointer);
+  EXPECT_EQ(disk.Provider().CloseHandle(file), 0);
+}
+
+TEST_F(DiskFiles, NoHandleIsNoFile) {
+  char byte = '.';
+  std::uint32_t count = 77;
+  EXPECT_EQ(disk.Provider().ReadFile(os::kInvalidHandle, &byte, 1, &count, nullptr), 0);
+  EXPECT_EQ(disk.Provider().CloseHandle(os::kInvalidHandle), 0);
+}
+
+TEST_F(DiskFiles, AnotherAccessOrDispositionIsRefused) {
+  const std::wstring path = disk.Put("a.dwg", "abc");
+  EXPECT_EQ(Open(path, 0x40000000), os::kInvalidHandle);
+  EXPECT_EQ(Open(path, os::kGenericRead | 0x40000000), os::kInvalidHandle);
+  EXPECT_EQ(Open(path, os::kGenericRead, 2), os::kInvalidHandle);
+}
+
+TEST_F(DiskFiles, APipeIsNoFileAndKeepsNobodyWaiting) {
+  const std::wstring path = disk.Folder() + L"/pipe";
+  ASSERT_EQ(mkfifo(ZDXEngine::BytesFromWide(path).c_str(), 0600), 0);
+  EXPECT_EQ(Open(path), os::kInvalidHandle);
+}
+
+TEST_F(DiskFiles, ANameThatIsNoTextIsOpened) {
+  const os::FileHandle file = Open(disk.Put("a\xFF.dwg", "abc"));
+  EXPECT_NE(file, os::kInvalidHandle);
+  disk.Provider().CloseHandle(file);
+}
+
+TEST_F(DiskFiles, APositionFromElsewhereIsRefused) {
+  const os::FileHandle file = Open(disk.Put("a.dwg", "abc"));
+  EXPECT_EQ(disk.Provider().SetFilePointer(file, 1, nullptr, 1), os::kInvalidFilePointer);
+  disk.Provider().CloseHandle(file);
+}
+
+}  // namespace

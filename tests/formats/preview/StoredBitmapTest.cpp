@@ -1,0 +1,188 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <limits>
+
+#include "formats/preview/Shown.h"
+#include "support/pictures/Pictures.h"
+
+namespace {
+
+using namespace std::string_literals;
+using namespace preview_test;
+using pictures::BitmapHead;
+using pictures::Number;
+using zdx::preview::Dib;
+using zdx::preview::Showing;
+
+Showing Show(const std::string& bytes) {
+  return preview_test::Show(zdx::model::StoredPicture::Kind::kBitmap, bytes);
+}
+
+TEST(StoredBitmap, KeepsRowsAndSize) {
+  const Showing shown = Show(pictures::SmallBitmap());
+  EXPECT_EQ(DibOf(shown).head().biWidth, 4);
+  EXPECT_EQ(DibOf(shown).head().biHeight, 2);
+  EXPECT_EQ(DibOf(shown).head().biBitCount, 24);
+  EXPECT_EQ(RowsOf(shown), pictures::SmallBitmap().substr(40));
+}
+
+TEST(StoredBitmap, ABitmapIsOneBlockAsItsTypeTells) {
+  const Showing shown = Show(pictures::SmallBitmap());
+  const auto* const block = reinterpret_cast<const char*>(DibOf(shown).info());
+  EXPECT_EQ(std::string(block, 40 + 24), pictures::SmallBitmap());
+}
+
+TEST(StoredBitmap, RowsFromTheTopDownStaySo) {
+  BitmapHead head;
+  head.height = -2;
+  const Showing shown = Show(head.Bytes() + std::string(24, 'x'));
+  EXPECT_EQ(DibOf(shown).head().biHeight, -2);
+}
+
+TEST(StoredBitmap, BytesBehindTheRowsAreLeft) {
+  EXPECT_EQ(RowsOf(Show(pictures::SmallBitmap() + "more")), pictures::SmallBitmap().substr(40));
+}
+
+TEST(StoredBitmap, ATableIsAsLongAsTheHeadSays) {
+  BitmapHead head{.width = 2, .height = 1, .bits = 8, .coloursUsed = 2};
+  const Showing shown = Show(head.Bytes() + "\1\2\3\0\4\5\6\0"s + "\0\1\0\0"s);
+  EXPECT_EQ(ColoursOf(shown), "\1\2\3\4\5\6"s);
+  EXPECT_EQ(RowsOf(shown), "\0\1\0\0"s);
+}
+
+TEST(StoredBitmap, ATableWithoutALengthIsFull) {
+  for (const auto& [bits, colours] : {std::pair(1, 2), std::pair(4, 16), std::pair(8, 256)}) {
+    BitmapHead head{.width = 1, .height = 1, .bits = static_cast<std::uint16_t>(bits)};
+    const std::string table(static_cast<std::size_t>(colours) * 4, '\7');
+    const Showing shown = Show(head.Bytes() + table + "\x80\0\0\0"s);
+    EXPECT_EQ(DibOf(shown).colours().size(), static_cast<std::size_t>(colours));
+    EXPECT_EQ(RowsOf(shown), "\x80\0\0\0"s);
+  }
+}
+
+TEST(StoredBitmap, ATableOfATrueColourBitmapIsPassedOver) {
+  BitmapHead head{.width = 1, .height = 1, .bits = 24, .coloursUsed = 2};
+  const Showing shown = Show(head.Bytes() + std::string(8, 'c') + "\1\2\3\0"s);
+  EXPECT_EQ(RowsOf(shown), "\1\2\3\0"s);
+  EXPECT_TRUE(DibOf(shown).colours().empty());
+  EXPECT_EQ(DibOf(shown).head().biClrUsed, 0u);
+}
+
+TEST(StoredBitmap, MasksAreKept) {
+  BitmapHead head{.width = 2, .height = 1, .bits = 16, .compression = 3};
+  const std::string masks = Number(0xF800, 4) + Number(0x07E0, 4) + Number(0x001F, 4);
+  const Showing shown = Show(head.Bytes() + masks + "\1\2\3\4"s);
+  EXPECT_EQ(DibOf(shown).head().biCompression, os::kBitFields);
+  const auto* const block = reinterpret_cast<const char*>(DibOf(shown).info());
+  EXPECT_EQ(std::string(block + 40, 16), masks + "\1\2\3\4"s);
+}
+
+TEST(StoredBitmap, MasksWithinALongHeadAreFound) {
+  BitmapHead head{.width = 1, .height = 1, .bits = 32, .compression = 3};
+  const std::string masks = Number(0xFF, 4) + Number(0xFF00, 4) + Number(0xFF0000, 4);
+  const std::string longHead = Number(108, 4) + head.Bytes().substr(4) + masks;
+  const Showing shown = Show(longHead + std::string(108 - longHead.size(), '\0') + "\1\2\3\4"s);
+  const auto* const block = reinterpret_cast<const char*>(DibOf(shown).info());
+  EXPECT_EQ(std::string(block + 40, 16), masks + "\1\2\3\4"s);
+  EXPECT_EQ(DibOf(shown).head().biSize, 40u);
+}
+
+TEST(StoredBitmap, TheOldHeadIsRead) {
+  const std::string head =
+      Number(12, 4) + Number(2, 2) + Number(1, 2) + Number(1, 2) + Number(1, 2);
+  const Showing shown = Show(head + "\1\2\3\4\5\6" + "\x40\0\0\0"s);
+  EXPECT_EQ(DibOf(shown).head().biWidth, 2);
+  EXPECT_EQ(ColoursOf(shown), "\1\2\3\4\5\6"s);
+  EXPECT_EQ(RowsOf(shown), "\x40\0\0\0"s);
+}
+
+// A bitmap of runs, 4 wide and 2 high, with a full table.
+std::string Runs(std::uint16_t bits, const std::string& packed) {
+  BitmapHead head{.bits = bits, .compression = bits == 8 ? 1u : 2u};
+  return head.Bytes() + std::string(std::size_t{4} << bits, '\7') + packed;
+}
+
+TEST(StoredBitmap, RunsOfEightBitsAreUnpacked) {
+  EXPECT_EQ(RowsOf(Show(Runs(8, "\3\5\1\6\0\0\0\4\1\2\3\4\0\1"s))), "\5\5\5\6\1\2\3\4"s);
+}
+
+TEST(StoredBitmap, RunsOfFourBitsAreUnpacked) {
+  // A run of three that takes turns; then three single pixels, padded to two bytes.
+  EXPECT_EQ(RowsOf(Show(Runs(4, "\3\x56\0\0\0\3\x12\x30\0\1"s))), "\x56\x50\0\0\x12\x30\0\0"s);
+}
+
+TEST(StoredBitmap, AnOddNumberOfSinglePixelsIsPadded) {
+  EXPECT_EQ(RowsOf(Show(Runs(8, "\0\3\1\2\3\xFF\1\4\0\1"s))), "\1\2\3\4\0\0\0\0"s);
+}
+
+TEST(StoredBitmap, WhatRunsStepOverIsTheFirstColour) {
+  EXPECT_EQ(RowsOf(Show(Runs(8, "\1\5\0\2\1\1\1\6\0\1"s))), "\5\0\0\0\0\0\6\0"s);
+}
+
+TEST(StoredBitmap, RunsThatLeaveTheRowAreRefused) {
+  EXPECT_FALSE(RefusalOf(Show(Runs(8, "\5\5\0\1"s))).empty());
+}
+
+TEST(StoredBitmap, RunsThatLeaveThePictureAreRefused) {
+  EXPECT_FALSE(RefusalOf(Show(Runs(8, "\0\2\0\2\1\5\0\1"s))).empty());
+}
+
+TEST(StoredBitmap, RunsWithoutAnEndAreRefused) {
+  for (const std::string& packed : {""s, "\1"s, "\1\5"s, "\0\4\1\2\3"s, "\0\2\1"s}) {
+    EXPECT_FALSE(RefusalOf(Show(Runs(8, packed))).empty()) << packed.size();
+  }
+}
+
+TEST(StoredBitmap, RunsOfMoreThanAPictureMayTakeAreRefused) {
+  BitmapHead head{.width = 65536, .height = 1025, .bits = 8, .compression = 1};
+  EXPECT_EQ(RefusalOf(Show(head.Bytes() + std::string(1024, '\7') + "\0\1"s)),
+            L"The picture is too large.");
+}
+
+// A head that is refused, and a picture with nothing else wrong.
+class OddHead : public testing::TestWithParam<std::pair<const char*, BitmapHead>> {};
+
+TEST_P(OddHead, IsRefused) {
+  EXPECT_FALSE(RefusalOf(Show(GetParam().second.Bytes() + std::string(5000, '\7'))).empty());
+}
+
+constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
+constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
+
+INSTANTIATE_TEST_SUITE_P(
+    StoredBitmap, OddHead,
+    testing::Values(std::pair("NoWidth", BitmapHead{.width = 0}),
+                    std::pair("WidthBelowZero", BitmapHead{.width = -4}),
+                    std::pair("NoHeight", BitmapHead{.height = 0}),
+                    std::pair("TheLeastHeight", BitmapHead{.height = kLeast}),
+                    std::pair("TheMostOfBoth", BitmapHead{.width = kMost, .height = kMost}),
+                    std::pair("TheMostWidth", BitmapHead{.width = kMost, .height = 1, .bits = 1}),
+                    std::pair("TwoPlanes", BitmapHead{.planes = 2}),
+                    std::pair("NoBits", BitmapHead{.bits = 0}),
+                    std::pair("TwoBits", BitmapHead{.bits = 2}),
+                    std::pair("SixtyFourBits", BitmapHead{.bits = 64}),
+                    std::pair("UnknownCompression", BitmapHead{.compression = 4}),
+                    std::pair("MasksOf24Bits", BitmapHead{.bits = 24, .compression = 3}),
+                    std::pair("RunsOf24Bits", BitmapHead{.bits = 24, .compression = 1}),
+                    std::pair("RunsFromTheTop",
+                              BitmapHead{.height = -2, .bits = 8, .compression = 1}),
+                    std::pair("EqualMasks", BitmapHead{.bits = 16, .compression = 3}),
+                    std::pair("TooManyColours", BitmapHead{.bits = 8, .coloursUsed = 257}),
+                    std::pair("MoreColoursThanBytes", BitmapHead{.coloursUsed = 0xFFFFFFFF})),
+    [](const auto& info) { return info.param.first; });
+
+TEST(StoredBitmap, AnUnknownKindOfHeadIsRefused) {
+  EXPECT_FALSE(RefusalOf(Show(Number(41, 4) + std::string(5000, '\1'))).empty());
+}
+
+TEST(StoredBitmap, EveryCutIsRefused) {
+  BitmapHead head{.width = 2, .height = 1, .bits = 8, .coloursUsed = 2};
+  const std::string whole = head.Bytes() + "\1\2\3\0\4\5\6\0"s + "\0\1\0\0"s;
+  ASSERT_TRUE(RefusalOf(Show(whole)).empty());
+  for (std::size_t size = 0; size < whole.size(); ++size) {
+    EXPECT_FALSE(RefusalOf(Show(whole.substr(0, size))).empty()) << size;
+  }
+}
+
+}  // namespace

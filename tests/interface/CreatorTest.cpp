@@ -1,0 +1,140 @@
+// The creator of real drawings, where a collection of them lies beside the project: what the engine
+// reads is what the drawing's truth file says that its block holds.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <nlohmann/json.hpp>
+
+#include "ZDXEngine/Utf8.h"
+#include "backends/common/CommonProvider.h"
+#include "backends/posix/PosixFiles.h"
+#include "backends/posix/PosixProvider.h"
+#include "platform/common/CommonUtils.h"
+#include "properties/appinfo/AppInfoReader.h"
+#include "properties/appinfo/CreatorProperties.h"
+#include "properties/appinfo/DwgHeader.h"
+
+namespace {
+
+using nlohmann::json;
+
+const std::filesystem::path kSamples = std::filesystem::path(ZDX_SOURCE_DIR) / "../shared/samples";
+
+std::vector<std::string> SampleNames() {
+  std::vector<std::string> names;
+  std::error_code none;
+  for (const auto& entry : std::filesystem::directory_iterator(kSamples, none)) {
+    if (entry.path().extension() == ".dwg") names.push_back(entry.path().filename().string());
+  }
+  std::sort(names.begin(), names.end());
+  return names;
+}
+
+// Keeps the entries of a block as pairs of id and text.
+class Entries final : public ZDXEngine::ZnHsAppInfoNotifier {
+ public:
+  void OnEntryCount(std::uint32_t count) override { announced = count; }
+  void OnPropertySet(const GUID& formatId, const std::wstring& text) override {
+    told.push_back({ZDXEngine::Utf8FromWide(Common::PropertyUtils::GuidToString(formatId)),
+                    ZDXEngine::Utf8FromWide(text)});
+  }
+
+  std::uint32_t announced = 0;
+  std::vector<std::pair<std::string, std::string>> told;
+};
+
+class Creator : public testing::TestWithParam<std::string> {
+ protected:
+  Creator() {
+    std::ifstream(kSamples / "truth" / (GetParam() + ".json")) >> truth;
+    os::InstallProvider(&system_);
+    os::InstallFileProvider(&files_);
+    Common::InstallProvider(&common_);
+  }
+  ~Creator() override {
+    Common::InstallProvider(nullptr);
+    os::InstallFileProvider(nullptr);
+    os::InstallProvider(nullptr);
+  }
+
+  bool IsReachable() const { return !truth["appInfo"]["offsetByRawScan"].is_null(); }
+  // What a property of the summary set holds by the truth: its text from behind the tags on.
+  std::vector<std::string> Expected(const std::string& number) const {
+    if (!IsReachable()) return {};
+    for (const json& entry : truth["appInfo"]["entries"]) {
+      if (entry[0] != "{F29F85E0-4FF9-1068-AB91-08002B27B3D9}") continue;
+      const std::string text = entry[1];
+      const std::string tags = "<prop id=\"" + number + "\"><string>";
+      const std::size_t begin = text.find(tags);
+      if (begin == std::string::npos) return {};
+      const std::size_t end = text.find("</string>", begin);
+      return {text.substr(begin + tags.size(), end - begin - tags.size())};
+    }
+    return {};
+  }
+  static std::vector<std::string> Told(const std::vector<ZDXEngine::_PropData>& properties,
+                                       const std::wstring& name) {
+    std::vector<std::string> texts;
+    for (const auto& property : properties) {
+      if (property.name == name) texts.push_back(ZDXEngine::Utf8FromWide(property.value.bstrVal));
+    }
+    return texts;
+  }
+
+  json truth;
+  const std::wstring path = ZDXEngine::WideFromUtf8((kSamples / GetParam()).string());
+
+ private:
+  zdx::PosixProvider system_;
+  zdx::PosixFiles files_;
+  zdx::CommonProvider common_{[](os::ModuleHandle, unsigned int) { return std::wstring(); }};
+};
+
+TEST_P(Creator, TheNameAndTheVersionAreTheFiles) {
+  std::vector<ZDXEngine::_PropData> properties;
+  ZDXEngine::CollectCreatorProperties(properties, path);
+  EXPECT_EQ(Told(properties, L"DWG Creator Name"), Expected("258"));
+  EXPECT_EQ(Told(properties, L"DWG Creator Version"), Expected("259"));
+  EXPECT_EQ(properties.size(), Expected("258").size() + Expected("259").size());
+}
+
+TEST_P(Creator, EveryEntryOfTheBlockIsTold) {
+  Entries entries;
+  EXPECT_EQ(ZDXEngine::ReadAppInfo(path, entries), IsReachable());
+  std::vector<std::pair<std::string, std::string>> expected;
+  if (IsReachable()) {
+    for (const json& entry : truth["appInfo"]["entries"]) expected.push_back({entry[0], entry[1]});
+  }
+  EXPECT_EQ(entries.told, expected);
+  EXPECT_EQ(entries.announced, expected.size());
+}
+
+// A block that isn't reached from the header may lie in the file all the same.
+TEST_P(Creator, TheHeaderLeadsToTheBlock) {
+  std::uint32_t offset = 0;
+  const ZDXEngine::DwgHeaderKind kind = ZDXEngine::LocateAppInfo(path, offset);
+  if (!IsReachable()) return;
+  EXPECT_GE(kind, ZDXEngine::kDwgHeader1018);
+  const std::int64_t block = truth["appInfo"]["sentinelAt"][0];
+  EXPECT_LE(offset, block);
+  EXPECT_LE(block - offset, 4063);
+}
+
+GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(Creator);
+INSTANTIATE_TEST_SUITE_P(Dwg, Creator, testing::ValuesIn(SampleNames()), [](const auto& info) {
+  std::string name = info.param.substr(0, info.param.find('.'));
+  std::replace(name.begin(), name.end(), '-', '_');
+  return name;
+});
+
+TEST(CreatorSamples, AreReadWhereTheyLie) {
+  if (SampleNames().empty()) {
+    GTEST_SKIP() << "no collection of real drawings at " << kSamples << ": its tests are left out";
+  }
+  SUCCEED();
+}
+
+}  // namespace
