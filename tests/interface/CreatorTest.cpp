@@ -16,22 +16,11 @@
 #include "properties/appinfo/AppInfoReader.h"
 #include "properties/appinfo/CreatorProperties.h"
 #include "properties/appinfo/DwgHeader.h"
+#include "support/Samples.h"
 
 namespace {
 
 using nlohmann::json;
-
-const std::filesystem::path kSamples = std::filesystem::path(ZDX_SOURCE_DIR) / "../shared/samples";
-
-std::vector<std::string> SampleNames() {
-  std::vector<std::string> names;
-  std::error_code none;
-  for (const auto& entry : std::filesystem::directory_iterator(kSamples, none)) {
-    if (entry.path().extension() == ".dwg") names.push_back(entry.path().filename().string());
-  }
-  std::sort(names.begin(), names.end());
-  return names;
-}
 
 // Keeps the entries of a block as pairs of id and text.
 class Entries final : public ZDXEngine::ZnHsAppInfoNotifier {
@@ -49,7 +38,7 @@ class Entries final : public ZDXEngine::ZnHsAppInfoNotifier {
 class Creator : public testing::TestWithParam<std::string> {
  protected:
   Creator() {
-    std::ifstream(kSamples / "truth" / (GetParam() + ".json")) >> truth;
+    std::ifstream(zdx_test::TruthOf(GetParam())) >> truth;
     os::InstallProvider(&system_);
     os::InstallFileProvider(&files_);
     Common::InstallProvider(&common_);
@@ -85,7 +74,8 @@ class Creator : public testing::TestWithParam<std::string> {
   }
 
   json truth;
-  const std::wstring path = ZDXEngine::WideFromUtf8((kSamples / GetParam()).string());
+  const std::wstring path =
+      ZDXEngine::WideFromUtf8((zdx_test::SampleFolder() / GetParam()).string());
 
  private:
   zdx::PosixProvider system_;
@@ -124,15 +114,13 @@ TEST_P(Creator, TheHeaderLeadsToTheBlock) {
 }
 
 GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(Creator);
-INSTANTIATE_TEST_SUITE_P(Dwg, Creator, testing::ValuesIn(SampleNames()), [](const auto& info) {
-  std::string name = info.param.substr(0, info.param.find('.'));
-  std::replace(name.begin(), name.end(), '-', '_');
-  return name;
-});
+INSTANTIATE_TEST_SUITE_P(Dwg, Creator, testing::ValuesIn(zdx_test::SampleNames(".dwg")),
+                         [](const auto& info) { return zdx_test::SampleTestName(info.param); });
 
 TEST(CreatorSamples, AreReadWhereTheyLie) {
-  if (SampleNames().empty()) {
-    GTEST_SKIP() << "no collection of real drawings at " << kSamples << ": its tests are left out";
+  if (zdx_test::SampleNames(".dwg").empty()) {
+    GTEST_SKIP() << "no collection of real drawings at " << zdx_test::SampleFolder()
+                 << ": its tests are left out";
   }
   SUCCEED();
 }

@@ -1,0 +1,75 @@
+// Two files of one drawing, one DXF and one DWG, tell the same of it.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <nlohmann/json.hpp>
+#include <set>
+
+#include "ZDXEngine/Utf8.h"
+#include "support/PublicRead.h"
+#include "support/Samples.h"
+
+namespace {
+
+using nlohmann::json;
+
+// The real drawings that are there in both formats, without their extensions.
+std::vector<std::string> RealPairs() {
+  std::vector<std::string> pairs;
+  const std::vector<std::string> dxf = zdx_test::SampleNames(".dxf");
+  for (const std::string& dwg : zdx_test::SampleNames(".dwg")) {
+    const std::string stem = std::filesystem::path(dwg).stem().string();
+    if (std::find(dxf.begin(), dxf.end(), stem + ".dxf") != dxf.end()) pairs.push_back(stem);
+  }
+  return pairs;
+}
+
+std::set<std::string> NamedObjectsInTruth(const std::string& name) {
+  json truth;
+  std::ifstream(zdx_test::TruthOf(name)) >> truth;
+  const auto names = truth["dictionaries"]["namedObjects"].get<std::vector<std::string>>();
+  return {names.begin(), names.end()};
+}
+
+// Everything that the file tells, but for the picture, which these DXF files don't carry.
+std::vector<std::string> Told(const std::string& name) {
+  const auto path = zdx_test::SampleFolder() / name;
+  const auto reading = zdx_test::ReadFile(ZDXEngine::WideFromUtf8(path.string()));
+  std::vector<std::string> told;
+  for (const ZDXEngine::_PropData& record : reading.properties) {
+    if (record.formatId == zdx_test::kSummary && record.name == L"17") continue;
+    std::string line = ZDXEngine::Utf8FromWide(record.formatId + L" " + record.name + L": ");
+    if (record.value.vt == VT_BSTR) line += ZDXEngine::Utf8FromWide(record.value.bstrVal);
+    told.push_back(line);
+  }
+  return told;
+}
+
+class RealTwins : public testing::TestWithParam<std::string> {};
+
+TEST_P(RealTwins, TellTheSame) {
+  std::vector<std::string> dwg = Told(GetParam() + ".dwg");
+  std::vector<std::string> dxf = Told(GetParam() + ".dxf");
+  // By their truths one root dictionary may have an entry that the other file lacks.
+  const std::set<std::string> ofDwg = NamedObjectsInTruth(GetParam() + ".dwg");
+  const std::set<std::string> ofDxf = NamedObjectsInTruth(GetParam() + ".dxf");
+  std::vector<std::string> alone;
+  std::set_symmetric_difference(ofDwg.begin(), ofDwg.end(), ofDxf.begin(), ofDxf.end(),
+                                std::back_inserter(alone));
+  for (const std::string& name : alone) {
+    const std::string line =
+        ZDXEngine::Utf8FromWide(zdx_test::kStorage) + " Named Object Name: " + name;
+    EXPECT_EQ(std::erase(dwg, line) + std::erase(dxf, line), 1u) << name;
+  }
+  EXPECT_GT(dwg.size(), 40u);
+  EXPECT_EQ(dwg, dxf);
+}
+
+GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(RealTwins);
+INSTANTIATE_TEST_SUITE_P(Samples, RealTwins, testing::ValuesIn(RealPairs()),
+                         [](const auto& info) { return zdx_test::SampleTestName(info.param); });
+
+}  // namespace
