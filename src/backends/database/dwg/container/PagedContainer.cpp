@@ -25,9 +25,11 @@ constexpr std::uint32_t kSectionMapType = 0x4163003B;
 constexpr std::size_t kPageHeadSize = 8 * 4;
 constexpr std::size_t kPageSectionAt = 4;
 constexpr std::size_t kPageStoredAt = 8;
+constexpr std::size_t kPageStartAt = 0x10;
 constexpr std::size_t kPageHeadSumAt = 0x18;
 constexpr std::size_t kPageDataSumAt = 0x1C;
 constexpr std::uint32_t kPageType = 0x4163043B;
+constexpr int kIdentifyingWords = 3;
 constexpr std::uint32_t kPageMask = 0x4164536B;
 
 // An entry of the page map: number, size; a gap has four words more.
@@ -220,6 +222,13 @@ void PagedContainer::CheckSums(const std::string& head, std::string_view stored,
   }
 }
 
+// How many of the words of a head that tell which page it is say that it is this one.
+int AgreeingWords(std::string_view head, const SectionEntry& section, const SectionPage& page) {
+  return (LittleEndian<std::uint32_t>(head) == kPageType ? 1 : 0) +
+         (LittleEndianAt<std::uint32_t>(head, kPageSectionAt) == section.number ? 1 : 0) +
+         (LittleEndianAt<std::uint64_t>(head, kPageStartAt) == page.start ? 1 : 0);
+}
+
 std::optional<PageBytes> PagedContainer::ReadPage(const SectionEntry& section,
                                                   const SectionPage& page) {
   const std::uint64_t address = page.address;
@@ -228,16 +237,20 @@ std::optional<PageBytes> PagedContainer::ReadPage(const SectionEntry& section,
     return std::nullopt;
   }
   const std::string head = PageHead(address);
+  const int agreeing = AgreeingWords(head, section, page);
+  const bool headRight = agreeing == kIdentifyingWords;
+  if (!headRight) Warn(L"The head of a page is damaged.", address);
   const std::string_view behind = bytes_.substr(static_cast<std::size_t>(address) + kPageHeadSize);
-  const auto storedSize = LittleEndianAt<std::uint32_t>(head, kPageStoredAt);
-  if (LittleEndian<std::uint32_t>(head) != kPageType ||
-      LittleEndianAt<std::uint32_t>(head, kPageSectionAt) != section.number ||
-      storedSize > behind.size() || !reading_.Take(storedSize)) {
-    Warn(L"The head of a page is damaged.", address);
+  const std::uint64_t storedSize =
+      headRight ? LittleEndianAt<std::uint32_t>(head, kPageStoredAt) : page.storedSize;
+  // With more than one word wrong it is some other part of the file.
+  if (agreeing < kIdentifyingWords - 1 || storedSize > behind.size() ||
+      !reading_.Take(storedSize)) {
+    Warn(L"A page can't be read.", address);
     return std::nullopt;
   }
-  const std::string_view stored = behind.substr(0, storedSize);
-  CheckSums(head, stored, address);
+  const std::string_view stored = behind.substr(0, static_cast<std::size_t>(storedSize));
+  if (headRight) CheckSums(head, stored, address);
   if (!section.compressed) return PageBytes{{}, stored};
   if (section.pageSize > kMostPageSize || !memory_.Take(section.pageSize)) {
     Warn(L"A page is said to be larger than this file can make it.", address);
