@@ -118,6 +118,9 @@ TEST_F(StoredTexts, ALoneSurrogateStaysAsItIs) {
 TEST_F(StoredTexts, AHalfOfAPairAtTheVeryEndStaysAlone) {
   EXPECT_TRUE(Read(RawText(std::u16string{u'a', 0xD83D})));
   EXPECT_EQ(text, (std::wstring{L'a', wchar_t{0xD83D}}));
+  // The same where the unit is the last of a heap block.
+  EXPECT_TRUE(Read(RawText(std::u16string(1100, u'a') + char16_t{0xD83D})));
+  EXPECT_EQ(text, std::wstring(1100, L'a') + wchar_t{0xD83D});
 }
 
 TEST_F(StoredTexts, ATextCutInItsLengthLeavesTheResultAlone) {
