@@ -110,9 +110,10 @@ TEST_F(StoredTexts, APairOfSurrogatesIsOneCharacter) {
 }
 
 TEST_F(StoredTexts, ALoneSurrogateStaysAsItIs) {
-  const std::u16string units = {0xDC00, u'a', 0xD800, u'b', 0xD800};
+  const std::u16string units = {u'a', 0xDC00, u'a', 0xD800, u'b', 0xD800};
   EXPECT_TRUE(Read(StoredText(units)));
-  EXPECT_EQ(text, (std::wstring{wchar_t{0xDC00}, L'a', wchar_t{0xD800}, L'b', wchar_t{0xD800}}));
+  EXPECT_EQ(text,
+            (std::wstring{L'a', wchar_t{0xDC00}, L'a', wchar_t{0xD800}, L'b', wchar_t{0xD800}}));
 }
 
 TEST_F(StoredTexts, AHalfOfAPairAtTheVeryEndStaysAlone) {
