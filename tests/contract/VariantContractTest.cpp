@@ -284,6 +284,7 @@ TEST_P(Variants, AnArrayIsMadeWithoutLookingAtWhatWasThere) {
   std::memset(static_cast<void*>(&variant), 0xFF, sizeof variant);
   ASSERT_EQ(os->InitVariantFromBuffer("x", 1, &variant), S_OK);
   EXPECT_EQ(variant.vt, VT_ARRAY | VT_UI1);
+  EXPECT_EQ(variant.wReserved1, 0);
   os->VariantClear(&variant);
 }
 

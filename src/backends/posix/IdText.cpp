@@ -37,7 +37,7 @@ bool ReadDigits(std::wstring_view text, std::uint8_t (&digits)[kDigits]) {
 }  // namespace
 
 std::optional<GUID> IdFromText(std::wstring_view text) {
-  std::uint8_t digits[kDigits];
+  std::uint8_t digits[kDigits] = {};
   if (!ReadDigits(text, digits)) return std::nullopt;
   const auto number = [&digits](std::size_t first, std::size_t count) {
     std::uint32_t value = 0;

@@ -14,7 +14,8 @@ namespace {
 
 // A handle is the descriptor's number and one, so that none is null.
 os::FileHandle HandleOf(int descriptor) {
-  return reinterpret_cast<os::FileHandle>(static_cast<std::intptr_t>(descriptor) + 1);
+  const std::intptr_t number = std::intptr_t{descriptor} + 1;
+  return reinterpret_cast<os::FileHandle>(number);  // NOLINT(performance-no-int-to-ptr)
 }
 
 int DescriptorOf(os::FileHandle file) {

@@ -9,6 +9,7 @@ namespace os {
 using FileHandle = void*;
 
 // What stands for no file.  Not a null pointer, as on Windows.
+// NOLINTNEXTLINE(performance-no-int-to-ptr)
 inline const FileHandle kInvalidHandle = reinterpret_cast<FileHandle>(~std::uintptr_t{0});
 
 inline constexpr std::uint32_t kGenericRead = 0x80000000;

@@ -97,7 +97,7 @@ bool BufferedFileReader::ReadText(std::wstring& result) {
   const auto length = FromLittleEndian<std::uint16_t>(stored);
   std::uint8_t local[kLocalUnits * kUnitSize];
   std::unique_ptr<std::uint8_t[]> heap;
-  if (length > kLocalUnits) heap.reset(new std::uint8_t[length * kUnitSize]);
+  if (length > kLocalUnits) heap.reset(new std::uint8_t[std::size_t{length} * kUnitSize]);
   std::uint8_t* const units = heap == nullptr ? local : heap.get();
   if (!ReadBytes(units, length * kUnitSize)) return false;
   result = WideFromUnits(units, length);

@@ -35,17 +35,20 @@ HRESULT Failure(const Fields& fields) {
 class LocalTime : public testing::Test {
  protected:
   LocalTime() { SetZone("UTC0"); }
-  ~LocalTime() override {
-    if (had_) {
-      SetZone(before_.c_str());
-    } else {
-      unsetenv("TZ");
-      tzset();
-    }
-  }
+  ~LocalTime() override { SetZone(had_ ? before_.c_str() : nullptr); }
+  // Null for the system's own.
   static void SetZone(const char* zone) {
-    setenv("TZ", zone, 1);
+#if defined(_WIN32)
+    _putenv_s("TZ", zone == nullptr ? "" : zone);
+    _tzset();
+#else
+    if (zone == nullptr) {
+      unsetenv("TZ");
+    } else {
+      setenv("TZ", zone, 1);
+    }
     tzset();
+#endif
   }
 
  private:

@@ -119,6 +119,12 @@ TEST_F(PropertySet, AnOpeningTagWithMoreInItIsNotFound) {
   EXPECT_EQ(String(kHead + L"<prop id=\"258\" ><string>X</string></prop>"), L"(none)");
 }
 
+TEST_F(PropertySet, AValueElementWithoutItsOpeningTagIsNotFound) {
+  for (std::size_t place = 0; place < 20; ++place) {
+    EXPECT_EQ(String(std::wstring(place, L'x') + L"<string>X</string></prop>" + kHead), L"(none)");
+  }
+}
+
 TEST_F(PropertySet, ABlankBeforeTheValueElementHidesIt) {
   EXPECT_EQ(String(kHead + L"<prop id=\"258\"> <string>X</string></prop>"), L"(none)");
 }

@@ -110,14 +110,18 @@ TEST_F(StoredTexts, APairOfSurrogatesIsOneCharacter) {
 }
 
 TEST_F(StoredTexts, ALoneSurrogateStaysAsItIs) {
-  const std::u16string units = {0xDC00, u'a', 0xD800, u'b', 0xD800};
+  const std::u16string units = {u'a', 0xDC00, u'a', 0xD800, u'b', 0xD800};
   EXPECT_TRUE(Read(StoredText(units)));
-  EXPECT_EQ(text, (std::wstring{wchar_t{0xDC00}, L'a', wchar_t{0xD800}, L'b', wchar_t{0xD800}}));
+  EXPECT_EQ(text,
+            (std::wstring{L'a', wchar_t{0xDC00}, L'a', wchar_t{0xD800}, L'b', wchar_t{0xD800}}));
 }
 
 TEST_F(StoredTexts, AHalfOfAPairAtTheVeryEndStaysAlone) {
   EXPECT_TRUE(Read(RawText(std::u16string{u'a', 0xD83D})));
   EXPECT_EQ(text, (std::wstring{L'a', wchar_t{0xD83D}}));
+  // The same where the unit is the last of a heap block.
+  EXPECT_TRUE(Read(RawText(std::u16string(1100, u'a') + char16_t{0xD83D})));
+  EXPECT_EQ(text, std::wstring(1100, L'a') + wchar_t{0xD83D});
 }
 
 TEST_F(StoredTexts, ATextCutInItsLengthLeavesTheResultAlone) {

@@ -76,7 +76,8 @@ TEST_F(TypedValue, WhatStandsBehindTheClosingTagDoesNotMatter) {
 }
 
 TEST_F(TypedValue, AnElementMustBeginAtOnce) {
-  for (const wchar_t* element : {L"", L" <string>X</string>", L"X", L"a<string>X</string>"}) {
+  for (const wchar_t* element : {L"", L" <string>X</string>", L"X", L"a<string>X</string>",
+                                 L"xstring>X</string>", L" string>X</string><"}) {
     EXPECT_FALSE(Read(element));
     EXPECT_EQ(value.vt, VT_EMPTY);
   }
