@@ -44,8 +44,9 @@ auto OrNull(Make make) -> decltype(make()) {
 
 }  // namespace
 
-PosixGraphics::PosixGraphics()
-    : stockBitmap_(Keep(bitmaps_, Bitmap::Make(OnePixel()))),
+PosixGraphics::PosixGraphics(std::size_t mostBytes)
+    : mostBytes_(mostBytes),
+      stockBitmap_(Keep(bitmaps_, Bitmap::Make(OnePixel()))),
       stockPalette_(Keep(palettes_, std::make_unique<Palette>(std::begin(kStockColours),
                                                               std::end(kStockColours)))) {}
 
@@ -62,10 +63,8 @@ PosixGraphics::Context* PosixGraphics::FindContext(os::HDC handle, Context::Kind
 
 os::HDC PosixGraphics::AddContext(Context::Kind kind) {
   return OrNull([&] {
-    auto context = std::make_unique<Context>();
-    context->kind = kind;
-    context->bitmap = stockBitmap_;
-    context->palette = stockPalette_;
+    std::unique_ptr<Context> context(
+        new Context{kind, stockBitmap_, stockPalette_, graphics::MetafileRecorder(mostBytes_)});
     return reinterpret_cast<os::HDC>(Keep(contexts_, std::move(context)));
   });
 }

@@ -1,6 +1,7 @@
 // Bitmaps, palettes and metafiles on POSIX systems, which have none of their own.
 #pragma once
 
+#include <cstddef>
 #include <map>
 #include <memory>
 #include <string>
@@ -20,7 +21,8 @@ namespace zdx {
 // as which the first selection tells them; they can be selected again, and aren't deleted.
 class PosixGraphics : public os::GraphicsProvider {
  public:
-  PosixGraphics();
+  // A metafile of more bytes than `mostBytes` isn't made.
+  explicit PosixGraphics(std::size_t mostBytes = graphics::MetafileRecorder::kMostBytes);
 
   os::HBITMAP CreateDIBSection(os::HDC context, const os::BITMAPINFO* info, std::uint32_t usage,
                                void** bits, void* section, std::uint32_t offset) override;
@@ -50,11 +52,11 @@ class PosixGraphics : public os::GraphicsProvider {
 
   struct Context {
     enum class Kind { kScreen, kMemory, kMetafile };
-    Kind kind = Kind::kScreen;
+    Kind kind;
     // Of a memory context.
-    graphics::Bitmap* bitmap = nullptr;
+    graphics::Bitmap* bitmap;
     // Of a metafile.
-    const Palette* palette = nullptr;
+    const Palette* palette;
     graphics::MetafileRecorder recorder;
   };
 
@@ -68,6 +70,7 @@ class PosixGraphics : public os::GraphicsProvider {
   os::HDC AddContext(Context::Kind kind);
   bool IsSelected(const graphics::Bitmap* bitmap) const;
 
+  std::size_t mostBytes_;
   Table<Context> contexts_;
   Table<graphics::Bitmap> bitmaps_;
   Table<Palette> palettes_;

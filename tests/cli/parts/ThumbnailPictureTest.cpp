@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <string>
 
 #include "ThumbnailPicture.h"
@@ -69,25 +70,33 @@ TEST(ThumbnailPicture, AMetafileWithoutABitmapIsRefused) {
   EXPECT_FALSE(Read("\3\0\0\0\x8\0\4\0\2\0\0\0"s + pictures::Metafile(0x0213, "\1\0\2\0"s)));
 }
 
+struct OddCase {
+  const char* name;
+  BitmapHead head;
+};
+
+// How a failing test names its case.
+void PrintTo(const OddCase& odd, std::ostream* out) { *out << odd.name; }
+
 // A bitmap's head that no metafile of the engine's has.
-class OddBitmap : public testing::TestWithParam<std::pair<const char*, BitmapHead>> {};
+class OddBitmap : public testing::TestWithParam<OddCase> {};
 
 TEST_P(OddBitmap, IsRefused) {
-  EXPECT_FALSE(Read(Value(GetParam().second.Bytes() + std::string(3000, '\0'))));
+  EXPECT_FALSE(Read(Value(GetParam().head.Bytes() + std::string(3000, '\0'))));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    ThumbnailPicture, OddBitmap,
-    testing::Values(std::pair("NoWidth", BitmapHead{.width = 0}),
-                    std::pair("NoHeight", BitmapHead{.height = 0}),
-                    std::pair("TopDown", BitmapHead{.height = -2}),
-                    std::pair("TwoBits", BitmapHead{.bits = 2}),
-                    std::pair("TooWide", BitmapHead{.width = 0x7FFFFFFF}),
-                    std::pair("TooHigh", BitmapHead{.height = 0x7FFFFFFF}),
-                    std::pair("Packed", BitmapHead{.bits = 8, .compression = 1}),
-                    std::pair("SixteenBitsWithoutMasks", BitmapHead{.bits = 16}),
-                    std::pair("AShortTable", BitmapHead{.bits = 8, .coloursUsed = 2})),
-    [](const auto& info) { return info.param.first; });
+INSTANTIATE_TEST_SUITE_P(ThumbnailPicture, OddBitmap,
+                         testing::Values(OddCase{"NoWidth", BitmapHead{.width = 0}},
+                                         OddCase{"NoHeight", BitmapHead{.height = 0}},
+                                         OddCase{"TopDown", BitmapHead{.height = -2}},
+                                         OddCase{"TwoBits", BitmapHead{.bits = 2}},
+                                         OddCase{"TooWide", BitmapHead{.width = 0x7FFFFFFF}},
+                                         OddCase{"TooHigh", BitmapHead{.height = 0x7FFFFFFF}},
+                                         OddCase{"Packed", BitmapHead{.bits = 8, .compression = 1}},
+                                         OddCase{"SixteenBitsWithoutMasks", BitmapHead{.bits = 16}},
+                                         OddCase{"AShortTable",
+                                                 BitmapHead{.bits = 8, .coloursUsed = 2}}),
+                         [](const auto& info) { return info.param.name; });
 
 }  // namespace
 

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "backends/posix/PosixGraphics.h"
 #include "backends/posix/graphics/MetafileRecorder.h"
 
 namespace zdx::graphics {
@@ -42,6 +43,22 @@ TEST(MetafileRecorder, NothingFollowsWhatFoundNoRoom) {
   EXPECT_FALSE(recorder.DrawBitmap(*FourByTwo(), kAll));
   recorder.RealizePalette();
   EXPECT_FALSE(recorder.Finish());
+}
+
+TEST(MetafileRecorder, WithoutRoomThereIsNoMetafileAndItsContextHasEnded) {
+  // Room for the header alone.
+  PosixGraphics os(18);
+  const os::HDC context = os.CreateMetaFileW(nullptr);
+  EXPECT_EQ(os.CloseMetaFile(context), nullptr);
+  EXPECT_EQ(os.GetMapMode(context), 0);
+}
+
+TEST(MetafileRecorder, ATransferWithoutRoomFails) {
+  PosixGraphics os(18 + 6);
+  const os::HDC metafile = os.CreateMetaFileW(nullptr);
+  const os::HDC memory = os.CreateCompatibleDC(nullptr);
+  EXPECT_EQ(os.BitBlt(metafile, 0, 0, 1, 1, memory, 0, 0, os::kSourceCopy), 0);
+  EXPECT_EQ(os.CloseMetaFile(metafile), nullptr);
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <ostream>
 
 #include "formats/preview/Shown.h"
 #include "support/pictures/Pictures.h"
@@ -140,11 +141,19 @@ TEST(StoredBitmap, RunsOfMoreThanAPictureMayTakeAreRefused) {
             L"The picture is too large.");
 }
 
+struct OddCase {
+  const char* name;
+  BitmapHead head;
+};
+
+// How a failing test names its case.
+void PrintTo(const OddCase& odd, std::ostream* out) { *out << odd.name; }
+
 // A head that is refused, and a picture with nothing else wrong.
-class OddHead : public testing::TestWithParam<std::pair<const char*, BitmapHead>> {};
+class OddHead : public testing::TestWithParam<OddCase> {};
 
 TEST_P(OddHead, IsRefused) {
-  EXPECT_FALSE(RefusalOf(Show(GetParam().second.Bytes() + std::string(5000, '\7'))).empty());
+  EXPECT_FALSE(RefusalOf(Show(GetParam().head.Bytes() + std::string(5000, '\7'))).empty());
 }
 
 constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
@@ -152,25 +161,23 @@ constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
 
 INSTANTIATE_TEST_SUITE_P(
     StoredBitmap, OddHead,
-    testing::Values(std::pair("NoWidth", BitmapHead{.width = 0}),
-                    std::pair("WidthBelowZero", BitmapHead{.width = -4}),
-                    std::pair("NoHeight", BitmapHead{.height = 0}),
-                    std::pair("TheLeastHeight", BitmapHead{.height = kLeast}),
-                    std::pair("TheMostOfBoth", BitmapHead{.width = kMost, .height = kMost}),
-                    std::pair("TheMostWidth", BitmapHead{.width = kMost, .height = 1, .bits = 1}),
-                    std::pair("TwoPlanes", BitmapHead{.planes = 2}),
-                    std::pair("NoBits", BitmapHead{.bits = 0}),
-                    std::pair("TwoBits", BitmapHead{.bits = 2}),
-                    std::pair("SixtyFourBits", BitmapHead{.bits = 64}),
-                    std::pair("UnknownCompression", BitmapHead{.compression = 4}),
-                    std::pair("MasksOf24Bits", BitmapHead{.bits = 24, .compression = 3}),
-                    std::pair("RunsOf24Bits", BitmapHead{.bits = 24, .compression = 1}),
-                    std::pair("RunsFromTheTop",
-                              BitmapHead{.height = -2, .bits = 8, .compression = 1}),
-                    std::pair("EqualMasks", BitmapHead{.bits = 16, .compression = 3}),
-                    std::pair("TooManyColours", BitmapHead{.bits = 8, .coloursUsed = 257}),
-                    std::pair("MoreColoursThanBytes", BitmapHead{.coloursUsed = 0xFFFFFFFF})),
-    [](const auto& info) { return info.param.first; });
+    testing::Values(
+        OddCase{"NoWidth", BitmapHead{.width = 0}},
+        OddCase{"WidthBelowZero", BitmapHead{.width = -4}},
+        OddCase{"NoHeight", BitmapHead{.height = 0}},
+        OddCase{"TheLeastHeight", BitmapHead{.height = kLeast}},
+        OddCase{"TheMostOfBoth", BitmapHead{.width = kMost, .height = kMost}},
+        OddCase{"TheMostWidth", BitmapHead{.width = kMost, .height = 1, .bits = 1}},
+        OddCase{"TwoPlanes", BitmapHead{.planes = 2}}, OddCase{"NoBits", BitmapHead{.bits = 0}},
+        OddCase{"TwoBits", BitmapHead{.bits = 2}}, OddCase{"SixtyFourBits", BitmapHead{.bits = 64}},
+        OddCase{"UnknownCompression", BitmapHead{.compression = 4}},
+        OddCase{"MasksOf24Bits", BitmapHead{.bits = 24, .compression = 3}},
+        OddCase{"RunsOf24Bits", BitmapHead{.bits = 24, .compression = 1}},
+        OddCase{"RunsFromTheTop", BitmapHead{.height = -2, .bits = 8, .compression = 1}},
+        OddCase{"EqualMasks", BitmapHead{.bits = 16, .compression = 3}},
+        OddCase{"TooManyColours", BitmapHead{.bits = 8, .coloursUsed = 257}},
+        OddCase{"MoreColoursThanBytes", BitmapHead{.coloursUsed = 0xFFFFFFFF}}),
+    [](const auto& info) { return info.param.name; });
 
 TEST(StoredBitmap, AnUnknownKindOfHeadIsRefused) {
   EXPECT_FALSE(RefusalOf(Show(Number(41, 4) + std::string(5000, '\1'))).empty());
