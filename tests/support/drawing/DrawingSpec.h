@@ -1,17 +1,16 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include "support/dxf/EntitySpec.h"
-#include "support/dxf/ObjectSpec.h"
-#include "support/dxf/Tags.h"
-#include "support/dxf/Tokens.h"
+#include "support/drawing/EntitySpec.h"
+#include "support/drawing/ObjectSpec.h"
+#include "support/drawing/Tags.h"
+#include "support/drawing/Tokens.h"
 
-namespace dxf {
-
-enum class Form { Ascii, Binary };
+namespace drawing {
 
 // Of model space's block record; a spec can't choose it for an object of its own.
 inline constexpr const char* kModelSpaceHandle = "1";
@@ -82,6 +81,9 @@ struct BlockSpec {
   std::string handle = {};
   std::vector<NamedObject> extension = {};
   std::vector<Tag> extendedData = {};
+  // Of DWG files: below AC1024 the record of a dynamic block is an anonymous one, and the name
+  // stands in the block's first entity and in extended data.
+  bool isDynamic = false;
 };
 
 BlockSpec XrefBlock(std::string name, std::string path, Xref xref = Xref::Attached);
@@ -142,6 +144,21 @@ struct SummarySpec {
   std::string comments = {};
   std::string lastSavedBy = {};
   std::string revisionNumber = {};
+  // Of DWG files, whose summary keeps a base of its own beside that of the settings.
+  std::string hyperlinkBase = {};
+};
+
+// A text about the program that wrote the drawing, under an id of the form
+// 00000000-0000-0000-0000-000000000000.
+struct AppInfoEntry {
+  std::string id;
+  std::string text;
+};
+
+struct AppInfoSpec {
+  // The mark that the list begins with.
+  std::string label = "AppInfoDataList";
+  std::vector<AppInfoEntry> entries = {};
 };
 
 struct CustomProperty {
@@ -162,18 +179,24 @@ struct SettingsSpec {
   std::string dimblk2 = {};
 };
 
+enum class PreviewKind { Bitmap, Metafile, Png };
+
+// A picture of the drawing.  A bitmap comes without its file header.
+struct PreviewSpec {
+  PreviewKind kind = PreviewKind::Bitmap;
+  std::string bytes;
+};
+
 struct HeaderVariable {
   std::string name;
   std::vector<Tag> values;
 };
 
 // A drawing to be made.  All texts are UTF-8.  What the chosen version has no place for (a summary
-// in AC1009, layouts below AC1015, pictures below AC1014) is left out of the file.
+// in AC1009, layouts below AC1015, pictures below AC1014) or a format has none for is left out of
+// the file.
 struct DrawingSpec {
   std::string version = "AC1032";
-  Form form = Form::Ascii;
-  // Of the text form.
-  std::string lineEnd = "\r\n";
   // Encodes the texts below AC1021.  Files of every version may tell it.
   std::string codePage = "ANSI_1252";
   bool statesCodePage = true;
@@ -181,11 +204,13 @@ struct DrawingSpec {
   bool hasHandles = true;
   // Whether records, entities and objects tell their owners.
   bool statesOwners = true;
-  bool hasByteOrderMark = false;
-  // Remarks at the head of the text form.
-  std::vector<std::string> remarks;
+
+  // Of DWG files: 0 to 255, or nothing for the one that files of the version mostly have.
+  std::optional<int> maintenance;
 
   SummarySpec summary;
+  // Of DWG files: written even if it holds nothing.
+  bool hasSummary = true;
   // At most ten below AC1018.
   std::vector<CustomProperty> customProperties;
   SettingsSpec settings;
@@ -216,8 +241,10 @@ struct DrawingSpec {
   // Behind the standard entries of the root dictionary.
   std::vector<NamedObject> rootEntries;
   std::vector<ImageSpec> images;
-  // A bitmap without its file header; empty for no preview.
-  std::string thumbnail;
+  // The program that wrote the drawing, told in DWG files of AC1018 and later.  No entries: told
+  // nothing.
+  AppInfoSpec appInfo;
+  std::vector<PreviewSpec> previews;
 };
 
-}  // namespace dxf
+}  // namespace drawing

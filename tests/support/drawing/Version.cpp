@@ -1,10 +1,10 @@
-#include "support/dxf/Version.h"
+#include "support/drawing/Version.h"
 
 #include <array>
 #include <stdexcept>
 #include <string>
 
-namespace dxf {
+namespace drawing {
 namespace {
 
 constexpr std::array<std::string_view, 9> kNames = {
@@ -20,4 +20,4 @@ Version VersionOf(std::string_view name) {
   throw std::invalid_argument("no such version: " + std::string(name));
 }
 
-}  // namespace dxf
+}  // namespace drawing

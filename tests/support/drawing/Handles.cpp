@@ -1,10 +1,10 @@
-#include "support/dxf/Handles.h"
+#include "support/drawing/Handles.h"
 
 #include <algorithm>
 #include <charconv>
 #include <stdexcept>
 
-namespace dxf {
+namespace drawing {
 namespace {
 
 constexpr int kBase = 16;
@@ -89,4 +89,4 @@ std::string Handles::Seed() const {
   return Written(std::max(next_, chosen_.empty() ? 0 : *chosen_.rbegin() + 1));
 }
 
-}  // namespace dxf
+}  // namespace drawing

@@ -1,8 +1,8 @@
-#include "support/dxf/ObjectSpec.h"
+#include "support/drawing/ObjectSpec.h"
 
-#include "support/dxf/Tokens.h"
+#include "support/drawing/Tokens.h"
 
-namespace dxf {
+namespace drawing {
 
 ObjectSpec Dictionary(std::vector<NamedObject> entries) {
   ObjectSpec object;
@@ -41,4 +41,4 @@ ObjectSpec ObjectAt(std::string handle) {
   return object;
 }
 
-}  // namespace dxf
+}  // namespace drawing

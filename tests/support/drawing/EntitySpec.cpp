@@ -1,8 +1,8 @@
-#include "support/dxf/EntitySpec.h"
+#include "support/drawing/EntitySpec.h"
 
-#include "support/dxf/Tokens.h"
+#include "support/drawing/Tokens.h"
 
-namespace dxf {
+namespace drawing {
 namespace {
 
 void AppendPoint(std::vector<Tag>& tags, int code, Point point) {
@@ -79,4 +79,4 @@ EntitySpec Insert(std::string block, std::vector<AttributeSpec> attributes, Plac
   return entity;
 }
 
-}  // namespace dxf
+}  // namespace drawing

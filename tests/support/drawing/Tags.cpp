@@ -1,8 +1,8 @@
-#include "support/dxf/Tags.h"
+#include "support/drawing/Tags.h"
 
 #include <stdexcept>
 
-namespace dxf {
+namespace drawing {
 namespace {
 
 struct CodeRange {
@@ -33,4 +33,4 @@ ValueKind KindOf(int code) {
   throw std::invalid_argument("no such group code: " + std::to_string(code));
 }
 
-}  // namespace dxf
+}  // namespace drawing

@@ -3,10 +3,10 @@
 #include <string>
 #include <vector>
 
-#include "support/dxf/ObjectSpec.h"
-#include "support/dxf/Tags.h"
+#include "support/drawing/ObjectSpec.h"
+#include "support/drawing/Tags.h"
 
-namespace dxf {
+namespace drawing {
 
 struct Point {
   double x = 0.0;
@@ -73,4 +73,4 @@ struct Placement {
 EntitySpec Insert(std::string block, std::vector<AttributeSpec> attributes = {},
                   Placement placement = {}, std::string layer = "0");
 
-}  // namespace dxf
+}  // namespace drawing

@@ -4,9 +4,9 @@
 #include <utility>
 #include <vector>
 
-#include "support/dxf/Tags.h"
+#include "support/drawing/Tags.h"
 
-namespace dxf {
+namespace drawing {
 
 struct NamedObject;
 
@@ -47,4 +47,4 @@ ObjectSpec Proxy(std::string proxiedClass);
 // An object that the spec or the maker writes elsewhere.
 ObjectSpec ObjectAt(std::string handle);
 
-}  // namespace dxf
+}  // namespace drawing

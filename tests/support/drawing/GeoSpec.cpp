@@ -1,8 +1,8 @@
-#include "support/dxf/GeoSpec.h"
+#include "support/drawing/GeoSpec.h"
 
-#include "support/dxf/DrawingSpec.h"
+#include "support/drawing/DrawingSpec.h"
 
-namespace dxf {
+namespace drawing {
 namespace {
 
 constexpr int kObjectVersion = 3;
@@ -56,4 +56,4 @@ ObjectSpec GeoObject(const GeoSpec& geo) {
   return CustomObject(kGeoType, tags);
 }
 
-}  // namespace dxf
+}  // namespace drawing

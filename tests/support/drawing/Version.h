@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-namespace dxf {
+namespace drawing {
 
 // The versions of the format by their own names, in order of age.
 enum class Version { AC1009, AC1012, AC1014, AC1015, AC1018, AC1021, AC1024, AC1027, AC1032 };
@@ -25,4 +25,4 @@ inline bool HasImages(Version version) { return version >= Version::AC1014; }
 // True for the versions that keep the summary in header variables.
 inline bool HasHeaderSummary(Version version) { return version >= Version::AC1018; }
 
-}  // namespace dxf
+}  // namespace drawing

@@ -6,7 +6,7 @@
 #include <utility>
 #include <variant>
 
-namespace dxf {
+namespace drawing {
 
 // What the value of a group code is, which decides how both forms of the file write it.
 enum class ValueKind { Text, Real, Short, Long, LongLong, Flag, Bytes };
@@ -34,4 +34,4 @@ struct Tag {
   std::variant<std::string, RawText, double, std::int64_t> value;
 };
 
-}  // namespace dxf
+}  // namespace drawing

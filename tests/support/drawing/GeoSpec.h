@@ -2,10 +2,10 @@
 
 #include <string>
 
-#include "support/dxf/ObjectSpec.h"
-#include "support/dxf/Tokens.h"
+#include "support/drawing/ObjectSpec.h"
+#include "support/drawing/Tokens.h"
 
-namespace dxf {
+namespace drawing {
 
 struct SpacePoint {
   double x = 0.0;
@@ -44,4 +44,4 @@ inline constexpr const char* kGeoType = "GEODATA";
 
 ObjectSpec GeoObject(const GeoSpec& geo);
 
-}  // namespace dxf
+}  // namespace drawing

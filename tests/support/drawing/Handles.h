@@ -4,9 +4,9 @@
 #include <set>
 #include <string>
 
-#include "support/dxf/DrawingSpec.h"
+#include "support/drawing/DrawingSpec.h"
 
-namespace dxf {
+namespace drawing {
 
 // Gives out handles, none twice and none that the spec chose for an object of its own.
 class Handles {
@@ -26,4 +26,4 @@ class Handles {
   std::uint64_t next_ = 1;
 };
 
-}  // namespace dxf
+}  // namespace drawing
