@@ -144,7 +144,7 @@ struct SummarySpec {
   std::string comments = {};
   std::string lastSavedBy = {};
   std::string revisionNumber = {};
-  // Of DWG files, whose summary keeps a base of its own beside that of the settings.
+  // Of DWG files, whose summary has a base beside that of the settings; empty for the same one.
   std::string hyperlinkBase = {};
 };
 

@@ -18,7 +18,8 @@ class PageEncoder {
 
   ~PageEncoder();
 
-  // What the code page lacks becomes \U+XXXX, one escape for each UTF-16 unit.  Throws std::invalid_argument if `utf8` isn't UTF-8.
+  // What the code page lacks becomes \U+XXXX, one escape for each UTF-16 unit.  Throws
+  // std::invalid_argument if `utf8` isn't UTF-8.
   std::string Encode(std::string_view utf8) const;
 
  private:

@@ -49,7 +49,7 @@ void PutColumns(Fields& fields, const AttributeSpec& attribute) {
 }
 
 // The text of many lines that an attribute of AC1032 holds within it.
-void PutEmbeddedText(Drawing& drawing, Fields& fields, const AttributeSpec& attribute) {
+void PutEmbeddedText(Fields& fields, const AttributeSpec& attribute) {
   fields.Point3(attribute.at.x, attribute.at.y);
   fields.Point3(0.0, 0.0, 1.0);
   fields.Point3(1.0, 0.0);
@@ -67,7 +67,6 @@ void PutEmbeddedText(Drawing& drawing, Fields& fields, const AttributeSpec& attr
   fields.BL(0);
   PutColumns(fields, attribute);
   fields.BS(0);
-  (void)drawing;
 }
 
 void Write(Drawing& drawing, Handle handle, const AttributeSpec& attribute,
@@ -91,7 +90,7 @@ void Write(Drawing& drawing, Handle handle, const AttributeSpec& attribute,
     EntityPlace within;
     within.isPart = true;
     BeginEntity(drawing, fields, entity, within, {});
-    PutEmbeddedText(drawing, fields, attribute);
+    PutEmbeddedText(fields, attribute);
     fields.H(Link::HardPointer, style);
     fields.H(Link::HardPointer, drawing.ApplicationHandle(drawing::kApplication));
   }

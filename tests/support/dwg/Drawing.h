@@ -205,5 +205,7 @@ std::vector<ApplicationData> DataOf(const Drawing& drawing, const std::vector<Ta
 
 // The record that holds the summary below AC1018.
 ObjectSpec SummaryRecord(const DrawingSpec& spec);
+// The base of addresses that the summary tells.
+const std::string& SummaryBase(const DrawingSpec& spec);
 
 }  // namespace dwg

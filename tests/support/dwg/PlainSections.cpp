@@ -60,7 +60,7 @@ std::string SummarySection(const Drawing& drawing) {
   std::string bytes;
   for (const std::string* text :
        {&summary.title, &summary.subject, &summary.author, &summary.keywords, &summary.comments,
-        &summary.lastSavedBy, &summary.revisionNumber, &summary.hyperlinkBase}) {
+        &summary.lastSavedBy, &summary.revisionNumber, &SummaryBase(drawing.spec)}) {
     bytes += SummaryText(drawing, *text);
   }
   for (const Moment& moment : {kEditingTime, kCreated, kUpdated}) AppendTime(bytes, moment);

@@ -15,6 +15,11 @@ constexpr const char* kNameEnd = "=";
 
 }  // namespace
 
+const std::string& SummaryBase(const DrawingSpec& spec) {
+  const std::string& own = spec.summary.hyperlinkBase;
+  return own.empty() ? spec.settings.hyperlinkBase : own;
+}
+
 ObjectSpec SummaryRecord(const DrawingSpec& spec) {
   if (spec.customProperties.size() > kMostProperties) {
     throw std::invalid_argument("the summary record has room for ten custom properties");
@@ -32,7 +37,7 @@ ObjectSpec SummaryRecord(const DrawingSpec& spec) {
     tags.emplace_back(kFirstProperty + static_cast<int>(i), entry);
   }
   tags.insert(tags.end(), {Tag(40, kEditingTime.Days()), Tag(41, kCreated.Days()),
-                           Tag(42, kUpdated.Days()), Tag(1, summary.hyperlinkBase), Tag(90, 0)});
+                           Tag(42, kUpdated.Days()), Tag(1, SummaryBase(spec)), Tag(90, 0)});
   return drawing::Xrecord(tags);
 }
 
