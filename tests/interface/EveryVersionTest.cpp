@@ -6,6 +6,7 @@
 #include <tuple>
 
 #include "support/PublicRead.h"
+#include "support/dwg/DwgMaker.h"
 #include "support/dxf/DxfMaker.h"
 
 namespace {
@@ -18,15 +19,40 @@ using zdx_test::Reading;
 
 struct Writing {
   const char* name;
-  dxf::Form form;
-  const char* lineEnd;
+  const wchar_t* format;
+  std::string (*make)(const drawing::DrawingSpec& spec);
 };
 
-constexpr Writing kWritings[] = {
-    {"TextWithCrLf", dxf::Form::Ascii, "\r\n"},
-    {"TextWithLf", dxf::Form::Ascii, "\n"},
-    {"TextWithCr", dxf::Form::Ascii, "\r"},
-    {"Binary", dxf::Form::Binary, ""},
+template <char... kLineEnd>
+std::string MakeText(const drawing::DrawingSpec& spec) {
+  return dxf::Make(spec, {.form = dxf::Form::Ascii, .lineEnd = {kLineEnd...}});
+}
+
+std::string MakeBinary(const drawing::DrawingSpec& spec) {
+  return dxf::Make(spec, {.form = dxf::Form::Binary});
+}
+
+std::string MakeDwg(const drawing::DrawingSpec& spec) { return dwg::Make(spec); }
+
+std::string MakeDwgOfManyPages(const drawing::DrawingSpec& spec) {
+  return dwg::Make(spec, {.objectPageSize = 0x400, .mapPageSize = 64});
+}
+
+std::string MakeDwgWithoutRepeats(const drawing::DrawingSpec& spec) {
+  return dwg::Make(spec, {.squeeze = dwg::Squeeze::LiteralsOnly});
+}
+
+constexpr Writing kDxfWritings[] = {
+    {"TextWithCrLf", L"DXF (text)", MakeText<'\r', '\n'>},
+    {"TextWithLf", L"DXF (text)", MakeText<'\n'>},
+    {"TextWithCr", L"DXF (text)", MakeText<'\r'>},
+    {"Binary", L"DXF (binary)", MakeBinary},
+};
+
+constexpr Writing kDwgWritings[] = {
+    {"Dwg", L"DWG", MakeDwg},
+    {"DwgOfManyPages", L"DWG", MakeDwgOfManyPages},
+    {"DwgWithoutRepeats", L"DWG", MakeDwgWithoutRepeats},
 };
 
 drawing::DrawingSpec Site() {
@@ -49,18 +75,34 @@ drawing::DrawingSpec Site() {
   return spec;
 }
 
+// The names of this test in capitals.
+std::string Capitals(const std::string& name) {
+  if (name == "Стены") return "СТЕНЫ";
+  if (name == "Лист 2") return "ЛИСТ 2";
+  std::string capitals = name;
+  for (char& c : capitals) {
+    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+  }
+  return capitals;
+}
+
 class EveryVersion : public testing::TestWithParam<std::tuple<const char*, Writing>> {
  protected:
   EveryVersion() {
     drawing::DrawingSpec spec = Site();
     spec.version = version();
-    const Writing& writing = std::get<1>(GetParam());
-    reading =
-        zdx_test::ReadBytes(dxf::Make(spec, {.form = writing.form, .lineEnd = writing.lineEnd}));
+    reading = zdx_test::ReadBytes(writing().make(spec), isDwg() ? ".dwg" : ".dxf");
   }
 
   std::string version() const { return std::get<0>(GetParam()); }
-  bool isText() const { return std::get<1>(GetParam()).form == dxf::Form::Ascii; }
+  const Writing& writing() const { return std::get<1>(GetParam()); }
+  bool isDwg() const { return std::wstring(L"DWG") == writing().format; }
+  // Names as the version stores them: the oldest DWG files have them in capitals.
+  std::vector<std::string> Names(std::vector<std::string> names) const {
+    if (!isDwg() || version() != "AC1014") return names;
+    for (std::string& name : names) name = Capitals(name);
+    return names;
+  }
   // What a setting is, given the first version that holds it.
   std::vector<std::string> Since(const std::string& first, const std::string& value) const {
     return version() < first ? std::vector<std::string>{} : std::vector<std::string>{value};
@@ -75,7 +117,7 @@ TEST_P(EveryVersion, OpensWithoutAWarning) {
 }
 
 TEST_P(EveryVersion, TellsItsFormatAndVersion) {
-  EXPECT_EQ(reading.diagnostics.format, isText() ? L"DXF (text)" : L"DXF (binary)");
+  EXPECT_EQ(reading.diagnostics.format, writing().format);
   EXPECT_EQ(std::string(reading.diagnostics.version.begin(), reading.diagnostics.version.end()),
             version());
 }
@@ -155,14 +197,20 @@ TEST_P(EveryVersion, IsAPlainDrawing) {
   EXPECT_THAT(reading.Texts(L"DWG Type"), ElementsAre("Zent"));
 }
 
+std::string TestName(const testing::TestParamInfo<EveryVersion::ParamType>& info) {
+  return std::string(std::get<0>(info.param)) + std::get<1>(info.param).name;
+}
+
 INSTANTIATE_TEST_SUITE_P(Dxf, EveryVersion,
                          testing::Combine(testing::Values("AC1009", "AC1012", "AC1014", "AC1015",
                                                           "AC1018", "AC1021", "AC1024", "AC1027",
                                                           "AC1032"),
-                                          testing::ValuesIn(kWritings)),
-                         [](const auto& info) {
-                           return std::string(std::get<0>(info.param)) +
-                                  std::get<1>(info.param).name;
-                         });
+                                          testing::ValuesIn(kDxfWritings)),
+                         TestName);
+INSTANTIATE_TEST_SUITE_P(Dwg, EveryVersion,
+                         testing::Combine(testing::Values("AC1014", "AC1015", "AC1018", "AC1021",
+                                                          "AC1024", "AC1027", "AC1032"),
+                                          testing::ValuesIn(kDwgWritings)),
+                         TestName);
 
 }  // namespace

@@ -86,8 +86,8 @@ Reading ReadFile(const std::wstring& path, FilePropertyMgr::FilePropertiesSet se
   return reading;
 }
 
-Reading ReadBytes(std::string_view bytes) {
-  const std::wstring path = WriteFile(bytes);
+Reading ReadBytes(std::string_view bytes, const std::string& suffix) {
+  const std::wstring path = WriteFile(bytes, suffix);
   Reading reading = ReadFile(path);
   std::filesystem::remove(ZDXEngine::BytesFromWide(path));
   return reading;

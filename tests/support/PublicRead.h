@@ -35,6 +35,6 @@ struct Reading {
 Reading ReadFile(const std::wstring& path, ZDXEngine::FilePropertyMgr::FilePropertiesSet selection =
                                                ZDXEngine::FilePropertyMgr::AllProperties);
 // Writes `bytes` to a file and reads it.
-Reading ReadBytes(std::string_view bytes);
+Reading ReadBytes(std::string_view bytes, const std::string& suffix = ".dxf");
 
 }  // namespace zdx_test
