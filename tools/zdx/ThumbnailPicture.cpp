@@ -39,7 +39,7 @@ std::uint32_t NumberAt(Bytes bytes, std::size_t at, std::size_t size) {
 // The bitmap in the one record that has one; empty if there is none.
 Bytes FindBitmap(Bytes metafile) {
   if (metafile.size() < kMetafileHeaderSize || NumberAt(metafile, 0, 2) != 1 ||
-      NumberAt(metafile, 2, 2) * 2 != kMetafileHeaderSize ||
+      NumberAt(metafile, 2, 2) != kMetafileHeaderSize / 2 ||
       std::uint64_t{NumberAt(metafile, kMetafileWordsAt, 4)} * 2 != metafile.size()) {
     return {};
   }

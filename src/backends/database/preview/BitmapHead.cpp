@@ -13,7 +13,7 @@ using Packing = BitmapHead::Packing;
 
 constexpr std::size_t kOldHeadSize = 4 + 2 + 2 + 2 + 2;
 constexpr std::size_t kHeadSize = 4 + 4 + 4 + 2 + 2 + 4 + 4 + 8 + 4 + 4;
-constexpr std::size_t kMasksSize = 3 * 4;
+constexpr std::size_t kMasksSize = 4 + 4 + 4;
 // What the longer heads have: masks, masks and opacity, colour spaces of two kinds.
 constexpr std::array<std::size_t, 4> kLongHeadSizes = {52, 56, 108, 124};
 

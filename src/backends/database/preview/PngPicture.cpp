@@ -69,7 +69,7 @@ class Image {
 
   Showing ShowWithTable() {
     image_.format = PNG_FORMAT_BGRA_COLORMAP;
-    std::array<std::uint8_t, 256 * 4> table = {};
+    std::array<std::uint8_t, std::size_t{256}* 4> table = {};
     Dib pixels(Head(8, 0), {});
     if (!Read(pixels.rows().data(), -RowSizeOf(8), table.data())) return kDamaged;
     std::string colours;

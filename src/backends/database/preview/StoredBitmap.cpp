@@ -48,7 +48,7 @@ bool AreFitMasks(std::string_view masks, unsigned bits) {
 
 // What stands between head and rows, with four bytes a colour.
 std::string ColoursOf(std::string_view bytes, const BitmapHead& head) {
-  if (head.packing == Packing::kMasks) return std::string(bytes.substr(head.masksAt, 3 * 4));
+  if (head.packing == Packing::kMasks) return std::string(bytes.substr(head.masksAt, 4 + 4 + 4));
   std::string colours;
   // A table of more than 8 bits only advises poorer screens.
   if (head.bits > 8) return colours;
