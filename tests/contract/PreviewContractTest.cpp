@@ -34,8 +34,8 @@ class Preview : public testing::Test {
 
   // Puts a drawing with that picture at the path.
   void Write(const std::string& picture) {
-    dxf::DrawingSpec spec;
-    spec.thumbnail = picture;
+    drawing::DrawingSpec spec;
+    spec.previews = {{drawing::PreviewKind::Bitmap, picture}};
     std::ofstream(path_, std::ios::binary) << dxf::Make(spec);
   }
 

@@ -6,6 +6,7 @@
 #include <tuple>
 
 #include "support/PublicRead.h"
+#include "support/dwg/DwgMaker.h"
 #include "support/dxf/DxfMaker.h"
 #include "support/pictures/Pictures.h"
 
@@ -38,19 +39,35 @@ std::string LargeBitmap() {
   return bytes;
 }
 
-class Thumbnail : public testing::TestWithParam<std::tuple<const char*, dxf::Form>> {
+using Kind = drawing::PreviewKind;
+
+struct Writing {
+  const char* name;
+  const char* suffix;
+  std::string (*make)(const drawing::DrawingSpec& spec);
+};
+
+constexpr Writing kText = {"Text", ".dxf",
+                           [](const drawing::DrawingSpec& spec) { return dxf::Make(spec); }};
+constexpr Writing kBinary = {"Binary", ".dxf", [](const drawing::DrawingSpec& spec) {
+                               return dxf::Make(spec, {.form = dxf::Form::Binary});
+                             }};
+constexpr Writing kDwg = {"Dwg", ".dwg",
+                          [](const drawing::DrawingSpec& spec) { return dwg::Make(spec); }};
+
+class Thumbnail : public testing::TestWithParam<std::tuple<const char*, Writing>> {
  protected:
-  Reading Read(const std::string& picture) const {
-    dxf::DrawingSpec spec;
+  Reading Read(std::vector<drawing::PreviewSpec> previews) const {
+    drawing::DrawingSpec spec;
     spec.version = std::get<0>(GetParam());
-    spec.form = std::get<1>(GetParam());
-    spec.thumbnail = picture;
-    return zdx_test::ReadBytes(dxf::Make(spec));
+    spec.previews = std::move(previews);
+    const Writing& writing = std::get<1>(GetParam());
+    return zdx_test::ReadBytes(writing.make(spec), writing.suffix);
   }
 };
 
 TEST_P(Thumbnail, DrawsThePictureOfTheDrawing) {
-  const Reading reading = Read(LargeBitmap());
+  const Reading reading = Read({{Kind::Bitmap, LargeBitmap()}});
   const std::vector<std::string> found = Thumbnails(reading);
   ASSERT_EQ(found.size(), 1u);
   EXPECT_EQ(found[0].size(), 12u + 15086u);
@@ -60,34 +77,59 @@ TEST_P(Thumbnail, DrawsThePictureOfTheDrawing) {
 }
 
 TEST_P(Thumbnail, IsNotThereWithoutAPicture) {
-  const Reading reading = Read("");
+  const Reading reading = Read({});
   EXPECT_THAT(Thumbnails(reading), testing::IsEmpty());
   EXPECT_EQ(reading.diagnostics.warningCount, 0u);
 }
 
+std::string TestName(const testing::TestParamInfo<Thumbnail::ParamType>& info) {
+  return std::string(std::get<0>(info.param)) + std::get<1>(info.param).name;
+}
+
 INSTANTIATE_TEST_SUITE_P(Dxf, Thumbnail,
                          testing::Combine(testing::Values("AC1009", "AC1015", "AC1018", "AC1032"),
-                                          testing::Values(dxf::Form::Ascii, dxf::Form::Binary)),
-                         [](const auto& info) {
-                           return std::string(std::get<0>(info.param)) +
-                                  (std::get<1>(info.param) == dxf::Form::Ascii ? "Text" : "Binary");
-                         });
+                                          testing::Values(kText, kBinary)),
+                         TestName);
+INSTANTIATE_TEST_SUITE_P(Dwg, Thumbnail,
+                         testing::Combine(testing::Values("AC1014", "AC1015", "AC1018", "AC1021",
+                                                          "AC1024", "AC1027", "AC1032"),
+                                          testing::Values(kDwg)),
+                         TestName);
+
+// What is told of a drawing of the newest version with one picture.
+std::vector<std::string> ThumbnailsOf(const Writing& writing, Kind kind, std::string picture) {
+  drawing::DrawingSpec spec;
+  spec.previews = {{kind, std::move(picture)}};
+  return Thumbnails(zdx_test::ReadBytes(writing.make(spec), writing.suffix));
+}
 
 TEST(ThumbnailOfAPicture, WithATableHasItsPaletteToo) {
-  dxf::DrawingSpec spec;
   const pictures::BitmapHead head{.width = 100, .height = 50, .bits = 8};
-  spec.thumbnail = head.Bytes() + std::string(1024, '\7') + std::string(5000, '\1');
-  const std::vector<std::string> found = Thumbnails(zdx_test::ReadBytes(dxf::Make(spec)));
-  ASSERT_EQ(found.size(), 1u);
-  EXPECT_EQ(found[0].size(), 12u + 7158u);
+  const std::string picture =
+      head.Bytes() + std::string(1024, '\7') + std::string(5000, '\1');
+  for (const Writing& writing : {kText, kDwg}) {
+    const std::vector<std::string> found = ThumbnailsOf(writing, Kind::Bitmap, picture);
+    ASSERT_EQ(found.size(), 1u) << writing.name;
+    EXPECT_EQ(found[0].size(), 12u + 7158u) << writing.name;
+  }
 }
 
 TEST(ThumbnailOfAPicture, InPngIsDrawnToo) {
-  dxf::DrawingSpec spec;
-  spec.thumbnail = pictures::Png({.width = 2, .height = 1, .rows = "\1\2\3\4\5\6"});
-  const std::vector<std::string> found = Thumbnails(zdx_test::ReadBytes(dxf::Make(spec)));
-  ASSERT_EQ(found.size(), 1u);
-  EXPECT_EQ(found[0].substr(12 + 18 + 22 + 40, 8), "\3\2\1\6\5\4\0\0"s);
+  const std::string png = pictures::Png({.width = 2, .height = 1, .rows = "\1\2\3\4\5\6"});
+  // A DXF file doesn't tell the kind.
+  for (const auto& [writing, kind] : {std::pair(kText, Kind::Bitmap), std::pair(kDwg, Kind::Png)}) {
+    const std::vector<std::string> found = ThumbnailsOf(writing, kind, png);
+    ASSERT_EQ(found.size(), 1u) << writing.name;
+    EXPECT_EQ(found[0].substr(12 + 18 + 22 + 40, 8), "\3\2\1\6\5\4\0\0"s) << writing.name;
+  }
+}
+
+TEST(ThumbnailOfAPicture, IsTheFirstThatCanBeShown) {
+  drawing::DrawingSpec spec;
+  spec.previews = {{Kind::Metafile, "no metafile"}, {Kind::Bitmap, LargeBitmap()}};
+  const Reading reading = zdx_test::ReadBytes(dwg::Make(spec), ".dwg");
+  EXPECT_EQ(Thumbnails(reading).size(), 1u);
+  EXPECT_EQ(reading.diagnostics.warningCount, 1u);
 }
 
 }  // namespace

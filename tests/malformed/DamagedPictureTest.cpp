@@ -14,11 +14,9 @@ using pictures::Number;
 using zdx_test::Reading;
 
 std::string WithPicture(const std::string& picture, dxf::Form form = dxf::Form::Ascii) {
-  dxf::DrawingSpec spec = damage::Sound();
-  spec.form = form;
-  spec.lineEnd = "\n";
-  spec.thumbnail = picture;
-  return dxf::Make(spec);
+  drawing::DrawingSpec spec = damage::Sound();
+  spec.previews = {{drawing::PreviewKind::Bitmap, picture}};
+  return dxf::Make(spec, {.form = form, .lineEnd = "\n"});
 }
 
 bool HasPicture(const Reading& reading) {
