@@ -1,12 +1,48 @@
 #include "maker/Drawings.h"
 
-namespace examples {
+#include "maker/Preview.h"
+#include "support/dwg/DwgMaker.h"
+#include "support/dxf/DxfMaker.h"
 
-std::vector<ExampleDrawing> AllDrawings() {
-  return {{"site-plan.dxf", SitePlan()},
-          {"grading.dxf", Grading(), {.lineEnd = "\n"}},
-          {"survey-r2000.dxf", Survey()},
-          {"legacy-r12.dxf", LegacyPlan(), {.form = dxf::Form::Binary}}};
+namespace examples {
+namespace {
+
+// What programs tell of themselves, as one of that name would.
+drawing::AppInfoSpec Program() {
+  return {.entries = {{"F348D81B-0ACC-4D3E-BAB1-CF81F7B450B3", "7.2.15.0"},
+                      {"F025D0B8-D7A1-4993-B2FA-9BF9286FA1FD",
+                       "Saved by Example Drafter, a program that was made up."},
+                      {"5196E0E8-CEC5-44B2-A8BF-F6E83B859D44",
+                       "\"<ProductInformation name =\\\"Example Drafter\\\" "
+                       "build_version=\\\"7.2.15.0(x64)\\\" registry_version=\\\"7.2\\\" "
+                       "install_id_string=\\\"EXAMPLE-DRAFTER\\\" "
+                       "registry_localeID=\\\"1033\\\">\""}}};
+}
+
+// The drawing as a DWG file of `version`, with the preview that such files have.
+std::string Dwg(drawing::DrawingSpec spec, const char* version) {
+  spec.version = version;
+  const bool hasPng = spec.version >= "AC1027";
+  spec.previews = {hasPng ? drawing::PreviewSpec{drawing::PreviewKind::Png, PreviewPng()}
+                          : drawing::PreviewSpec{drawing::PreviewKind::Bitmap, PreviewBitmap()}};
+  spec.appInfo = Program();
+  return dwg::Make(spec);
+}
+
+}  // namespace
+
+std::vector<ExampleFile> AllFiles() {
+  return {{"site-plan.dxf", dxf::Make(SitePlan())},
+          {"grading.dxf", dxf::Make(Grading(), {.lineEnd = "\n"})},
+          {"survey-r2000.dxf", dxf::Make(Survey())},
+          {"legacy-r12.dxf", dxf::Make(LegacyPlan(), {.form = dxf::Form::Binary})},
+          {"site-plan.dwg", Dwg(SitePlan(), "AC1032")},
+          {"site-plan-2013.dwg", Dwg(SitePlan(), "AC1027")},
+          {"site-plan-2010.dwg", Dwg(SitePlan(), "AC1024")},
+          {"site-plan-2007.dwg", Dwg(SitePlan(), "AC1021")},
+          {"grading-2004.dwg", Dwg(Grading(), "AC1018")},
+          {"survey-r2000.dwg", Dwg(Survey(), "AC1015")},
+          {"legacy-r14.dwg", Dwg(LegacyPlan(), "AC1014")}};
 }
 
 }  // namespace examples

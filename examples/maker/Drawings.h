@@ -4,15 +4,13 @@
 #include <vector>
 
 #include "support/drawing/DrawingSpec.h"
-#include "support/dxf/DxfMaker.h"
 
 namespace examples {
 
-// A drawing of this folder, as the maker makes it.
-struct ExampleDrawing {
+// A drawing of this folder, as the makers make it.
+struct ExampleFile {
   std::string fileName;
-  drawing::DrawingSpec spec;
-  dxf::Writing writing = {};
+  std::string bytes;
 };
 
 drawing::DrawingSpec SitePlan();
@@ -20,6 +18,6 @@ drawing::DrawingSpec Grading();
 drawing::DrawingSpec Survey();
 drawing::DrawingSpec LegacyPlan();
 
-std::vector<ExampleDrawing> AllDrawings();
+std::vector<ExampleFile> AllFiles();
 
 }  // namespace examples

@@ -6,7 +6,6 @@
 
 #include "maker/Drawings.h"
 #include "maker/Photo.h"
-#include "support/dxf/DxfMaker.h"
 
 namespace examples {
 namespace {
@@ -19,10 +18,10 @@ std::string Contents(const std::filesystem::path& path) {
 }
 
 TEST(Examples, TheFilesOfTheFolderAreWhatTheMakerMakes) {
-  for (const ExampleDrawing& drawing : AllDrawings()) {
+  for (const ExampleFile& file : AllFiles()) {
     // Not EXPECT_EQ: the files would fill the screen.
-    EXPECT_TRUE(Contents(Folder() / drawing.fileName) == dxf::Make(drawing.spec, drawing.writing))
-        << drawing.fileName << " differs; run make_examples";
+    EXPECT_TRUE(Contents(Folder() / file.fileName) == file.bytes)
+        << file.fileName << " differs; run make_examples";
   }
 }
 

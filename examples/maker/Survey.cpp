@@ -2,6 +2,7 @@
 
 #include "maker/Drawings.h"
 #include "maker/Ground.h"
+#include "maker/Preview.h"
 
 namespace examples {
 namespace {
@@ -13,33 +14,6 @@ constexpr const char* kPoints = "Точки";
 constexpr const char* kHeights = "Отметки";
 constexpr const char* kFence = "Забор";
 constexpr const char* kPegs = "Колышки ∆";
-
-void AppendNumber(std::string& bytes, unsigned number, int size) {
-  for (int i = 0; i < size; ++i) bytes += static_cast<char>(number >> (8 * i) & 0xFF);
-}
-
-bool IsOnPlot(int x, int y) { return x > 5 && x < 42 && y > 4 && y < 26; }
-
-// A bitmap without its file header: the plot on grass.
-std::string Preview() {
-  constexpr int kWidth = 48;
-  constexpr int kHeight = 30;
-  constexpr unsigned kHeadSize = 40;
-  constexpr unsigned kBitsPerPixel = 24;
-  std::string bytes;
-  AppendNumber(bytes, kHeadSize, 4);
-  AppendNumber(bytes, kWidth, 4);
-  AppendNumber(bytes, kHeight, 4);
-  AppendNumber(bytes, 1, 2);
-  AppendNumber(bytes, kBitsPerPixel, 2);
-  AppendNumber(bytes, 0, 4);
-  AppendNumber(bytes, kWidth * kHeight * kBitsPerPixel / 8, 4);
-  for (int i = 0; i < 4; ++i) AppendNumber(bytes, 0, 4);
-  for (int y = 0; y < kHeight; ++y) {
-    for (int x = 0; x < kWidth; ++x) AppendNumber(bytes, IsOnPlot(x, y) ? 0xE8E0D0 : 0x4C8C4C, 3);
-  }
-  return bytes;
-}
 
 void AddPoints(std::vector<drawing::EntitySpec>& entities) {
   Scatter scatter(3);
@@ -92,7 +66,7 @@ drawing::DrawingSpec Survey() {
   AddFence(spec.entities);
   spec.views = {"Участок"};
   spec.layouts = {"Лист1"};
-  spec.previews = {{drawing::PreviewKind::Bitmap, Preview()}};
+  spec.previews = {{drawing::PreviewKind::Bitmap, PreviewBitmap()}};
   return spec;
 }
 

@@ -6,7 +6,6 @@
 
 #include "maker/Drawings.h"
 #include "maker/Photo.h"
-#include "support/dxf/DxfMaker.h"
 
 namespace {
 
@@ -25,9 +24,8 @@ int main(int argc, char** argv) {
   }
   const std::filesystem::path folder = argv[1];
   bool worked = examples::WritePhoto((folder / examples::kPhotoName).string());
-  for (const examples::ExampleDrawing& drawing : examples::AllDrawings()) {
-    worked =
-        WriteFile(folder / drawing.fileName, dxf::Make(drawing.spec, drawing.writing)) && worked;
+  for (const examples::ExampleFile& file : examples::AllFiles()) {
+    worked = WriteFile(folder / file.fileName, file.bytes) && worked;
   }
   if (!worked) std::cerr << "make_examples: can't write to " << folder << '\n';
   return worked ? 0 : 1;

@@ -223,7 +223,7 @@ TEST_P(PagedDwg, TheHeadLeadsToTheSummaryAndTheProgram) {
 }
 
 TEST_P(PagedDwg, SmallPagesAreMore) {
-  const std::string small = Make(Drawn(GetParam()), {.objectPageSize = 0x400});
+  const std::string small = Make(Drawn(GetParam()), {.objectPageSize = 0x100});
   EXPECT_GT(Number(HiddenHeader(small), 0x40, 4), Number(header, 0x40, 4) + 3);
 }
 
