@@ -105,8 +105,7 @@ std::vector<std::string> ThumbnailsOf(const Writing& writing, Kind kind, std::st
 
 TEST(ThumbnailOfAPicture, WithATableHasItsPaletteToo) {
   const pictures::BitmapHead head{.width = 100, .height = 50, .bits = 8};
-  const std::string picture =
-      head.Bytes() + std::string(1024, '\7') + std::string(5000, '\1');
+  const std::string picture = head.Bytes() + std::string(1024, '\7') + std::string(5000, '\1');
   for (const Writing& writing : {kText, kDwg}) {
     const std::vector<std::string> found = ThumbnailsOf(writing, Kind::Bitmap, picture);
     ASSERT_EQ(found.size(), 1u) << writing.name;

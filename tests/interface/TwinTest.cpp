@@ -34,13 +34,14 @@ std::set<std::string> NamedObjectsInTruth(const std::string& name) {
   return {names.begin(), names.end()};
 }
 
-// Everything that the file tells, but for the picture, which these DXF files don't carry.
-std::vector<std::string> Told(const std::string& name) {
-  const auto path = zdx_test::SampleFolder() / name;
+// Everything that the file tells, but for what only one of the two may carry: the picture, and the
+// program that wrote the drawing.
+std::vector<std::string> Told(const std::filesystem::path& path) {
   const auto reading = zdx_test::ReadFile(ZDXEngine::WideFromUtf8(path.string()));
   std::vector<std::string> told;
   for (const ZDXEngine::_PropData& record : reading.properties) {
     if (record.formatId == zdx_test::kSummary && record.name == L"17") continue;
+    if (record.name.starts_with(L"DWG Creator ")) continue;
     std::string line = ZDXEngine::Utf8FromWide(record.formatId + L" " + record.name + L": ");
     if (record.value.vt == VT_BSTR) line += ZDXEngine::Utf8FromWide(record.value.bstrVal);
     told.push_back(line);
@@ -51,8 +52,8 @@ std::vector<std::string> Told(const std::string& name) {
 class RealTwins : public testing::TestWithParam<std::string> {};
 
 TEST_P(RealTwins, TellTheSame) {
-  std::vector<std::string> dwg = Told(GetParam() + ".dwg");
-  std::vector<std::string> dxf = Told(GetParam() + ".dxf");
+  std::vector<std::string> dwg = Told(zdx_test::SampleFolder() / (GetParam() + ".dwg"));
+  std::vector<std::string> dxf = Told(zdx_test::SampleFolder() / (GetParam() + ".dxf"));
   // By their truths one root dictionary may have an entry that the other file lacks.
   const std::set<std::string> ofDwg = NamedObjectsInTruth(GetParam() + ".dwg");
   const std::set<std::string> ofDxf = NamedObjectsInTruth(GetParam() + ".dxf");
@@ -71,5 +72,14 @@ TEST_P(RealTwins, TellTheSame) {
 GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(RealTwins);
 INSTANTIATE_TEST_SUITE_P(Samples, RealTwins, testing::ValuesIn(RealPairs()),
                          [](const auto& info) { return zdx_test::SampleTestName(info.param); });
+
+TEST(ExampleTwins, TellTheSame) {
+  const std::filesystem::path examples = std::filesystem::path(ZDX_SOURCE_DIR) / "examples";
+  for (const std::string name : {"site-plan", "survey-r2000"}) {
+    const std::vector<std::string> dwg = Told(examples / (name + ".dwg"));
+    EXPECT_GT(dwg.size(), 40u);
+    EXPECT_EQ(dwg, Told(examples / (name + ".dxf"))) << name;
+  }
+}
 
 }  // namespace
