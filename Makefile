@@ -29,10 +29,13 @@ demo:
 	@cmake -S . -B build/demo -DCMAKE_BUILD_TYPE=Release -DZDX_TESTS=OFF > build/demo.log 2>&1 || \
 	  { cat build/demo.log; exit 1; }
 	@cmake --build build/demo -j$(JOBS) --target zdx
-	@for drawing in site-plan grading survey-r2000 legacy-r12; do \
-	  echo; echo "\$$ zdx info examples/$$drawing.dxf"; \
-	  build/demo/bin/zdx info examples/$$drawing.dxf || exit 1; \
+	@for drawing in site-plan.dwg grading.dxf survey-r2000.dwg legacy-r14.dwg legacy-r12.dxf; do \
+	  echo; echo "\$$ zdx info examples/$$drawing"; \
+	  build/demo/bin/zdx info examples/$$drawing || exit 1; \
 	done
+	@echo; echo '$$ zdx thumb examples/site-plan.dwg -O build/demo/site-plan.png'
+	@build/demo/bin/zdx thumb examples/site-plan.dwg -O build/demo/site-plan.png
+	@echo 'The preview picture is in build/demo/site-plan.png.'
 
 # The quick check first; what CTest says comes last.
 test:

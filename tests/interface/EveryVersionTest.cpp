@@ -76,10 +76,11 @@ drawing::DrawingSpec Site() {
   return spec;
 }
 
-// As the maker writes them: letters beyond ASCII stay as they are.
+// As the maker writes them: a blank is an underscore, and letters beyond ASCII stay as they are.
 std::string Capitals(std::string name) {
   for (char& c : name) {
     if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+    if (c == ' ') c = '_';
   }
   return name;
 }

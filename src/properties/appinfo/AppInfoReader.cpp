@@ -4,10 +4,10 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "base/LittleEndian.h"
 #include "properties/appinfo/BufferedFileReader.h"
 #include "properties/appinfo/DwgHeader.h"
 #include "properties/appinfo/Literals.h"
-#include "properties/appinfo/LittleEndian.h"
 
 namespace ZDXEngine {
 namespace {
@@ -43,7 +43,7 @@ bool FindSentinel(BufferedFileReader& reader) {
 bool ReadNumber(BufferedFileReader& reader, std::uint32_t& number) {
   std::uint8_t bytes[sizeof number];
   if (!reader.ReadBytes(bytes, sizeof bytes)) return false;
-  number = FromLittleEndian<std::uint32_t>(bytes);
+  number = zdx::LittleEndian<std::uint32_t>(bytes);
   return true;
 }
 

@@ -5,8 +5,8 @@
 #include <cstring>
 #include <memory>
 
-#include "ZDXEngine/Utf8.h"
-#include "properties/appinfo/LittleEndian.h"
+#include "base/LittleEndian.h"
+#include "base/Utf16.h"
 #include "properties/appinfo/SourceFile.h"
 
 namespace ZDXEngine {
@@ -16,20 +16,13 @@ constexpr std::uint32_t kUnitSize = 2;
 // Longer texts than this are read through the heap.
 constexpr std::uint16_t kLocalUnits = 1024;
 
-bool IsSurrogate(char32_t unit, char32_t begin) { return unit >= begin && unit < begin + 0x400; }
-
-// The text of `length` stored code units up to the first zero.  A lone surrogate stays as it is.
+// The text of `length` stored code units up to the first zero.
 std::wstring WideFromUnits(const std::uint8_t* units, std::size_t length) {
-  const auto unit = [units](std::size_t at) -> char32_t {
-    return FromLittleEndian<std::uint16_t>(units + at * kUnitSize);
-  };
   std::wstring text;
-  for (std::size_t at = 0; at < length && unit(at) != 0; ++at) {
-    char32_t point = unit(at);
-    if (IsSurrogate(point, 0xD800) && at + 1 < length && IsSurrogate(unit(at + 1), 0xDC00)) {
-      point = 0x10000 + ((point - 0xD800) << 10) + (unit(++at) - 0xDC00);
-    }
-    utf8_detail::AppendWide(text, point);
+  for (std::size_t i = 0; i < length; ++i) {
+    const auto unit = zdx::LittleEndian<std::uint16_t>(units + i * kUnitSize);
+    if (unit == 0) break;
+    zdx::AppendUtf16Unit(text, unit);
   }
   return text;
 }
@@ -84,9 +77,9 @@ bool BufferedFileReader::ReadGuid(GUID& result) {
       !ReadBytes(data3, sizeof data3) || !ReadBytes(read.Data4, sizeof read.Data4)) {
     return false;
   }
-  read.Data1 = FromLittleEndian<std::uint32_t>(data1);
-  read.Data2 = FromLittleEndian<std::uint16_t>(data2);
-  read.Data3 = FromLittleEndian<std::uint16_t>(data3);
+  read.Data1 = zdx::LittleEndian<std::uint32_t>(data1);
+  read.Data2 = zdx::LittleEndian<std::uint16_t>(data2);
+  read.Data3 = zdx::LittleEndian<std::uint16_t>(data3);
   result = read;
   return true;
 }
@@ -94,7 +87,7 @@ bool BufferedFileReader::ReadGuid(GUID& result) {
 bool BufferedFileReader::ReadText(std::wstring& result) {
   std::uint8_t stored[kUnitSize];
   if (!ReadBytes(stored, sizeof stored)) return false;
-  const auto length = FromLittleEndian<std::uint16_t>(stored);
+  const auto length = zdx::LittleEndian<std::uint16_t>(stored);
   std::uint8_t local[kLocalUnits * kUnitSize];
   std::unique_ptr<std::uint8_t[]> heap;
   if (length > kLocalUnits) heap.reset(new std::uint8_t[std::size_t{length} * kUnitSize]);

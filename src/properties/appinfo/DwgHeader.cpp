@@ -5,8 +5,8 @@
 #include <cstddef>
 #include <cstring>
 
+#include "base/LittleEndian.h"
 #include "properties/appinfo/Literals.h"
-#include "properties/appinfo/LittleEndian.h"
 #include "properties/appinfo/SourceFile.h"
 
 namespace ZDXEngine {
@@ -37,7 +37,7 @@ DwgHeaderKind KindOf(const Header& header) {
 }
 
 std::uint32_t CandidateAt(const Header& header, std::size_t place) {
-  return FromLittleEndian<std::uint32_t>(header.data() + place);
+  return zdx::LittleEndian<std::uint32_t>(header.data() + place);
 }
 
 std::uint32_t OffsetOf(const Header& header, DwgHeaderKind kind) {

@@ -7,7 +7,7 @@
 #include <utility>
 
 #include "ZDXEngine/Utf8.h"
-#include "base/LittleEndian.h"
+#include "base/Utf16.h"
 
 namespace zdx::model {
 namespace {
@@ -44,21 +44,6 @@ std::optional<std::uint32_t> HexadecimalAt(std::wstring_view text, std::size_t a
   return value;
 }
 
-// Appends the UTF-16 unit `unit`, joining it with a high surrogate before it.
-void AppendUnit(std::wstring& text, std::uint32_t unit) {
-  if constexpr (sizeof(wchar_t) > 2) {
-    const bool low = unit >= 0xDC00 && unit <= 0xDFFF;
-    if (low && !text.empty()) {
-      const auto high = static_cast<char32_t>(text.back());
-      if (high >= 0xD800 && high <= 0xDBFF) {
-        text.back() = static_cast<wchar_t>(0x10000 + ((high - 0xD800) << 10) + (unit - 0xDC00));
-        return;
-      }
-    }
-  }
-  text.push_back(static_cast<wchar_t>(unit));
-}
-
 using DoubleByteDecoders = std::map<CodePageId, CodePageDecoder>;
 
 std::optional<std::wstring> DoubleByteCharacter(wchar_t digit, std::uint32_t code,
@@ -80,7 +65,7 @@ std::size_t AppendEscape(std::wstring_view text, std::size_t at, DoubleByteDecod
   if (rest.substr(0, kUnitEscape.size()) == kUnitEscape) {
     const auto unit = HexadecimalAt(rest, kUnitEscape.size());
     if (!unit) return 0;
-    AppendUnit(out, *unit);
+    AppendUtf16Unit(out, static_cast<std::uint16_t>(*unit));
     return kUnitEscape.size() + kDigits;
   }
   constexpr std::size_t kCodeAt = kDoubleByteEscape.size() + 1;
@@ -148,12 +133,7 @@ std::wstring StoredTextDecoder::Decode(std::string_view bytes, TextUse use, Text
 }
 
 std::wstring StoredTextDecoder::DecodeUtf16(std::string_view bytes, TextUse use, TextFlaws& flaws) {
-  std::wstring text;
-  text.reserve(bytes.size() / 2);
-  for (; bytes.size() >= 2; bytes.remove_prefix(2)) {
-    AppendUnit(text, LittleEndian<std::uint16_t>(bytes));
-  }
-  return Expand(std::move(text), use, flaws);
+  return Expand(WideFromUtf16(bytes), use, flaws);
 }
 
 std::wstring StoredTextDecoder::Expand(std::wstring text, TextUse use, TextFlaws& flaws) {
