@@ -14,9 +14,14 @@ std::uint64_t Stirred(std::uint64_t value) { return value * 0x343FD + 0x269EC3; 
 
 // Within each eight bytes, and within what is left at the end.
 std::string Reordered(std::string_view bytes) {
-  static constexpr std::string_view kOrders[] = {
-      {"\0", 0},       {"\0", 1},         {"\0\1", 2},         {"\0\1\2", 3},
-      {"\2\3\0\1", 4}, {"\2\3\0\1\4", 5}, {"\2\3\0\1\4\5", 6}, {"\2\3\0\1\4\5\6", 7}};
+  static constexpr std::string_view kOrders[] = {{},
+                                                 {"\0", 1},
+                                                 {"\0\1", 2},
+                                                 {"\0\1\2", 3},
+                                                 {"\2\3\0\1", 4},
+                                                 {"\2\3\0\1\4", 5},
+                                                 {"\2\3\0\1\4\5", 6},
+                                                 {"\2\3\0\1\4\5\6", 7}};
   static constexpr std::string_view kWholeOrder("\6\7\4\5\2\3\0\1", 8);
   std::string ordered;
   while (!bytes.empty()) {

@@ -258,6 +258,22 @@ TEST_F(CodedDwg, TheHeadPageHoldsACheckedBlockTwiceWhereItIsLong) {
   EXPECT_EQ(data.substr(0, block), data.substr(block, block));
 }
 
+// The head's numbers aren't decoded here, so the number of words is found by trying.
+TEST_F(CodedDwg, ThePageMapListsThePagesUpToTheHeadsCopy) {
+  std::string map;
+  for (std::size_t words = 1; map.empty() && words < 10; ++words) {
+    map = Data(file.substr(0x480, words * kWordSize), words, kSystemWords);
+    const bool isMap = Number(map, 0, 8) == 0x400 && Number(map, 16, 8) == 0x400 &&
+                       Number(map, 8, 8) + 1 == Number(map, 24, 8);
+    if (!isMap) map.clear();
+  }
+  ASSERT_FALSE(map.empty());
+  const std::size_t count = Number(map, 24, 8);
+  std::size_t end = 0x480;
+  for (std::size_t i = 0; i < count; ++i) end += Number(map, 16 * i, 8);
+  EXPECT_EQ(end, file.size() - 0x400);
+}
+
 TEST_F(CodedDwg, TheHeadLeadsToTheSummary) {
   EXPECT_EQ(file.substr(Number(file, 0x20, 4), 4), std::string("\6\0T\0", 4));
 }

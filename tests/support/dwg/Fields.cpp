@@ -53,11 +53,10 @@ void Fields::H(Link link, Handle target) {
 void Fields::Near(Link link, Handle target) {
   const bool isAhead = target > own_;
   const Handle distance = isAhead ? target - own_ : own_ - target;
-  if (target == 0 || distance == 0) {
-    H(link, target);
-  } else if (distance == 1) {
+  const bool isShorter = ByteCount(distance) < ByteCount(target);
+  if (target != 0 && distance == 1) {
     ReferenceStream().Reference(isAhead ? kNext : kPrevious, 0);
-  } else if (ByteCount(distance) < ByteCount(target)) {
+  } else if (distance != 0 && isShorter) {
     ReferenceStream().Reference(isAhead ? kAhead : kBehind, distance);
   } else {
     H(link, target);

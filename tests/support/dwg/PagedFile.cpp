@@ -61,7 +61,7 @@ std::string PageHead(const Section& section, const Page& page, const std::string
   return head;
 }
 
-std::string FilledUp(std::string bytes, std::size_t size) {
+std::string FilledUp(const std::string& bytes, std::size_t size) {
   return bytes + MaskBytes(size - bytes.size());
 }
 

@@ -6,7 +6,7 @@ namespace {
 
 using drawing::HasLayouts;
 
-PlannedBlock Space_(Drawing& drawing, std::string name, Space space) {
+PlannedBlock PlannedSpace(Drawing& drawing, std::string name, Space space) {
   PlannedBlock block;
   block.name = std::move(name);
   block.space = space;
@@ -42,11 +42,11 @@ std::string PaperName(std::size_t layout) {
 // Model space comes first, so that it has the handle that is kept for it.
 void PlanBlocks(Drawing& drawing) {
   const DrawingSpec& spec = drawing.spec;
-  drawing.blocks.push_back(Space_(drawing, kModelSpaceName, Space::Model));
+  drawing.blocks.push_back(PlannedSpace(drawing, kModelSpaceName, Space::Model));
   drawing.blocks.back().extension = &spec.modelExtension;
   const std::size_t papers = HasLayouts(drawing.version) ? spec.layouts.size() : 1;
   for (std::size_t i = 0; i < papers; ++i) {
-    drawing.blocks.push_back(Space_(drawing, PaperName(i), Space::Paper));
+    drawing.blocks.push_back(PlannedSpace(drawing, PaperName(i), Space::Paper));
   }
   for (const drawing::BlockSpec& block : spec.blocks) {
     drawing.blocks.push_back(Planned(drawing, block));

@@ -59,6 +59,7 @@ void WriteControl(Drawing& drawing, Type type, Handle handle, const std::vector<
 
 std::vector<Handle> HandlesOf(const std::vector<NamedHandle>& list) {
   std::vector<Handle> handles;
+  handles.reserve(list.size());
   for (const NamedHandle& entry : list) handles.push_back(entry.handle);
   return handles;
 }

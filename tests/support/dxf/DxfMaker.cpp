@@ -37,9 +37,8 @@ std::string Head(const Writing& writing, const TextEncoder& encoder) {
 void WriteThumbnail(Drawing& drawing) {
   const std::vector<PreviewSpec>& previews = drawing.spec.previews;
   const auto bitmap =
-      std::find_if(previews.begin(), previews.end(), [](const PreviewSpec& preview) {
-        return preview.kind == PreviewKind::Bitmap;
-      });
+      std::find_if(previews.begin(), previews.end(),
+                   [](const PreviewSpec& preview) { return preview.kind == PreviewKind::Bitmap; });
   if (bitmap == previews.end()) return;
   drawing.BeginSection("THUMBNAILIMAGE");
   drawing.out.Put({{90, bitmap->bytes.size()}, {310, bitmap->bytes}});
