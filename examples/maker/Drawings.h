@@ -3,20 +3,22 @@
 #include <string>
 #include <vector>
 
-#include "support/dxf/DrawingSpec.h"
+#include "support/drawing/DrawingSpec.h"
+#include "support/dxf/DxfMaker.h"
 
 namespace examples {
 
 // A drawing of this folder, as the maker makes it.
 struct ExampleDrawing {
   std::string fileName;
-  dxf::DrawingSpec spec;
+  drawing::DrawingSpec spec;
+  dxf::Writing writing = {};
 };
 
-dxf::DrawingSpec SitePlan();
-dxf::DrawingSpec Grading();
-dxf::DrawingSpec Survey();
-dxf::DrawingSpec LegacyPlan();
+drawing::DrawingSpec SitePlan();
+drawing::DrawingSpec Grading();
+drawing::DrawingSpec Survey();
+drawing::DrawingSpec LegacyPlan();
 
 std::vector<ExampleDrawing> AllDrawings();
 

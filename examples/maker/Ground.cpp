@@ -23,7 +23,7 @@ double Scatter::Between(double low, double high) {
   return Millimetres(low + (high - low) * Next());
 }
 
-double GroundHeight(dxf::Point at) {
+double GroundHeight(drawing::Point at) {
   return kLowest + kRise * at.y + kSwell * std::sin(at.x / 19.0) + 0.01 * at.x;
 }
 
@@ -33,8 +33,8 @@ std::string HeightText(double metres) {
   return std::to_string(hundredths / 100) + "." + decimals;
 }
 
-std::vector<dxf::Point> Contour(double metres, int step) {
-  std::vector<dxf::Point> line;
+std::vector<drawing::Point> Contour(double metres, int step) {
+  std::vector<drawing::Point> line;
   for (int x = 0; x <= kPlotWidth; x += step) {
     const double across = x;
     const double y = (metres - GroundHeight({across, 0.0})) / kRise;
@@ -43,30 +43,31 @@ std::vector<dxf::Point> Contour(double metres, int step) {
   return line;
 }
 
-std::vector<dxf::Point> PlotBoundary() {
+std::vector<drawing::Point> PlotBoundary() {
   return {{0, 0}, {kPlotWidth, 2.4}, {kPlotWidth - 3.1, 61.75}, {92.4, kPlotDepth}, {1.85, 76.2}};
 }
 
-std::vector<dxf::Point> Rectangle(dxf::Point corner, double width, double depth) {
+std::vector<drawing::Point> Rectangle(drawing::Point corner, double width, double depth) {
   return {corner,
           {Millimetres(corner.x + width), corner.y},
           {Millimetres(corner.x + width), Millimetres(corner.y + depth)},
           {corner.x, Millimetres(corner.y + depth)}};
 }
 
-std::vector<dxf::EntitySpec> WidthMark(const std::string& layer, dxf::Point from, double width) {
+std::vector<drawing::EntitySpec> WidthMark(const std::string& layer, drawing::Point from,
+                                           double width) {
   constexpr double kTick = 0.6;
-  const dxf::Point to{Millimetres(from.x + width), from.y};
-  std::vector<dxf::EntitySpec> mark = {dxf::Line(layer, from, to)};
-  for (const dxf::Point end : {from, to}) {
-    mark.push_back(dxf::Line(layer, {end.x, end.y - kTick}, {end.x, end.y + kTick}));
+  const drawing::Point to{Millimetres(from.x + width), from.y};
+  std::vector<drawing::EntitySpec> mark = {drawing::Line(layer, from, to)};
+  for (const drawing::Point end : {from, to}) {
+    mark.push_back(drawing::Line(layer, {end.x, end.y - kTick}, {end.x, end.y + kTick}));
   }
-  mark.push_back(dxf::Text(layer, {Millimetres(from.x + width / 2 - 1.5), from.y + 0.4}, 0.8,
-                           HeightText(width)));
+  mark.push_back(drawing::Text(layer, {Millimetres(from.x + width / 2 - 1.5), from.y + 0.4}, 0.8,
+                               HeightText(width)));
   return mark;
 }
 
-void Append(std::vector<dxf::EntitySpec>& entities, std::vector<dxf::EntitySpec> more) {
+void Append(std::vector<drawing::EntitySpec>& entities, std::vector<drawing::EntitySpec> more) {
   entities.insert(entities.end(), std::make_move_iterator(more.begin()),
                   std::make_move_iterator(more.end()));
 }

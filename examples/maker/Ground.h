@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "support/dxf/EntitySpec.h"
+#include "support/drawing/EntitySpec.h"
 
 namespace examples {
 
@@ -26,22 +26,23 @@ class Scatter {
 };
 
 // The height of the ground, in metres above the datum.
-double GroundHeight(dxf::Point at);
+double GroundHeight(drawing::Point at);
 
 // `metres` with two decimals.
 std::string HeightText(double metres);
 
 // Where the ground has the height `metres`, from the plot's left edge to its right, one vertex
 // each `step` metres; empty where the plot holds no such line.
-std::vector<dxf::Point> Contour(double metres, int step);
+std::vector<drawing::Point> Contour(double metres, int step);
 
-std::vector<dxf::Point> PlotBoundary();
+std::vector<drawing::Point> PlotBoundary();
 
-std::vector<dxf::Point> Rectangle(dxf::Point corner, double width, double depth);
+std::vector<drawing::Point> Rectangle(drawing::Point corner, double width, double depth);
 
 // A horizontal dimension: the line, its ticks and its text.
-std::vector<dxf::EntitySpec> WidthMark(const std::string& layer, dxf::Point from, double width);
+std::vector<drawing::EntitySpec> WidthMark(const std::string& layer, drawing::Point from,
+                                           double width);
 
-void Append(std::vector<dxf::EntitySpec>& entities, std::vector<dxf::EntitySpec> more);
+void Append(std::vector<drawing::EntitySpec>& entities, std::vector<drawing::EntitySpec> more);
 
 }  // namespace examples

@@ -11,32 +11,31 @@ constexpr const char* kText = "TEXT";
 constexpr double kWall = 0.3;
 constexpr double kDoor = 0.9;
 
-void AddRoom(std::vector<dxf::EntitySpec>& entities, int number, dxf::Point corner, double width,
-             double depth) {
-  const dxf::Point inner{Millimetres(corner.x + kWall), Millimetres(corner.y + kWall)};
-  entities.push_back(dxf::Polyline(kWalls, Rectangle(corner, width, depth), true));
+void AddRoom(std::vector<drawing::EntitySpec>& entities, int number, drawing::Point corner,
+             double width, double depth) {
+  const drawing::Point inner{Millimetres(corner.x + kWall), Millimetres(corner.y + kWall)};
+  entities.push_back(drawing::Polyline(kWalls, Rectangle(corner, width, depth), true));
   entities.push_back(
-      dxf::Polyline(kWalls, Rectangle(inner, width - 2 * kWall, depth - 2 * kWall), true));
-  entities.push_back(dxf::Arc(kDoors, inner, kDoor, 0, 90));
-  entities.push_back(dxf::Line(kDoors, inner, {inner.x, Millimetres(inner.y + kDoor)}));
-  const dxf::Point centre{Millimetres(corner.x + width / 2), Millimetres(corner.y + depth / 2)};
-  entities.push_back(
-      dxf::Insert("ROOM",
-                  {{.tag = "NUMBER", .value = std::to_string(number), .at = centre, .height = 0.3},
-                   {.tag = "AREA",
-                    .value = HeightText((width - 2 * kWall) * (depth - 2 * kWall)) + " m²",
-                    .at = centre,
-                    .height = 0.2}},
-                  {.at = centre}, kText));
+      drawing::Polyline(kWalls, Rectangle(inner, width - 2 * kWall, depth - 2 * kWall), true));
+  entities.push_back(drawing::Arc(kDoors, inner, kDoor, 0, 90));
+  entities.push_back(drawing::Line(kDoors, inner, {inner.x, Millimetres(inner.y + kDoor)}));
+  const drawing::Point centre{Millimetres(corner.x + width / 2), Millimetres(corner.y + depth / 2)};
+  entities.push_back(drawing::Insert(
+      "ROOM",
+      {{.tag = "NUMBER", .value = std::to_string(number), .at = centre, .height = 0.3},
+       {.tag = "AREA",
+        .value = HeightText((width - 2 * kWall) * (depth - 2 * kWall)) + " m²",
+        .at = centre,
+        .height = 0.2}},
+      {.at = centre}, kText));
   Append(entities, WidthMark(kDimensions, {corner.x, Millimetres(corner.y - 1)}, width));
 }
 
 }  // namespace
 
-dxf::DrawingSpec LegacyPlan() {
-  dxf::DrawingSpec spec;
+drawing::DrawingSpec LegacyPlan() {
+  drawing::DrawingSpec spec;
   spec.version = "AC1009";
-  spec.form = dxf::Form::Binary;
   spec.layers = {{"0"}, {kWalls, 7}, {kDoors, 3, "HIDDEN"}, {kDimensions, 4}, {kText, 2}};
   spec.linetypes = {{"HIDDEN", "Hidden __ __ __ __", {0.5, -0.25}}};
   spec.textStyles = {"STANDARD"};
@@ -46,7 +45,7 @@ dxf::DrawingSpec LegacyPlan() {
   spec.blocks = {{.name = "ROOM",
                   .definitions = {{.tag = "NUMBER", .value = "1", .prompt = "Room number?"},
                                   {.tag = "AREA", .prompt = "Area?"}},
-                  .entities = {dxf::Circle("0", {}, 0.4)}}};
+                  .entities = {drawing::Circle("0", {}, 0.4)}}};
   for (int floor = 0; floor < 6; ++floor) {
     for (int room = 0; room < 10; ++room) {
       const double width = 3.6 + 0.3 * (room % 3);

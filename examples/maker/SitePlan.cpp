@@ -1,6 +1,6 @@
 #include "maker/Drawings.h"
 #include "maker/Ground.h"
-#include "support/dxf/GeoSpec.h"
+#include "support/drawing/GeoSpec.h"
 
 namespace examples {
 namespace {
@@ -22,7 +22,7 @@ constexpr const char* kHouseOutline = "A10";
 constexpr const char* kHouseText = "A11";
 constexpr const char* kWorkshopOutline = "A12";
 
-void AddTables(dxf::DrawingSpec& spec) {
+void AddTables(drawing::DrawingSpec& spec) {
   spec.layers = {{"0"},
                  {kBoundary, 1, "BOUNDARY"},
                  {kBuilding, 7},
@@ -43,7 +43,7 @@ void AddTables(dxf::DrawingSpec& spec) {
   spec.views = {{"Whole plot", {60, 40}, 150, 100}, {"Entrance", {24, 6}, 40, 25}};
 }
 
-void AddDescription(dxf::DrawingSpec& spec) {
+void AddDescription(drawing::DrawingSpec& spec) {
   spec.summary = {.title = "Alder Court: site plan",
                   .subject = "Two buildings, access road and planting",
                   .author = "R. Example",
@@ -62,8 +62,9 @@ void AddDescription(dxf::DrawingSpec& spec) {
   spec.settings.dimblk = "ArchTick";
 }
 
-dxf::BlockSpec TitleBlock() {
-  dxf::BlockSpec block{.name = "TITLE_BLOCK", .description = "Title block of the drawing office"};
+drawing::BlockSpec TitleBlock() {
+  drawing::BlockSpec block{.name = "TITLE_BLOCK",
+                           .description = "Title block of the drawing office"};
   block.definitions = {
       {.tag = "PROJECT", .value = "Project", .prompt = "Project name?", .at = {150, 40}},
       {.tag = "DRAWING_NO", .value = "000", .prompt = "Drawing number?", .at = {150, 34}},
@@ -73,16 +74,17 @@ dxf::BlockSpec TitleBlock() {
       {.tag = "NOTES", .prompt = "Notes?", .multiLine = true, .at = {90, 40}},
       {.tag = "OFFICE",
        .value = "Example Drawing Office",
-       .flags = dxf::kConstant,
+       .flags = drawing::kConstant,
        .at = {150, 10}},
-      {.tag = "CHECKED", .value = "no", .prompt = "Checked?", .flags = dxf::kInvisible}};
-  block.entities = {dxf::Polyline("0", Rectangle({85, 5}, 110, 45), true),
-                    dxf::Line("0", {85, 14}, {195, 14}), dxf::Line("0", {145, 5}, {145, 50})};
+      {.tag = "CHECKED", .value = "no", .prompt = "Checked?", .flags = drawing::kInvisible}};
+  block.entities = {drawing::Polyline("0", Rectangle({85, 5}, 110, 45), true),
+                    drawing::Line("0", {85, 14}, {195, 14}),
+                    drawing::Line("0", {145, 5}, {145, 50})};
   return block;
 }
 
-dxf::EntitySpec TitleInsert() {
-  return dxf::Insert(
+drawing::EntitySpec TitleInsert() {
+  return drawing::Insert(
       "TITLE_BLOCK",
       {{.tag = "PROJECT", .value = "Alder Court", .at = {150, 40}},
        {.tag = "DRAWING_NO", .value = "017-L-101", .at = {150, 34}},
@@ -93,113 +95,114 @@ dxf::EntitySpec TitleInsert() {
         .value = "Levels in metres above datum.\nTrees as surveyed; see schedule.",
         .multiLine = true,
         .at = {90, 40}},
-       {.tag = "CHECKED", .value = "yes", .flags = dxf::kInvisible}},
+       {.tag = "CHECKED", .value = "yes", .flags = drawing::kInvisible}},
       {}, kTitle);
 }
 
-void AddBlocks(dxf::DrawingSpec& spec) {
+void AddBlocks(drawing::DrawingSpec& spec) {
   spec.blocks = {TitleBlock()};
   spec.blocks.push_back({.name = "TREE",
                          .definitions = {{.tag = "SPECIES", .prompt = "Species?", .height = 0.6},
                                          {.tag = "GIRTH", .prompt = "Girth in cm?", .height = 0.4}},
-                         .entities = {dxf::Circle("0", {}, 1.8), dxf::Circle("0", {}, 0.2),
-                                      dxf::Line("0", {-1.8, 0}, {1.8, 0})}});
-  spec.blocks.push_back({.name = "NORTH_ARROW",
-                         .entities = {dxf::Line("0", {0, -4}, {0, 4}), dxf::Circle("0", {}, 3),
-                                      dxf::Polyline("0", {{-1, 2}, {0, 4}, {1, 2}}),
-                                      dxf::Text("0", {-0.6, 4.6}, 1.6, "N")}});
+                         .entities = {drawing::Circle("0", {}, 1.8), drawing::Circle("0", {}, 0.2),
+                                      drawing::Line("0", {-1.8, 0}, {1.8, 0})}});
+  spec.blocks.push_back(
+      {.name = "NORTH_ARROW",
+       .entities = {drawing::Line("0", {0, -4}, {0, 4}), drawing::Circle("0", {}, 3),
+                    drawing::Polyline("0", {{-1, 2}, {0, 4}, {1, 2}}),
+                    drawing::Text("0", {-0.6, 4.6}, 1.6, "N")}});
   // The arrow that the settings name, without the underscore.
   spec.blocks.push_back(
-      {.name = "_ArchTick", .entities = {dxf::Polyline("0", {{-0.5, -0.5}, {0.5, 0.5}})}});
-  spec.blocks.push_back(dxf::XrefBlock("grading", ".\\grading.dxf"));
-  spec.blocks.push_back(dxf::XrefBlock("survey", "survey-r2000.dxf", dxf::Xref::Overlaid));
+      {.name = "_ArchTick", .entities = {drawing::Polyline("0", {{-0.5, -0.5}, {0.5, 0.5}})}});
+  spec.blocks.push_back(drawing::XrefBlock("grading", ".\\grading.dxf"));
+  spec.blocks.push_back(drawing::XrefBlock("survey", "survey-r2000.dxf", drawing::Xref::Overlaid));
 }
 
-void AddBuildings(std::vector<dxf::EntitySpec>& entities) {
-  entities.push_back(
-      dxf::Polyline(kBuilding, {{18, 34}, {46, 34}, {46, 46}, {38, 46}, {38, 58}, {18, 58}}, true));
+void AddBuildings(std::vector<drawing::EntitySpec>& entities) {
+  entities.push_back(drawing::Polyline(
+      kBuilding, {{18, 34}, {46, 34}, {46, 46}, {38, 46}, {38, 58}, {18, 58}}, true));
   entities.back().handle = kHouseOutline;
-  entities.push_back(dxf::Text(kNotes, {22, 45}, 1.6, "House A"));
+  entities.push_back(drawing::Text(kNotes, {22, 45}, 1.6, "House A"));
   entities.back().handle = kHouseText;
-  entities.push_back(dxf::Polyline(kBuilding, Rectangle({70, 38}, 22, 14), true));
+  entities.push_back(drawing::Polyline(kBuilding, Rectangle({70, 38}, 22, 14), true));
   entities.back().handle = kWorkshopOutline;
-  entities.push_back(dxf::Text(kNotes, {74, 44}, 1.6, "Workshop"));
+  entities.push_back(drawing::Text(kNotes, {74, 44}, 1.6, "Workshop"));
   for (int window = 0; window < 10; ++window) {
     const double x = Millimetres(20 + window * 2.6);
-    entities.push_back(dxf::Line(kBuilding, {x, 34}, {x, 34.3}));
+    entities.push_back(drawing::Line(kBuilding, {x, 34}, {x, 34.3}));
   }
   Append(entities, WidthMark(kDimensions, {18, 31.5}, 28));
   Append(entities, WidthMark(kDimensions, {70, 35.5}, 22));
   Append(entities, WidthMark(kDimensions, {46, 31.5}, 24));
 }
 
-void AddRoads(std::vector<dxf::EntitySpec>& entities) {
-  entities.push_back(dxf::Polyline(kRoad, {{0, 14}, {24, 14}, {30, 20}, {118, 22}}));
-  entities.push_back(dxf::Polyline(kRoad, {{0, 20}, {21, 20}, {27, 26}, {117.5, 28}}));
-  entities.push_back(dxf::Arc(kRoad, {24, 20}, 6, 270, 360));
+void AddRoads(std::vector<drawing::EntitySpec>& entities) {
+  entities.push_back(drawing::Polyline(kRoad, {{0, 14}, {24, 14}, {30, 20}, {118, 22}}));
+  entities.push_back(drawing::Polyline(kRoad, {{0, 20}, {21, 20}, {27, 26}, {117.5, 28}}));
+  entities.push_back(drawing::Arc(kRoad, {24, 20}, 6, 270, 360));
   for (int bay = 0; bay < 14; ++bay) {
-    entities.push_back(dxf::Polyline(kCarPark, Rectangle({56 + bay * 2.5, 8}, 2.5, 5), true));
+    entities.push_back(drawing::Polyline(kCarPark, Rectangle({56 + bay * 2.5, 8}, 2.5, 5), true));
     entities.push_back(
-        dxf::Text(kCarPark, {56.6 + bay * 2.5, 10}, 0.9, "P" + std::to_string(bay + 1)));
+        drawing::Text(kCarPark, {56.6 + bay * 2.5, 10}, 0.9, "P" + std::to_string(bay + 1)));
   }
 }
 
-void AddGround(std::vector<dxf::EntitySpec>& entities) {
+void AddGround(std::vector<drawing::EntitySpec>& entities) {
   for (int halfMetres = 83; halfMetres < 97; ++halfMetres) {
-    const std::vector<dxf::Point> line = Contour(halfMetres / 2.0, 3);
-    if (line.size() > 1) entities.push_back(dxf::Polyline(kContour, line));
+    const std::vector<drawing::Point> line = Contour(halfMetres / 2.0, 3);
+    if (line.size() > 1) entities.push_back(drawing::Polyline(kContour, line));
   }
   for (int x = 10; x < kPlotWidth; x += 15) {
     for (int y = 5; y < kPlotDepth - 5; y += 15) {
-      const dxf::Point at{static_cast<double>(x), static_cast<double>(y)};
-      entities.push_back(dxf::Dot(kHeights, at));
+      const drawing::Point at{static_cast<double>(x), static_cast<double>(y)};
+      entities.push_back(drawing::Dot(kHeights, at));
       entities.push_back(
-          dxf::Text(kHeights, {at.x + 0.4, at.y + 0.3}, 0.7, HeightText(GroundHeight(at))));
+          drawing::Text(kHeights, {at.x + 0.4, at.y + 0.3}, 0.7, HeightText(GroundHeight(at))));
     }
   }
 }
 
-void AddTrees(std::vector<dxf::EntitySpec>& entities) {
+void AddTrees(std::vector<drawing::EntitySpec>& entities) {
   static constexpr const char* kSpecies[] = {"Alder", "Birch", "Ελιά", "桜", "Field maple"};
   Scatter scatter(17);
   for (int i = 0; i < 44; ++i) {
-    const dxf::Point at{scatter.Between(4, 90), scatter.Between(60, 74)};
+    const drawing::Point at{scatter.Between(4, 90), scatter.Between(60, 74)};
     const auto girth = std::to_string(40 + static_cast<int>(scatter.Next() * 120));
     const auto kind = static_cast<std::size_t>(scatter.Next() * std::size(kSpecies));
-    entities.push_back(dxf::Insert("TREE",
-                                   {{.tag = "SPECIES", .value = kSpecies[kind], .at = at},
-                                    {.tag = "GIRTH", .value = girth, .at = at}},
-                                   {.at = at}, kPlants));
+    entities.push_back(drawing::Insert("TREE",
+                                       {{.tag = "SPECIES", .value = kSpecies[kind], .at = at},
+                                        {.tag = "GIRTH", .value = girth, .at = at}},
+                                       {.at = at}, kPlants));
   }
 }
 
-void AddPaper(dxf::DrawingSpec& spec) {
+void AddPaper(drawing::DrawingSpec& spec) {
   spec.layouts = {{"A1 site plan",
-                   {TitleInsert(), dxf::Polyline(kTitle, Rectangle({5, 5}, 410, 287), true)},
+                   {TitleInsert(), drawing::Polyline(kTitle, Rectangle({5, 5}, 410, 287), true)},
                    "office-mono.ctb"},
                   {"A3 planting",
-                   {dxf::Text(kTitle, {20, 20}, 5, "Planting schedule"),
-                    dxf::Text(kNotes, {20, 12}, 3, "See drawing 017-L-102")},
+                   {drawing::Text(kTitle, {20, 20}, 5, "Planting schedule"),
+                    drawing::Text(kNotes, {20, 12}, 3, "See drawing 017-L-102")},
                    "office-colour.ctb"}};
   spec.layouts[1].pageSetup = "A3 draft";
   spec.plotSettings = {"A1 final", "A3 draft"};
 }
 
-void AddObjects(dxf::DrawingSpec& spec) {
+void AddObjects(drawing::DrawingSpec& spec) {
   spec.groups = {{"HOUSE_A", "House with its name", {kHouseOutline, kHouseText}},
                  {"BUILDINGS", "Both outlines", {kHouseOutline, kWorkshopOutline}}};
   spec.mlineStyles = {"Standard", "WALL_300"};
   spec.rootEntries = {
-      {"SITE_SCHEDULE", dxf::Dictionary({{"TREES", dxf::Xrecord({{1, "44"}, {40, 1.8}})},
-                                         {"PARKING", dxf::Xrecord({{90, 14}})}})}};
-  spec.classes = {{dxf::kGeoType, dxf::kGeoClass}};
+      {"SITE_SCHEDULE", drawing::Dictionary({{"TREES", drawing::Xrecord({{1, "44"}, {40, 1.8}})},
+                                             {"PARKING", drawing::Xrecord({{90, 14}})}})}};
+  spec.classes = {{drawing::kGeoType, drawing::kGeoClass}};
   spec.modelExtension = {
-      {dxf::kGeoKey, dxf::GeoObject({.coordinateType = 2,
-                                     .referencePoint = {512300.0, 6213450.0, 41.0},
-                                     .northX = 0.0523359562429438,
-                                     .northY = 0.9986295347545738,
-                                     .coordinateSystem = "LOCAL-GRID-17",
-                                     .geoRss = "alder-court"})}};
+      {drawing::kGeoKey, drawing::GeoObject({.coordinateType = 2,
+                                             .referencePoint = {512300.0, 6213450.0, 41.0},
+                                             .northX = 0.0523359562429438,
+                                             .northY = 0.9986295347545738,
+                                             .coordinateSystem = "LOCAL-GRID-17",
+                                             .geoRss = "alder-court"})}};
   spec.images = {{.name = "site-photo",
                   .path = "site-photo.png",
                   .pixelsAcross = 160,
@@ -211,15 +214,15 @@ void AddObjects(dxf::DrawingSpec& spec) {
 
 }  // namespace
 
-dxf::DrawingSpec SitePlan() {
-  dxf::DrawingSpec spec;
+drawing::DrawingSpec SitePlan() {
+  drawing::DrawingSpec spec;
   AddTables(spec);
   AddDescription(spec);
   AddBlocks(spec);
-  spec.entities = {dxf::Polyline(kBoundary, PlotBoundary(), true),
-                   dxf::Insert("NORTH_ARROW", {}, {.at = {112, 70}, .angle = 3}, kNotes),
-                   dxf::Insert("grading", {}, {}, kReferences),
-                   dxf::Insert("survey", {}, {}, kReferences)};
+  spec.entities = {drawing::Polyline(kBoundary, PlotBoundary(), true),
+                   drawing::Insert("NORTH_ARROW", {}, {.at = {112, 70}, .angle = 3}, kNotes),
+                   drawing::Insert("grading", {}, {}, kReferences),
+                   drawing::Insert("survey", {}, {}, kReferences)};
   AddBuildings(spec.entities);
   AddRoads(spec.entities);
   AddGround(spec.entities);

@@ -41,33 +41,33 @@ std::string Preview() {
   return bytes;
 }
 
-void AddPoints(std::vector<dxf::EntitySpec>& entities) {
+void AddPoints(std::vector<drawing::EntitySpec>& entities) {
   Scatter scatter(3);
   for (int number = 1; number <= 70; ++number) {
-    const dxf::Point at{scatter.Between(2, 116), scatter.Between(3, 74)};
+    const drawing::Point at{scatter.Between(2, 116), scatter.Between(3, 74)};
     entities.push_back(
-        dxf::Insert("ПУНКТ",
-                    {{.tag = "НОМЕР", .value = std::to_string(number), .at = at, .height = 0.6},
-                     {.tag = "ОТМЕТКА",
-                      .value = HeightText(GroundHeight(at)),
-                      .at = {at.x, Millimetres(at.y - 0.9)},
-                      .height = 0.6}},
-                    {.at = at}, kPoints));
+        drawing::Insert("ПУНКТ",
+                        {{.tag = "НОМЕР", .value = std::to_string(number), .at = at, .height = 0.6},
+                         {.tag = "ОТМЕТКА",
+                          .value = HeightText(GroundHeight(at)),
+                          .at = {at.x, Millimetres(at.y - 0.9)},
+                          .height = 0.6}},
+                        {.at = at}, kPoints));
   }
 }
 
-void AddFence(std::vector<dxf::EntitySpec>& entities) {
-  entities.push_back(dxf::Polyline(kFence, PlotBoundary(), true));
+void AddFence(std::vector<drawing::EntitySpec>& entities) {
+  entities.push_back(drawing::Polyline(kFence, PlotBoundary(), true));
   for (int peg = 0; peg < 30; ++peg) {
     const double x = 2 + 4 * peg;
-    entities.push_back(dxf::Circle(kPegs, {x, Millimetres(x * 0.02)}, 0.15));
+    entities.push_back(drawing::Circle(kPegs, {x, Millimetres(x * 0.02)}, 0.15));
   }
 }
 
 }  // namespace
 
-dxf::DrawingSpec Survey() {
-  dxf::DrawingSpec spec;
+drawing::DrawingSpec Survey() {
+  drawing::DrawingSpec spec;
   spec.version = "AC1015";
   spec.codePage = "ANSI_1251";
   spec.layers = {{"0"},     {kBoundary, 1, "МЕЖА"}, {kPoints, 3}, {kHeights, 2}, {kFence, 8},
@@ -85,14 +85,14 @@ dxf::DrawingSpec Survey() {
   spec.blocks = {{.name = "ПУНКТ",
                   .definitions = {{.tag = "НОМЕР", .value = "0", .prompt = "Номер пункта?"},
                                   {.tag = "ОТМЕТКА", .value = "0.00", .prompt = "Отметка, м?"}},
-                  .entities = {dxf::Circle("0", {}, 0.25), dxf::Dot("0", {})}}};
-  spec.entities = {dxf::Polyline(kBoundary, PlotBoundary(), true),
-                   dxf::Text(kHeights, {4, 70}, 1.5, "Участок 17")};
+                  .entities = {drawing::Circle("0", {}, 0.25), drawing::Dot("0", {})}}};
+  spec.entities = {drawing::Polyline(kBoundary, PlotBoundary(), true),
+                   drawing::Text(kHeights, {4, 70}, 1.5, "Участок 17")};
   AddPoints(spec.entities);
   AddFence(spec.entities);
   spec.views = {"Участок"};
   spec.layouts = {"Лист1"};
-  spec.thumbnail = Preview();
+  spec.previews = {{drawing::PreviewKind::Bitmap, Preview()}};
   return spec;
 }
 

@@ -26,7 +26,8 @@ int main(int argc, char** argv) {
   const std::filesystem::path folder = argv[1];
   bool worked = examples::WritePhoto((folder / examples::kPhotoName).string());
   for (const examples::ExampleDrawing& drawing : examples::AllDrawings()) {
-    worked = WriteFile(folder / drawing.fileName, dxf::Make(drawing.spec)) && worked;
+    worked =
+        WriteFile(folder / drawing.fileName, dxf::Make(drawing.spec, drawing.writing)) && worked;
   }
   if (!worked) std::cerr << "make_examples: can't write to " << folder << '\n';
   return worked ? 0 : 1;

@@ -50,7 +50,7 @@ class Scripted : public Subject {
 class Embedded : public Subject {
  public:
   Embedded() : before_(zndb::InstallProvider(zdx::database::EmbeddedProvider())) {
-    dxf::DrawingSpec spec;
+    drawing::DrawingSpec spec;
     spec.layers = {"0", "Walls"};
     spec.groups = {"Pair"};
     spec.summary.title = "Plan";

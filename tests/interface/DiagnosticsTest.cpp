@@ -10,7 +10,7 @@ namespace {
 
 using ZDXEngine::Diagnostics;
 
-std::wstring Plan() { return zdx_test::WriteFile(dxf::Make(dxf::DrawingSpec())); }
+std::wstring Plan() { return zdx_test::WriteFile(dxf::Make(drawing::DrawingSpec())); }
 
 TEST(LastOpening, TellsFormatVersionAndCodePage) {
   const std::wstring path = Plan();
@@ -41,7 +41,7 @@ TEST(LastOpening, IsACopyThatLaterOpeningsDoNotChange) {
 }
 
 TEST(LastOpening, OfADrawingThatTellsNoCodePageHasNone) {
-  dxf::DrawingSpec spec;
+  drawing::DrawingSpec spec;
   spec.version = "AC1009";
   spec.statesCodePage = false;
   EXPECT_EQ(zdx_test::ReadBytes(dxf::Make(spec)).diagnostics.codePage, L"");

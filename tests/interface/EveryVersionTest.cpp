@@ -29,8 +29,8 @@ constexpr Writing kWritings[] = {
     {"Binary", dxf::Form::Binary, ""},
 };
 
-dxf::DrawingSpec Site() {
-  dxf::DrawingSpec spec;
+drawing::DrawingSpec Site() {
+  drawing::DrawingSpec spec;
   spec.codePage = "ANSI_1251";
   spec.summary = {"План участка",   "Subject", "A. Author", "one, two",
                   "line 1\nline 2", "someone", "7"};
@@ -45,18 +45,18 @@ dxf::DrawingSpec Site() {
   spec.groups = {"Pair", "Trio"};
   spec.mlineStyles = {"Standard", "Wall"};
   spec.plotSettings = {"A3 page"};
-  spec.rootEntries = {{"MY_DATA", dxf::Xrecord()}};
+  spec.rootEntries = {{"MY_DATA", drawing::Xrecord()}};
   return spec;
 }
 
 class EveryVersion : public testing::TestWithParam<std::tuple<const char*, Writing>> {
  protected:
   EveryVersion() {
-    dxf::DrawingSpec spec = Site();
+    drawing::DrawingSpec spec = Site();
     spec.version = version();
-    spec.form = std::get<1>(GetParam()).form;
-    spec.lineEnd = std::get<1>(GetParam()).lineEnd;
-    reading = zdx_test::ReadBytes(dxf::Make(spec));
+    const Writing& writing = std::get<1>(GetParam());
+    reading =
+        zdx_test::ReadBytes(dxf::Make(spec, {.form = writing.form, .lineEnd = writing.lineEnd}));
   }
 
   std::string version() const { return std::get<0>(GetParam()); }

@@ -4,10 +4,9 @@
 
 namespace damage {
 
-dxf::DrawingSpec Sound(const std::string& version) {
-  dxf::DrawingSpec spec;
+drawing::DrawingSpec Sound(const std::string& version) {
+  drawing::DrawingSpec spec;
   spec.version = version;
-  spec.lineEnd = "\n";
   spec.summary.title = "Sound";
   spec.customProperties = {{"Key", "Value"}};
   spec.layers = {"0", "First", "Second", "Third"};
@@ -15,16 +14,16 @@ dxf::DrawingSpec Sound(const std::string& version) {
   spec.views = {"North"};
   spec.blocks = {{"door"}};
   spec.groups = {"Pair"};
-  spec.rootEntries = {{"MY_DATA", dxf::Xrecord()}};
+  spec.rootEntries = {{"MY_DATA", drawing::Xrecord()}};
   return spec;
 }
 
-std::string SoundText(const std::string& version) { return dxf::Make(Sound(version)); }
+std::string TextOf(const drawing::DrawingSpec& spec) { return dxf::Make(spec, {.lineEnd = "\n"}); }
+
+std::string SoundText(const std::string& version) { return TextOf(Sound(version)); }
 
 std::string SoundBinary(const std::string& version) {
-  dxf::DrawingSpec spec = Sound(version);
-  spec.form = dxf::Form::Binary;
-  return dxf::Make(spec);
+  return dxf::Make(Sound(version), {.form = dxf::Form::Binary});
 }
 
 std::string Replaced(std::string text, const std::string& from, const std::string& to) {

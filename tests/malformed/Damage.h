@@ -8,7 +8,9 @@
 namespace damage {
 
 // A small drawing with something in every table and dictionary.
-dxf::DrawingSpec Sound(const std::string& version = "AC1032");
+drawing::DrawingSpec Sound(const std::string& version = "AC1032");
+// The text form with LF line ends.
+std::string TextOf(const drawing::DrawingSpec& spec);
 std::string SoundText(const std::string& version = "AC1032");
 std::string SoundBinary(const std::string& version = "AC1032");
 

@@ -41,19 +41,18 @@ TEST(DamagedBinary, ATextWithoutItsEndEndsTheFile) {
 }
 
 TEST(DamagedBinary, ALengthOfFourGigabytesAllocatesNothing) {
-  dxf::DrawingSpec spec = damage::Sound("AC1015");
-  spec.form = dxf::Form::Binary;
-  spec.thumbnail = std::string(100, 'x');
-  const std::string bytes =
-      Replaced(dxf::Make(spec), "\x5A\x00\x64\x00\x00\x00"s, "\x5A\x00\xFF\xFF\xFF\xFF"s);
+  drawing::DrawingSpec spec = damage::Sound("AC1015");
+  spec.previews = {{drawing::PreviewKind::Bitmap, std::string(100, 'x')}};
+  const std::string bytes = Replaced(dxf::Make(spec, {.form = dxf::Form::Binary}),
+                                     "\x5A\x00\x64\x00\x00\x00"s, "\x5A\x00\xFF\xFF\xFF\xFF"s);
   EXPECT_THAT(ReadBytes(bytes).Texts(L"Group Name"), ElementsAre("Pair"));
 }
 
 TEST(DamagedBinary, ATextOfMegabytesIsReadWhole) {
-  dxf::DrawingSpec spec = damage::Sound("AC1015");
-  spec.form = dxf::Form::Binary;
+  drawing::DrawingSpec spec = damage::Sound("AC1015");
   spec.settings.menu = std::string(3 << 20, 'm');
-  EXPECT_EQ(ReadBytes(dxf::Make(spec)).Texts(L"Menu").at(0).size(), std::size_t{3} << 20);
+  EXPECT_EQ(ReadBytes(dxf::Make(spec, {.form = dxf::Form::Binary})).Texts(L"Menu").at(0).size(),
+            std::size_t{3} << 20);
 }
 
 TEST(DamagedBinary, ASectionWithoutItsEndIsReadAndToldOf) {

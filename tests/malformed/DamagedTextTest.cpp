@@ -21,7 +21,7 @@ using zdx_test::ReadBytes;
 using zdx_test::Reading;
 
 // The entry of the root dictionary that leads to the groups, up to its handle.
-const std::string kGroupEntry = std::string("  3\n") + dxf::kGroupKey + "\n350\n";
+const std::string kGroupEntry = std::string("  3\n") + drawing::kGroupKey + "\n350\n";
 
 // The number of the line that begins with the first `text`.
 std::uint64_t LineOf(const std::string& bytes, const std::string& text) {
@@ -106,25 +106,26 @@ TEST(DamagedText, ADamagedSettingIsLeftOutNotTold) {
 }
 
 TEST(DamagedText, ADamagedCustomValueCostsItsEntryAlone) {
-  dxf::DrawingSpec spec = damage::Sound();
+  drawing::DrawingSpec spec = damage::Sound();
   spec.customProperties = {{"A", "1"}, {"B", "2"}, {"C", "3"}};
-  const Reading reading = ReadBytes(Replaced(dxf::Make(spec), "  1\n2\n", "rubbish\n"));
+  const Reading reading = ReadBytes(Replaced(damage::TextOf(spec), "  1\n2\n", "rubbish\n"));
   EXPECT_THAT(reading.Custom(), ElementsAre(testing::Pair("A", "1"), testing::Pair("C", "3")));
 }
 
 TEST(DamagedText, ADamagedSummaryRecordLeavesOutWhatStoodBehind) {
-  dxf::DrawingSpec spec = damage::Sound("AC1015");
+  drawing::DrawingSpec spec = damage::Sound("AC1015");
   spec.summary.author = "Somebody";
-  const Reading reading = ReadBytes(Replaced(dxf::Make(spec), "  4\nSomebody\n", "rubbish\n"));
+  const Reading reading = ReadBytes(Replaced(damage::TextOf(spec), "  4\nSomebody\n", "rubbish\n"));
   EXPECT_THAT(reading.Texts(kSummary, L"2"), ElementsAre("Sound"));
   EXPECT_THAT(reading.Texts(kSummary, L"4"), ElementsAre());
   EXPECT_THAT(reading.Texts(kSummary, L"9"), ElementsAre());
 }
 
 TEST(DamagedText, ASummaryRecordWithoutItsMarkerTakesNothingFromTheNextObject) {
-  dxf::DrawingSpec spec = damage::Sound("AC1015");
+  drawing::DrawingSpec spec = damage::Sound("AC1015");
   spec.rootEntries.clear();
-  std::string text = Without(dxf::Make(spec), std::string("100\n") + dxf::kXrecordMarker + "\n");
+  std::string text =
+      Without(damage::TextOf(spec), std::string("100\n") + drawing::kXrecordMarker + "\n");
   // What follows the title becomes another object's, a custom entry among it.
   text = Replaced(text, "Sound\n", "Sound\n  0\nOTHER\n");
   EXPECT_THAT(ReadBytes(text).Custom(), ElementsAre());
@@ -146,19 +147,19 @@ TEST(DamagedText, ACommentBehindASectionsBeginIsPassedOver) {
 }
 
 TEST(DamagedText, ADamagedClassDeclarationIsToldOf) {
-  dxf::DrawingSpec spec = damage::Sound();
+  drawing::DrawingSpec spec = damage::Sound();
   spec.classes = {{"SOMETYPE", "SomeClass"}};
-  spec.rootEntries = {{"Root", dxf::CustomObject("OTHERTYPE")}};
-  const std::string text = Replaced(dxf::Make(spec), "  2\nSomeClass\n", "SomeClass\n");
+  spec.rootEntries = {{"Root", drawing::CustomObject("OTHERTYPE")}};
+  const std::string text = Replaced(damage::TextOf(spec), "  2\nSomeClass\n", "SomeClass\n");
   const Reading reading = ReadBytes(text);
   EXPECT_THAT(reading.Texts(L"DWG Type"), ElementsAre("Zent"));
   ExpectWarningAt(reading, LineOf(text, "SomeClass\n"));
 }
 
 TEST(DamagedText, ATypeNameInAFreeRecordIsNoClass) {
-  dxf::DrawingSpec spec = damage::Sound();
-  spec.rootEntries = {{"Root", dxf::Xrecord({{100, "TerrDbTreeNode"}})}};
-  EXPECT_THAT(ReadBytes(dxf::Make(spec)).Texts(L"DWG Type"), ElementsAre("Zent"));
+  drawing::DrawingSpec spec = damage::Sound();
+  spec.rootEntries = {{"Root", drawing::Xrecord({{100, "TerrDbTreeNode"}})}};
+  EXPECT_THAT(ReadBytes(damage::TextOf(spec)).Texts(L"DWG Type"), ElementsAre("Zent"));
 }
 
 TEST(DamagedText, AFlawThatIsMetTwiceIsToldOnce) {
@@ -167,9 +168,7 @@ TEST(DamagedText, AFlawThatIsMetTwiceIsToldOnce) {
 }
 
 TEST(DamagedText, LineEndsThatWereConvertedTwiceAreRead) {
-  dxf::DrawingSpec spec = damage::Sound();
-  spec.lineEnd = "\r\r\n";
-  const Reading reading = ReadBytes(dxf::Make(spec));
+  const Reading reading = ReadBytes(dxf::Make(damage::Sound(), {.lineEnd = "\r\r\n"}));
   EXPECT_THAT(reading.Texts(L"Layer Name"), ElementsAre("0", "First", "Second", "Third"));
   EXPECT_EQ(reading.diagnostics.warningCount, 0u);
 }
@@ -186,7 +185,7 @@ TEST(DamagedText, ManySectionsAndALostHandleEndSoon) {
 TEST(DamagedText, DamageInTheRootDictionaryCostsTheEntriesBehindIt) {
   const std::string text = Replaced(SoundText(), "  3\nMY_DATA\n350\n", "rubbish\n");
   const Reading reading = ReadBytes(text);
-  EXPECT_THAT(reading.Texts(L"Named Object Name"), Contains(dxf::kGroupKey));
+  EXPECT_THAT(reading.Texts(L"Named Object Name"), Contains(drawing::kGroupKey));
   EXPECT_THAT(reading.Texts(L"Group Name"), ElementsAre("Pair"));
   ExpectWarningAt(reading, LineOf(text, "rubbish"));
 }
@@ -215,7 +214,7 @@ TEST(DamagedText, ZeroHandlesLoseOnlyWhatIsNamedByThem) {
     text.replace(at, text.find('\n', at + 5) - at, "\n  5\n0");
   }
   const Reading reading = ReadBytes(text);
-  EXPECT_THAT(reading.Texts(L"Named Object Name"), Contains(dxf::kGroupKey));
+  EXPECT_THAT(reading.Texts(L"Named Object Name"), Contains(drawing::kGroupKey));
   EXPECT_THAT(reading.Texts(L"Group Name"), ElementsAre());
   EXPECT_THAT(reading.Texts(L"Layer Name"), ElementsAre("0", "First", "Second", "Third"));
 }
@@ -228,13 +227,13 @@ TEST(DamagedText, ADictionaryThatHoldsItselfEnds) {
   const std::size_t entry = text.find(kGroupEntry) + kGroupEntry.size();
   std::string circle = text;
   circle.replace(entry, text.find('\n', entry) - entry, handle);
-  EXPECT_THAT(ReadBytes(circle).Texts(L"Group Name"), Contains(dxf::kGroupKey));
+  EXPECT_THAT(ReadBytes(circle).Texts(L"Group Name"), Contains(drawing::kGroupKey));
 }
 
 TEST(DamagedText, ADictionaryEntryThatLeadsToALineIsNoDictionary) {
-  dxf::DrawingSpec spec = damage::Sound();
-  spec.rootEntries.push_back({"Root", dxf::ObjectAt("FFFFFF")});
-  const Reading reading = ReadBytes(dxf::Make(spec));
+  drawing::DrawingSpec spec = damage::Sound();
+  spec.rootEntries.push_back({"Root", drawing::ObjectAt("FFFFFF")});
+  const Reading reading = ReadBytes(damage::TextOf(spec));
   EXPECT_THAT(reading.Texts(L"DWG Type"), ElementsAre("Zent"));
   EXPECT_THAT(reading.Texts(L"Named Object Name"), Contains("Root"));
 }

@@ -11,10 +11,9 @@ using zdx_test::ReadBytes;
 
 // The smallest drawings that have everything that is read.
 std::string Small(dxf::Form form, const std::string& version) {
-  dxf::DrawingSpec spec = damage::Sound(version);
-  spec.form = form;
+  drawing::DrawingSpec spec = damage::Sound(version);
   spec.settings.dimblk = "BoxBlank";
-  return dxf::Make(spec);
+  return dxf::Make(spec, {.form = form, .lineEnd = "\n"});
 }
 
 // Reads `bytes`; a FileError is as good as an answer, anything else fails the test.

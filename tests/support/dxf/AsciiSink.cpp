@@ -1,11 +1,14 @@
 #include <algorithm>
 #include <charconv>
 
+#include "support/drawing/Tags.h"
 #include "support/dxf/TagSink.h"
-#include "support/dxf/Tags.h"
 
 namespace dxf {
 namespace {
+
+using drawing::KindOf;
+using drawing::ValueKind;
 
 constexpr std::size_t kCodeWidth = 3;
 constexpr std::size_t kLongestReal = 32;

@@ -1,11 +1,14 @@
 #include <bit>
 #include <stdexcept>
 
+#include "support/drawing/Tags.h"
 #include "support/dxf/TagSink.h"
-#include "support/dxf/Tags.h"
 
 namespace dxf {
 namespace {
+
+using drawing::KindOf;
+using drawing::ValueKind;
 
 // In files with codes of one byte this stands before a code of two.
 constexpr std::uint64_t kWideCodeMark = 0xFF;

@@ -66,14 +66,6 @@ std::string PaperName(const char* name, std::size_t layout) {
 
 }  // namespace
 
-BlockSpec XrefBlock(std::string name, std::string path, Xref xref) {
-  BlockSpec block;
-  block.name = std::move(name);
-  block.path = std::move(path);
-  block.xref = xref;
-  return block;
-}
-
 std::vector<PlannedBlock> PlanBlocks(const DrawingSpec& spec, Version version, Handles& handles) {
   static const std::vector<EntitySpec> kNone;
   const SpaceNames names = NamesOfSpaces(version);

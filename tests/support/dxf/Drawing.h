@@ -3,12 +3,14 @@
 #include <string>
 #include <vector>
 
-#include "support/dxf/DrawingSpec.h"
-#include "support/dxf/Handles.h"
+#include "support/drawing/DrawingSpec.h"
+#include "support/drawing/Handles.h"
 #include "support/dxf/TagWriter.h"
 
 // Inner header of the maker: what its sections share while one drawing is written.
 namespace dxf {
+
+using namespace drawing;
 
 // One block with what its record, its BLOCKS entry and its layout need to know of each other.
 struct PlannedBlock {

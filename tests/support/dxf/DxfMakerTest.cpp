@@ -13,6 +13,8 @@
 namespace dxf {
 namespace {
 
+using namespace drawing;
+
 using Pair = std::pair<std::string, std::string>;
 
 // The tags of a text file with LF line ends, codes without their padding.
@@ -27,16 +29,17 @@ std::vector<Pair> TagsOf(const std::string& file) {
   return tags;
 }
 
-DrawingSpec UnixDrawing(const std::string& version) {
+DrawingSpec Drawn(const std::string& version) {
   DrawingSpec spec;
   spec.version = version;
-  spec.lineEnd = "\n";
   return spec;
 }
 
+std::string MakeUnix(const DrawingSpec& spec) { return Make(spec, {.lineEnd = "\n"}); }
+
 std::vector<std::string> SectionsOf(const std::string& version) {
   std::vector<std::string> names;
-  const std::vector<Pair> tags = TagsOf(Make(UnixDrawing(version)));
+  const std::vector<Pair> tags = TagsOf(MakeUnix(Drawn(version)));
   for (std::size_t i = 0; i + 1 < tags.size(); ++i) {
     if (tags[i] == Pair("0", "SECTION")) names.push_back(tags[i + 1].second);
   }
@@ -100,11 +103,11 @@ TEST(DxfMaker, TheLaterVersionsHaveAllSectionsInOrder) {
 }
 
 TEST(DxfMaker, NoHandleIsGivenTwiceAndTheSeedIsAboveAll) {
-  DrawingSpec spec = UnixDrawing("AC1032");
+  DrawingSpec spec = Drawn("AC1032");
   spec.entities = {Line("0", {}, {1, 1}), Insert("Sign", {{"NO", "1"}})};
   spec.entities[0].handle = "2C";
   spec.blocks = {{"Sign", {{"NO", "", "Number?"}}}};
-  const std::vector<Pair> tags = TagsOf(Make(spec));
+  const std::vector<Pair> tags = TagsOf(MakeUnix(spec));
   std::set<unsigned long> handles;
   unsigned long seed = 0;
   for (std::size_t i = 1; i < tags.size(); ++i) {
@@ -121,7 +124,7 @@ TEST(DxfMaker, NoHandleIsGivenTwiceAndTheSeedIsAboveAll) {
 }
 
 TEST(DxfMaker, ModelSpaceHasTheHandleThatIsKeptForIt) {
-  const std::vector<Pair> tags = TagsOf(Make(UnixDrawing("AC1032")));
+  const std::vector<Pair> tags = TagsOf(MakeUnix(Drawn("AC1032")));
   const auto name = std::find(tags.begin(), tags.end(), Pair("2", "*Model_Space"));
   ASSERT_NE(name, tags.end());
   const auto begin =
@@ -131,7 +134,7 @@ TEST(DxfMaker, ModelSpaceHasTheHandleThatIsKeptForIt) {
 }
 
 TEST(DxfMaker, AValueOfTheWrongKindIsRefused) {
-  DrawingSpec spec = UnixDrawing("AC1032");
+  DrawingSpec spec = Drawn("AC1032");
   spec.rootEntries = {{"Bad", Xrecord({{70, "text"}})}};
   EXPECT_THROW(Make(spec), std::invalid_argument);
 }

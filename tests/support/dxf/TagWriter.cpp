@@ -7,6 +7,11 @@
 namespace dxf {
 namespace {
 
+using drawing::HasObjects;
+using drawing::KindOf;
+using drawing::RawText;
+using drawing::ValueKind;
+
 constexpr int kSubclassMarker = 100;
 
 [[noreturn]] void Refuse(int code) {

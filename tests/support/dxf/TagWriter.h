@@ -3,12 +3,15 @@
 #include <string_view>
 #include <vector>
 
+#include "support/drawing/Tags.h"
+#include "support/drawing/Version.h"
 #include "support/dxf/TagSink.h"
-#include "support/dxf/Tags.h"
 #include "support/dxf/TextEncoder.h"
-#include "support/dxf/Version.h"
 
 namespace dxf {
+
+using drawing::Tag;
+using drawing::Version;
 
 // Writes tags to a sink as files of one version hold them.  Sink and encoder must outlive it.
 class TagWriter {

@@ -1,8 +1,9 @@
 #pragma once
 
-#include <memory>
 #include <string>
 #include <string_view>
+
+#include "support/drawing/PageEncoder.h"
 
 namespace dxf {
 
@@ -10,23 +11,18 @@ namespace dxf {
 class TextEncoder {
  public:
   // For files of UTF-8.
-  TextEncoder();
+  TextEncoder() = default;
 
   // For files of the code page `codePage`: ANSI_ and its number.  Throws std::invalid_argument if
   // the system doesn't know that page.
-  explicit TextEncoder(std::string_view codePage);
+  explicit TextEncoder(std::string_view codePage) : page_(codePage) {}
 
-  ~TextEncoder();
-
-  // Control characters and the caret become caret escapes; what the code page lacks becomes
-  // \U+XXXX, one escape for each UTF-16 unit.  Throws std::invalid_argument if `utf8` isn't UTF-8.
+  // As the page encodes it, with control characters and the caret as caret escapes.  Throws
+  // std::invalid_argument if `utf8` isn't UTF-8.
   std::string Encode(std::string_view utf8) const;
 
  private:
-  struct Page;
-  void AppendCharacter(std::string& text, std::string_view character) const;
-
-  std::unique_ptr<Page> page_;
+  drawing::PageEncoder page_;
 };
 
 }  // namespace dxf

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace drawing {
+
+// Turns UTF-8 texts into the bytes that a file of some encoding holds for them.
+class PageEncoder {
+ public:
+  // For files of UTF-8.
+  PageEncoder();
+
+  // For files of the code page `codePage`: ANSI_ and its number.  Throws std::invalid_argument if
+  // the system doesn't know that page.
+  explicit PageEncoder(std::string_view codePage);
+
+  ~PageEncoder();
+
+  // What the code page lacks becomes \U+XXXX, one escape for each UTF-16 unit.  Throws
+  // std::invalid_argument if `utf8` isn't UTF-8.
+  std::string Encode(std::string_view utf8) const;
+
+ private:
+  struct Page;
+  void AppendCharacter(std::string& text, std::string_view character) const;
+
+  std::unique_ptr<Page> page_;
+};
+
+}  // namespace drawing
