@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "backends/database/dwg/bits/Checksums.h"
-#include "formats/dwg/HandMade.h"
+#include "support/handmade/HandMade.h"
 
 namespace zdx::dwg {
 namespace {

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "backends/database/dwg/container/ReedSolomon.h"
-#include "formats/dwg/HandMade.h"
-#include "formats/dwg/container/CodeWords.h"
+#include "support/handmade/CodeWords.h"
+#include "support/handmade/HandMade.h"
 
 namespace zdx::dwg {
 namespace {

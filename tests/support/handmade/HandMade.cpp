@@ -1,4 +1,4 @@
-#include "formats/dwg/HandMade.h"
+#include "support/handmade/HandMade.h"
 
 #include <bit>
 

@@ -1,6 +1,6 @@
-#include "formats/dwg/container/CodeWords.h"
+#include "support/handmade/CodeWords.h"
 
-#include "formats/dwg/HandMade.h"
+#include "support/handmade/HandMade.h"
 
 namespace handmade {
 namespace {
