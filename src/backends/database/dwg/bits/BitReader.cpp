@@ -53,9 +53,13 @@ void BitReader::Skip(std::uint64_t bits) {
 // False, and a failure, if the run has no more `bits`.
 bool BitReader::Take(std::uint64_t bits) {
   if (!failed_ && bits <= Left()) return true;
+  Fail();
+  return false;
+}
+
+void BitReader::Fail() {
   failed_ = true;
   at_ = end_;
-  return false;
 }
 
 std::uint64_t BitReader::Bits(unsigned count) {
@@ -104,7 +108,7 @@ std::uint32_t BitReader::BL() {
     case kZero:
       return 0;
     default:
-      failed_ = true;
+      Fail();
       return 0;
   }
 }
@@ -120,7 +124,7 @@ double BitReader::BD() {
     case kNought:
       return 0.0;
     default:
-      failed_ = true;
+      Fail();
       return 0.0;
   }
 }
@@ -143,7 +147,7 @@ std::uint64_t BitReader::UMC() {
     value |= (byte & 0x7F) << shift;
     if ((byte & 0x80) == 0) return value;
   }
-  failed_ = true;
+  Fail();
   return 0;
 }
 
@@ -158,7 +162,7 @@ std::int64_t BitReader::MC() {
     value |= (byte & 0x3F) << shift;
     return static_cast<std::int64_t>((byte & 0x40) != 0 ? 0 - value : value);
   }
-  failed_ = true;
+  Fail();
   return 0;
 }
 
@@ -169,7 +173,7 @@ std::uint64_t BitReader::MS() {
     value |= (word & 0x7FFF) << shift;
     if ((word & 0x8000) == 0) return value;
   }
-  failed_ = true;
+  Fail();
   return 0;
 }
 
@@ -178,7 +182,7 @@ HandleReference BitReader::H() {
   reference.code = static_cast<unsigned>(Bits(4));
   const auto count = static_cast<unsigned>(Bits(4));
   if (count > 8) {
-    failed_ = true;
+    Fail();
     return {};
   }
   reference.value = Bits(8 * count);
@@ -195,7 +199,7 @@ std::string BitReader::Bytes(std::uint64_t count) {
   } else {
     for (std::uint64_t i = 0; i < whole; ++i) bytes.push_back(static_cast<char>(RC()));
   }
-  if (whole < count) Take(count * 8);
+  if (whole < count) Fail();
   return bytes;
 }
 

@@ -64,6 +64,7 @@ class BitReader {
 
  private:
   bool Take(std::uint64_t bits);
+  void Fail();
   // A number of `count` bytes, up to 8, low byte first.
   std::uint64_t RawBytes(unsigned count);
 

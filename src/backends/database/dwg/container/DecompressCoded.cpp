@@ -27,7 +27,7 @@ class CodedDecompressor {
       if (!CopyLiterals()) return false;
       if (AtEnd()) return !failed_;
       if (!CopyMatches()) return false;
-      if (AtEnd() && literals_ == 0) return !failed_;
+      if (ended_) return true;
     }
     return false;
   }
@@ -67,13 +67,15 @@ class CodedDecompressor {
   }
 
   // Follows instructions until one says that literals come: `literals_` tells how many or, if it is
-  // 0, the opcode that was read last.
+  // 0, the opcode that was read last.  The stream may also end behind an instruction.
   bool CopyMatches() {
     opcode_ = Next();
     for (;;) {
       if (!CopyMatch()) return false;
       literals_ = opcode_ & 7;
-      if (literals_ != 0 || AtEnd()) return true;
+      if (literals_ != 0) return true;
+      ended_ = AtEnd();
+      if (ended_) return true;
       opcode_ = Next();
       if (opcode_ >> 4 == 0) return true;
       if (opcode_ >> 4 == 0x0F) opcode_ &= 0x0F;
@@ -127,6 +129,7 @@ class CodedDecompressor {
   OutputWindow out_;
   std::size_t at_ = 0;
   bool failed_ = false;
+  bool ended_ = false;
   unsigned opcode_ = 0;
   std::size_t literals_ = 0;
 };

@@ -75,7 +75,7 @@ Instruction ReadInstruction(Source& source, unsigned opcode) {
   } else {
     const std::size_t length = opcode & 7;
     instruction.length = length != 0 ? length + 2 : 9 + source.Extension();
-    ReadDistance(source, std::size_t{opcode & 8} << 11 | 0x4000, instruction);
+    ReadDistance(source, 0x4000 + (std::size_t{opcode & 8} << 11), instruction);
   }
   return instruction;
 }
