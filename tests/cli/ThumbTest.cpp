@@ -122,8 +122,8 @@ TEST_F(Thumb, APictureInBmpIsTheBitmapBehindTheHeadOfAFile) {
 TEST_F(Thumb, TheMetafileHasAHeadThatTellsItsSize) {
   const std::string file = Written(pictures::SmallBitmap(), "out.wmf");
   std::string head = Number(0x9AC6CDD7, 4) + Number(0, 2) + Number(0, 4) + Number(4, 2) +
-                     Number(2, 2) + Number(96, 2) + Number(0, 4);
-  head += Number(0xCDD7 ^ 0x9AC6 ^ 4 ^ 2 ^ 96, 2);
+                     Number(2, 2) + Number(72, 2) + Number(0, 4);
+  head += Number(0xCDD7 ^ 0x9AC6 ^ 4 ^ 2 ^ 72, 2);
   EXPECT_EQ(file.substr(0, 22), head);
   EXPECT_EQ(file.substr(22),
             pictures::Metafile(

@@ -37,7 +37,8 @@ std::string BmpFile(const ThumbnailPicture& picture) {
 // A key, nothing, the corners, units an inch, nothing, and what makes all its words cancel out.
 std::string WmfFile(const ThumbnailPicture& picture) {
   constexpr std::uint32_t kMostUnits = 0x7FFF;
-  constexpr std::uint32_t kUnitsAnInch = 96;
+  // Most viewers draw an inch as 72 pixels unless they are told otherwise.
+  constexpr std::uint32_t kUnitsAnInch = 72;
   std::string bytes;
   if (picture.width <= kMostUnits && picture.height <= kMostUnits) {
     std::uint32_t sum = 0;

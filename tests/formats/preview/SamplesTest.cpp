@@ -1,76 +1,73 @@
-// The pictures in real drawings, where a collection of them lies beside the project: each is shown
-// in the size that the drawing's truth file tells.
+// The pictures in real drawings, where a collection of them lies beside the project: those that the
+// drawing's truth file tells, byte for byte, and each is shown in its size.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
-#include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
+#include <memory>
 #include <nlohmann/json.hpp>
+#include <variant>
 
+#include "ZDXEngine/Utf8.h"
+#include "backends/database/dwg/DwgDrawing.h"
 #include "formats/preview/Shown.h"
-#include "support/pictures/Pictures.h"
+#include "support/Process.h"
+#include "support/Samples.h"
 
 namespace {
 
 using nlohmann::json;
 using Kind = zdx::model::StoredPicture::Kind;
 
-const std::filesystem::path kSamples = std::filesystem::path(ZDX_SOURCE_DIR) / "../shared/samples";
-
-std::vector<std::string> SampleNames() {
-  std::vector<std::string> names;
-  std::error_code none;
-  for (const auto& entry : std::filesystem::directory_iterator(kSamples, none)) {
-    if (entry.path().extension() == ".dwg") names.push_back(entry.path().filename().string());
-  }
-  std::sort(names.begin(), names.end());
-  return names;
+std::vector<zdx::model::StoredPicture> PicturesOf(const std::string& name) {
+  const auto path = zdx_test::SampleFolder() / name;
+  auto file = zdx::file::MappedFile::Open(ZDXEngine::WideFromUtf8(path.string()));
+  auto opened = zdx::dwg::DwgDrawing::Open(std::move(std::get<zdx::file::MappedFile>(file)),
+                                           std::make_shared<zdx::model::Report>());
+  return std::get<std::unique_ptr<zdx::model::Drawing>>(opened)->PreviewPictures();
 }
 
-std::string Contents(const std::filesystem::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
-
-// How the picture begins: pictures stand in the files as they are.
-std::string BeginOf(const json& picture) {
-  if (picture.at("kind") == "PNG") return "\x89PNG\r\n\x1A\n";
-  return pictures::Number(40, 4) + pictures::Number(picture.at("width").get<std::uint32_t>(), 4) +
-         pictures::Number(picture.at("height").get<std::uint32_t>(), 4);
+std::string Sha256(const std::string& bytes) {
+  const auto path =
+      std::filesystem::temp_directory_path() / ("zdx-picture-" + std::to_string(getpid()));
+  std::ofstream(path, std::ios::binary) << bytes;
+  zdx_test::Command command;
+  command.program = "/usr/bin/sha256sum";
+  command.arguments = {path.string()};
+  const zdx_test::Outcome outcome = zdx_test::RunCommand(command);
+  std::filesystem::remove(path);
+  return outcome.out.substr(0, outcome.out.find(' '));
 }
 
 class PreviewSamples : public testing::TestWithParam<std::string> {};
 
-TEST_P(PreviewSamples, AreShownInTheirSize) {
-  const json truth = json::parse(Contents(kSamples / "truth" / (GetParam() + ".json")));
-  const std::string file = Contents(kSamples / GetParam());
-  for (const json& picture : truth.at("preview")) {
-    const std::size_t at = file.find(BeginOf(picture));
-    ASSERT_NE(at, std::string::npos);
-    const Kind kind = picture.at("kind") == "PNG" ? Kind::kPng : Kind::kBitmap;
-    const auto shown =
-        preview_test::Show(kind, file.substr(at, picture.at("bytes").get<std::size_t>()));
+TEST_P(PreviewSamples, AreThoseOfTheDrawing) {
+  json truth;
+  std::ifstream(zdx_test::TruthOf(GetParam())) >> truth;
+  const json& expected = truth.at("preview");
+  const std::vector<zdx::model::StoredPicture> pictures = PicturesOf(GetParam());
+  ASSERT_EQ(pictures.size(), expected.size());
+  for (std::size_t i = 0; i < pictures.size(); ++i) {
+    EXPECT_EQ(pictures[i].kind, expected[i].at("kind") == "PNG" ? Kind::kPng : Kind::kBitmap);
+    EXPECT_EQ(pictures[i].bytes.size(), expected[i].at("bytes").get<std::size_t>());
+    EXPECT_EQ(Sha256(pictures[i].bytes), expected[i].at("sha256"));
+    const auto shown = preview_test::Show(pictures[i].kind, pictures[i].bytes);
     EXPECT_EQ(preview_test::RefusalOf(shown), L"");
-    EXPECT_EQ(preview_test::DibOf(shown).head().biWidth, picture.at("width").get<int>());
-    EXPECT_EQ(preview_test::DibOf(shown).head().biHeight, picture.at("height").get<int>());
+    EXPECT_EQ(preview_test::DibOf(shown).head().biWidth, expected[i].at("width").get<int>());
+    EXPECT_EQ(preview_test::DibOf(shown).head().biHeight, expected[i].at("height").get<int>());
   }
 }
 
 GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(PreviewSamples);
-INSTANTIATE_TEST_SUITE_P(
-    Each, PreviewSamples, testing::ValuesIn(SampleNames()), [](const auto& info) {
-      std::string name = info.param;
-      std::replace_if(
-          name.begin(), name.end(),
-          [](char c) { return std::isalnum(static_cast<unsigned char>(c)) == 0; }, '_');
-      return name;
-    });
+INSTANTIATE_TEST_SUITE_P(Dwg, PreviewSamples, testing::ValuesIn(zdx_test::SampleNames(".dwg")),
+                         [](const auto& info) { return zdx_test::SampleTestName(info.param); });
 
 TEST(PreviewSampleFolder, IsReadWhereItLies) {
-  if (SampleNames().empty()) {
-    GTEST_SKIP() << "no collection of real drawings at " << kSamples << ": its tests are left out";
+  if (zdx_test::SampleNames(".dwg").empty()) {
+    GTEST_SKIP() << "no collection of real drawings at " << zdx_test::SampleFolder()
+                 << ": its tests are left out";
   }
   SUCCEED();
 }

@@ -19,6 +19,7 @@ using handmade::Padded;
 using handmade::PagedBytes;
 using handmade::PagedPart;
 using handmade::PagedSpec;
+using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
@@ -98,15 +99,30 @@ TEST(PagedContainer, AWrongSumOfAPagesHeadIsTold) {
 }
 
 // The type, the section's number and the stored size.
-TEST(PagedContainer, APageWithAnotherHeadIsNotRead) {
+// One word of the three that tell which page it is may be damaged.
+TEST(PagedContainer, APageWithADamagedHeadIsReadAllTheSame) {
   const PagedBytes made = MakePaged(Spec());
-  for (const std::size_t at : {0x00u, 0x04u, 0x0Bu}) {
+  for (const std::size_t at : {0x00u, 0x04u, 0x10u}) {
     Opened file = Open(Damaged(made.bytes, made.pages[0] + at));
-    EXPECT_EQ(file.Part(SectionId::kObjects, 0, 0x80), std::nullopt);
-    EXPECT_EQ(file.Part(SectionId::kObjects, 0x80, 0x40), kSecond.substr(0, 0x40));
+    EXPECT_EQ(file.Part(SectionId::kObjects, 0, 0x80), kFirst.substr(0, 0x80));
     EXPECT_THAT(file.Warnings(), ElementsAre(L"The head of a page is damaged."));
     EXPECT_EQ(file.report().warnings[0].offset, made.pages[0]);
   }
+}
+
+TEST(PagedContainer, AnotherPageIsNotRead) {
+  const PagedBytes made = MakePaged(Spec());
+  Opened file = Open(Damaged(Damaged(made.bytes, made.pages[0] + 0x04), made.pages[0] + 0x10));
+  EXPECT_EQ(file.Part(SectionId::kObjects, 0, 0x80), std::nullopt);
+  EXPECT_EQ(file.Part(SectionId::kObjects, 0x80, 0x40), kSecond.substr(0, 0x40));
+  EXPECT_THAT(file.Warnings(), Contains(L"A page can't be read."));
+}
+
+TEST(PagedContainer, APageThatRunsPastTheFileIsNotRead) {
+  const PagedBytes made = MakePaged(Spec());
+  Opened file = Open(Damaged(made.bytes, made.pages[0] + 0x0B));
+  EXPECT_EQ(file.Part(SectionId::kObjects, 0, 0x80), std::nullopt);
+  EXPECT_THAT(file.Warnings(), ElementsAre(L"A page can't be read."));
 }
 
 TEST(PagedContainer, APageThatTheMapDoesNotPlaceIsTold) {
