@@ -54,9 +54,38 @@ TEST(RefusedFile, BinaryWithConvertedLineEndsIsNotADrawing) {
       WriteFile(damage::Replaced(damage::SoundBinary(), "\r\n\x1A", "\n\x1A")));
 }
 
-TEST(RefusedFile, DwgIsNotADrawingYet) {
+TEST(RefusedFile, EmptyDwgIsNotADrawing) {
   for (const char* suffix : {".dwg", ".dwt", ".DWS"}) {
-    ExpectRefused<InvalidFormat>(WriteFile("AC1032\0\0\0\0\0\0\x03\x01"s, suffix));
+    ExpectRefused<InvalidFormat>(WriteFile("", suffix));
+  }
+}
+
+TEST(RefusedFile, OtherBytesNamedDwgAreNotADrawing) {
+  ExpectRefused<InvalidFormat>(WriteFile(std::string(100000, '\0'), ".dwg"));
+  ExpectRefused<InvalidFormat>(WriteFile("AC10", ".dwg"));
+  ExpectRefused<InvalidFormat>(WriteFile("ac1032" + std::string(500, '\0'), ".dwg"));
+  ExpectRefused<InvalidFormat>(WriteFile("ACxxxx" + std::string(500, '\0'), ".dwg"));
+}
+
+TEST(RefusedFile, DxfNamedDwgIsNotADrawing) {
+  ExpectRefused<InvalidFormat>(WriteFile(damage::SoundText(), ".dwg"));
+  ExpectRefused<InvalidFormat>(WriteFile(damage::SoundBinary(), ".dwg"));
+}
+
+TEST(RefusedFile, OtherVersionsOfDwgAreNamed) {
+  for (const std::string magic : {"AC1009", "AC1012", "AC1013", "AC1016", "AC1033", "AC1035"}) {
+    ExpectRefused<ZDXEngine::FileError>(WriteFile(magic + std::string(1000, '\0'), ".dwg"));
+    const ZDXEngine::Diagnostics diagnostics = ZDXEngine::Diagnostics::LastOpening();
+    ASSERT_EQ(diagnostics.errors.size(), 1u);
+    EXPECT_NE(diagnostics.errors[0].text.find(ZDXEngine::WideFromUtf8(magic)), std::wstring::npos);
+  }
+}
+
+TEST(RefusedFile, DwgThatEndsBehindItsMagicIsRefused) {
+  for (const char* magic : {"AC1014", "AC1018", "AC1021", "AC1032"}) {
+    ExpectRefused<ZDXEngine::FileError>(WriteFile(magic, ".dwg"));
+    ExpectRefused<ZDXEngine::FileError>(WriteFile(magic + std::string(22, '\0'), ".dwg"));
+    ExpectRefused<ZDXEngine::FileError>(WriteFile(magic + std::string(2000, '\0'), ".dwg"));
   }
 }
 

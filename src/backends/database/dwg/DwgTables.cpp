@@ -65,20 +65,18 @@ std::vector<model::ObjectKey> DwgDrawing::CollectRecords(model::TableKind kind) 
     return {};
   }
   std::vector<model::ObjectKey> records;
+  // A record that stands in both places is told once.
+  std::unordered_set<model::Handle> known;
   const auto add = [&](const HandleReference& reference) {
-    if (const auto record = Find(reference.From(table))) records.push_back(*record);
+    const model::Handle handle = reference.From(table);
+    if (!known.insert(handle).second) return;
+    if (const auto record = Find(handle)) records.push_back(*record);
   };
   for (const Key key : {row.firstApart, row.secondApart}) {
     if (const FieldValues::Value* const apart = object->fields.Find(key)) add(apart->handle);
   }
   for (const HandleReference& reference : object->fields.Handles(Key::kEntries)) add(reference);
-  // A record that stands in both places is told once.
-  std::vector<model::ObjectKey> told;
-  std::unordered_set<std::uint64_t> known;
-  for (const model::ObjectKey record : records) {
-    if (known.insert(static_cast<std::uint64_t>(record)).second) told.push_back(record);
-  }
-  return told;
+  return records;
 }
 
 std::optional<std::wstring> DwgDrawing::RecordName(model::TableKind table,

@@ -14,6 +14,9 @@ constexpr std::uint64_t kHeadSize = 16 + 4 + 1;
 constexpr std::size_t kCountAt = 16 + 4;
 constexpr std::uint64_t kEntrySize = 1 + 4 + 4;
 
+// More than all pictures of a real file take together.
+constexpr std::uint64_t kMostBytes = std::uint64_t{16} << 20;
+
 struct PictureKind {
   std::uint8_t code;
   model::StoredPicture::Kind kind;
@@ -49,18 +52,21 @@ std::vector<model::StoredPicture> ReadPreviewArea(Section& section, model::Repor
     warn(L"The list of preview pictures ends early.");
     return pictures;
   }
+  std::uint64_t taken = 0;
   for (std::string_view entry = *list; !entry.empty(); entry.remove_prefix(kEntrySize)) {
     const auto kind = KindOf(LittleEndian<std::uint8_t>(entry));
     const auto address = LittleEndianAt<std::uint32_t>(entry, 1);
     const auto size = LittleEndianAt<std::uint32_t>(entry, 5);
     if (!kind || size == 0) continue;
     std::string bytesScratch;
-    const auto bytes =
-        address < place ? std::nullopt : section.Bytes(address - place, size, bytesScratch);
+    const auto bytes = address < place || size > kMostBytes - taken
+                           ? std::nullopt
+                           : section.Bytes(address - place, size, bytesScratch);
     if (!bytes) {
       warn(L"A preview picture is said to lie outside of the preview.");
       continue;
     }
+    taken += size;
     pictures.push_back({*kind, std::string(*bytes), address});
   }
   return pictures;

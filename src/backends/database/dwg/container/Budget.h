@@ -1,6 +1,7 @@
 // How much one file may cost.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 
 namespace zdx::dwg {
@@ -12,6 +13,9 @@ class Budget {
   static Budget OfMemory(std::uint64_t fileSize) { return {std::uint64_t{32} << 20, 3 * fileSize}; }
   // For the bytes of the file that are gone through: in a sound one each is so once.
   static Budget OfReading(std::uint64_t fileSize) { return {std::uint64_t{4} << 20, 2 * fileSize}; }
+
+  // For the pages of its sections: none is smaller than 32 bytes.
+  static Budget OfPages(std::uint64_t fileSize) { return {0, fileSize / 32}; }
 
   // False if that much isn't left.
   bool Take(std::uint64_t bytes) {

@@ -48,7 +48,8 @@ class CodedContainer : public Container {
       : bytes_(bytes),
         report_(report),
         memory_(Budget::OfMemory(bytes.size())),
-        reading_(Budget::OfReading(bytes.size())) {}
+        reading_(Budget::OfReading(bytes.size())),
+        pagesLeft_(Budget::OfPages(bytes.size())) {}
 
   // What keeps the maps from being read; nullopt if nothing does.
   std::optional<model::Finding> ReadMaps();
@@ -72,6 +73,7 @@ class CodedContainer : public Container {
   model::Report& report_;
   Budget memory_;
   Budget reading_;
+  Budget pagesLeft_;
   PageMap pageMap_;
   std::map<SectionId, SectionEntry> entries_;
   std::map<SectionId, PagedSection> sections_;
@@ -163,7 +165,7 @@ void CodedContainer::ReadPageMap(std::string_view map) {
     const auto size = LittleEndian<std::uint64_t>(map);
     const auto id = static_cast<std::int64_t>(LittleEndianAt<std::uint64_t>(map, 8));
     if (size > kMostSize || address > kMostSize) return;
-    if (id >= 0) pageMap_.Add(id, {address, size});
+    if (id >= 0 && size != 0 && address < bytes_.size()) pageMap_.Add(id, {address, size});
     address += size;
   }
 }
@@ -206,6 +208,10 @@ std::vector<SectionPage> CodedContainer::ReadPages(std::string_view list,
     if (page.start >= section.size || page.size > kMostSize) continue;
     page.address = AddressOf(word(2)).value_or(0);
     if (!section.withParity && page.storedSize >= page.size) page.plainAt = page.address;
+    if (!pagesLeft_.Take(1)) {
+      Warn(L"A section is said to have more pages than the file has room for.", page.address);
+      break;
+    }
     pages.push_back(page);
   }
   return pages;
@@ -216,9 +222,9 @@ Section* CodedContainer::Find(SectionId id) {
   if (entry == entries_.end()) return nullptr;
   auto found = sections_.find(id);
   if (found == sections_.end()) {
-    const SectionEntry& section = entry->second;
+    SectionEntry& section = entry->second;
     const auto read = [this, &section](const SectionPage& page) { return ReadPage(section, page); };
-    found = sections_.try_emplace(id, section.size, section.pages, read).first;
+    found = sections_.try_emplace(id, section.size, std::move(section.pages), read).first;
   }
   return &found->second;
 }
@@ -261,12 +267,15 @@ std::optional<PageBytes> CodedContainer::ReadCodedPage(const SectionPage& page) 
     return std::nullopt;
   }
   if (!content->right) {
-    std::optional<Content> mended = CodedPage(page, true);
-    if (mended->right) {
+    // A page may be large: there is never more than one form of it.
+    content.reset();
+    content = CodedPage(page, true);
+    if (content->right) {
       Warn(L"A page is damaged; it was mended.", page.address);
-      content = std::move(mended);
     } else {
       Warn(L"The checksum of a page is wrong.", page.address);
+      content.reset();
+      content = CodedPage(page, false);
     }
   }
   return PageBytes{std::move(content->bytes), {}};

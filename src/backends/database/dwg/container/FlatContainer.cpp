@@ -87,7 +87,7 @@ std::variant<std::unique_ptr<Container>, model::Finding> OpenFlat(std::string_vi
   const std::optional<FileHead> head = ReadFileHead(bytes);
   if (!head) return model::Finding{L"The file ends within its head.", bytes.size(), {}, {}};
   const auto count = LittleEndianAt<std::uint32_t>(bytes, kLocatorCountAt);
-  if (count > kMostLocators) {
+  if (count == 0 || count > kMostLocators) {
     return model::Finding{L"The list of sections can't be right.", kLocatorCountAt, {}, {}};
   }
   const std::size_t end = kLocatorsAt + count * kLocatorSize;

@@ -16,6 +16,7 @@ class OutputWindow {
 
   bool Append(std::string_view bytes) {
     if (bytes.size() > most_ - out_.size()) return false;
+    MakeRoom(bytes.size());
     out_.append(bytes);
     return true;
   }
@@ -23,6 +24,7 @@ class OutputWindow {
   // Copies `length` bytes that begin `distance` before the end.  They may overlap their copy.
   bool Copy(std::size_t distance, std::size_t length) {
     if (distance == 0 || distance > out_.size() || length > most_ - out_.size()) return false;
+    MakeRoom(length);
     const std::size_t begin = out_.size();
     out_.resize(begin + length);
     char* const to = out_.data() + begin;
@@ -38,6 +40,12 @@ class OutputWindow {
   std::string Take() { return std::move(out_); }
 
  private:
+  // The string would grow by doubling, whatever its bound.
+  void MakeRoom(std::size_t more) {
+    const std::size_t needed = out_.size() + more;
+    if (needed > out_.capacity()) out_.reserve(std::max(needed, std::min(most_, 2 * needed)));
+  }
+
   std::size_t most_;
   std::string out_;
 };

@@ -67,7 +67,8 @@ class PagedContainer : public Container {
       : bytes_(bytes),
         report_(report),
         memory_(Budget::OfMemory(bytes.size())),
-        reading_(Budget::OfReading(bytes.size())) {}
+        reading_(Budget::OfReading(bytes.size())),
+        pagesLeft_(Budget::OfPages(bytes.size())) {}
 
   // What keeps the maps from being read; nullopt if nothing does.
   std::optional<model::Finding> ReadMaps();
@@ -89,6 +90,7 @@ class PagedContainer : public Container {
   model::Report& report_;
   Budget memory_;
   Budget reading_;
+  Budget pagesLeft_;
   PageMap pageMap_;
   std::map<SectionId, SectionEntry> entries_;
   std::map<SectionId, PagedSection> sections_;
@@ -141,7 +143,7 @@ void PagedContainer::ReadPageMap(std::string_view map) {
   while (map.size() >= kPageEntrySize) {
     const auto id = static_cast<std::int32_t>(LittleEndian<std::uint32_t>(map));
     const auto size = LittleEndianAt<std::uint32_t>(map, 4);
-    if (id >= 0) pageMap_.Add(id, {address, size});
+    if (id >= 0 && size != 0 && address < bytes_.size()) pageMap_.Add(id, {address, size});
     address += size;
     map.remove_prefix(std::min(map.size(), kPageEntrySize + (id < 0 ? kGapTailSize : 0)));
   }
@@ -183,6 +185,10 @@ std::vector<SectionPage> PagedContainer::ReadPages(std::string_view list,
     page.size = std::min(section.pageSize, section.size - page.start);
     if (const auto placed = pageMap_.Find(page.id)) page.address = placed->address;
     if (!section.compressed) page.plainAt = page.address + kPageHeadSize;
+    if (!pagesLeft_.Take(1)) {
+      Warn(L"A section is said to have more pages than the file has room for.", page.address);
+      break;
+    }
     pages.push_back(page);
   }
   return pages;
@@ -193,9 +199,9 @@ Section* PagedContainer::Find(SectionId id) {
   if (entry == entries_.end()) return nullptr;
   auto found = sections_.find(id);
   if (found == sections_.end()) {
-    const SectionEntry& section = entry->second;
+    SectionEntry& section = entry->second;
     const auto read = [this, &section](const SectionPage& page) { return ReadPage(section, page); };
-    found = sections_.try_emplace(id, section.size, section.pages, read).first;
+    found = sections_.try_emplace(id, section.size, std::move(section.pages), read).first;
   }
   return &found->second;
 }

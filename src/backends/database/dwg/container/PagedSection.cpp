@@ -7,7 +7,9 @@ namespace zdx::dwg {
 namespace {
 
 // More than any real record or map has; what a question joins from several pages is no larger.
-constexpr std::uint64_t kMostJoined = std::uint64_t{32} << 20;
+constexpr std::uint64_t kMostJoined = std::uint64_t{8} << 20;
+// And of that the zeros of pages that aren't written, which cost the file nothing.
+constexpr std::uint64_t kMostZeros = std::uint64_t{1} << 20;
 
 bool StartsEarlier(const SectionPage& left, const SectionPage& right) {
   return left.start < right.start;
@@ -54,11 +56,13 @@ std::optional<std::string_view> PagedSection::Bytes(std::uint64_t at, std::uint6
   }
   if (count > kMostJoined) return std::nullopt;
   scratch.clear();
+  scratch.reserve(static_cast<std::size_t>(count));
   if (!Append(at, count, scratch)) return std::nullopt;
   return scratch;
 }
 
 bool PagedSection::Append(std::uint64_t at, std::uint64_t count, std::string& out) {
+  std::uint64_t zeros = 0;
   while (count > 0) {
     const std::size_t page = PageAt(at);
     if (page == kNoPage) {
@@ -66,6 +70,8 @@ bool PagedSection::Append(std::uint64_t at, std::uint64_t count, std::string& ou
       wanted.start = at;
       const auto next = std::upper_bound(pages_.begin(), pages_.end(), wanted, StartsEarlier);
       const std::uint64_t gap = next == pages_.end() ? count : std::min(count, next->start - at);
+      zeros += gap;
+      if (zeros > kMostZeros) return false;
       out.append(static_cast<std::size_t>(gap), '\0');
       at += gap;
       count -= gap;

@@ -110,14 +110,29 @@ std::uint64_t LeastBits(Code code) {
   }
 }
 
+// More than any drawing has.  What the list takes, and what is told of it, stays within some
+// megabytes.
+std::uint64_t MostTimes(Code code) {
+  switch (code) {
+    case Code::kText:
+      return 100000;
+    case Code::kHandle:
+      return 500000;
+    default:
+      return ~std::uint64_t{0};
+  }
+}
+
 bool ReadCounted(const Field& field, model::Version version, Streams& streams,
                  FieldValues& values) {
   const std::uint64_t times = values.Number(field.times);
   if (times > streams.BitsLeft() / LeastBits(field.code)) return false;
+  if (times > MostTimes(field.code)) return false;
   if (field.code == Code::kBytes) {
     values.Add(field.key, {0, {}, streams.Data().Bytes(times)});
     return streams.Good();
   }
+  if (field.key != Key::kNone) values.Reserve(field.key, field.code, times);
   for (std::uint64_t i = 0; i < times; ++i) {
     Value value = ReadValue(field.code, version, streams);
     if (!streams.Good()) return false;
@@ -139,6 +154,12 @@ bool ReadField(const Field& field, model::Version version, Streams& streams, Fie
 }
 
 }  // namespace
+
+void FieldValues::Reserve(Key key, Code code, std::uint64_t count) {
+  List& list = lists_[key];
+  if (code == Code::kText) list.texts.reserve(static_cast<std::size_t>(count));
+  if (code == Code::kHandle) list.handles.reserve(static_cast<std::size_t>(count));
+}
 
 void FieldValues::AppendText(Key key, std::string text) {
   lists_[key].texts.push_back(std::move(text));

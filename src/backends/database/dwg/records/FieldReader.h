@@ -24,6 +24,8 @@ class FieldValues {
   };
 
   void Add(Key key, Value value) { values_.emplace_back(key, std::move(value)); }
+  // Makes room in the list of a repeated field.
+  void Reserve(Key key, Code code, std::uint64_t count);
   // Append to the list of a repeated field.
   void AppendText(Key key, std::string text);
   void AppendHandle(Key key, HandleReference handle);

@@ -269,6 +269,7 @@ std::span<const Field> OwnLayout(ObjectType type) {
       return kDictionary;
     case kFreeRecordType:
       return kFreeRecord;
+    case kProxyEntityType:
     case kProxyObjectType:
       return kProxy;
     default:

@@ -1,9 +1,9 @@
 #include "backends/database/dwg/records/ObjectMap.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string>
 
-#include "backends/database/dwg/bits/BitReader.h"
 #include "backends/database/dwg/bits/Checksums.h"
 
 namespace zdx::dwg {
@@ -13,8 +13,10 @@ constexpr std::uint64_t kSizeSize = 2;
 constexpr std::uint64_t kCheckSize = 2;
 
 // Far more than any drawing has; what a damaged map promises beyond isn't followed.
-constexpr std::size_t kMostPages = std::size_t{1} << 20;
-constexpr std::size_t kMostSorted = std::size_t{1} << 21;
+constexpr std::size_t kMostPages = std::size_t{1} << 18;
+constexpr std::size_t kMostSorted = std::size_t{1} << 20;
+
+constexpr std::size_t kMarkEvery = 64;
 
 std::uint16_t HighFirst(std::string_view bytes) {
   return static_cast<std::uint16_t>(static_cast<std::uint8_t>(bytes[0]) << 8 |
@@ -55,63 +57,92 @@ bool ObjectMap::FindPage() {
     return false;
   }
   const model::Handle first = BitReader(*step, 0, step->size() * 8).UMC();
-  pages_.push_back({first, next_, size + kCheckSize});
+  pages_.push_back({first, next_, size + kCheckSize, {}, false});
   next_ += size + kCheckSize;
   return true;
 }
 
-std::vector<ObjectMap::Entry> ObjectMap::Decode(const Page& page) {
-  std::vector<Entry> entries;
+bool ObjectMap::ReadEntry(BitReader& reader, Entry& entry) {
+  const std::uint64_t handleStep = reader.UMC();
+  const std::int64_t offsetStep = reader.MC();
+  if (reader.failed()) return false;
+  entry.first += handleStep;
+  entry.second += static_cast<std::uint64_t>(offsetStep);
+  return true;
+}
+
+void ObjectMap::CheckSum(std::string_view bytes, const Page& page) {
+  const std::size_t checked = bytes.size() - kCheckSize;
+  if (Crc16(bytes.substr(0, checked)) != HighFirst(bytes.substr(checked))) {
+    Warn(L"The checksum of a page of the object map is wrong.", page.at);
+  }
+}
+
+void ObjectMap::SetMarks(Page& page) {
+  page.isMarked = true;
   std::string scratch;
   const auto bytes = section_->Bytes(page.at, page.size, scratch);
   if (!bytes) {
     Warn(L"A page of the object map can't be read.", page.at);
-    return entries;
+    return;
   }
-  const std::size_t checked = bytes->size() - kCheckSize;
-  if (Crc16(bytes->substr(0, checked)) != HighFirst(bytes->substr(checked))) {
-    Warn(L"The checksum of a page of the object map is wrong.", page.at);
-  }
-  BitReader reader(*bytes, kSizeSize * 8, checked * 8);
+  CheckSum(*bytes, page);
+  BitReader reader(*bytes, kSizeSize * 8, (page.size - kCheckSize) * 8);
   Entry entry = {0, 0};
-  while (reader.Left() > 0) {
-    entry.first += reader.UMC();
-    entry.second += static_cast<std::uint64_t>(reader.MC());
-    if (reader.failed()) break;
-    entries.push_back(entry);
+  for (std::size_t count = 0; ReadEntry(reader, entry); ++count) {
+    if (count % kMarkEvery != 0) continue;
+    page.marks.push_back({entry, static_cast<std::uint32_t>(reader.position() / 8)});
   }
-  return entries;
 }
 
 // For a map that isn't in order, which no sound file has.
 void ObjectMap::Sort() {
   Warn(L"The object map isn't in order.", 0);
+  sorted_.emplace();
+  std::string scratch;
   for (const Page& page : pages_) {
-    const std::vector<Entry> entries = Decode(page);
-    if (entries.size() > kMostSorted - decoded_.size()) break;
-    decoded_.insert(decoded_.end(), entries.begin(), entries.end());
+    const auto bytes = section_->Bytes(page.at, page.size, scratch);
+    if (!bytes) continue;
+    CheckSum(*bytes, page);
+    BitReader reader(*bytes, kSizeSize * 8, (page.size - kCheckSize) * 8);
+    Entry entry = {0, 0};
+    while (sorted_->size() < kMostSorted && ReadEntry(reader, entry)) sorted_->push_back(entry);
   }
-  std::stable_sort(decoded_.begin(), decoded_.end(),
+  std::stable_sort(sorted_->begin(), sorted_->end(),
                    [](const Entry& left, const Entry& right) { return left.first < right.first; });
-  sorted_ = true;
 }
 
 std::optional<std::uint64_t> ObjectMap::Find(model::Handle handle) {
   FindPages(handle);
-  if (!sorted_) {
-    const auto behind = std::upper_bound(
-        pages_.begin(), pages_.end(), handle,
-        [](model::Handle wanted, const Page& page) { return wanted < page.first; });
-    if (behind == pages_.begin()) return std::nullopt;
-    const auto page = static_cast<std::size_t>(behind - pages_.begin()) - 1;
-    if (page != decodedPage_) decoded_ = Decode(pages_[page]);
-    decodedPage_ = page;
+  if (sorted_) {
+    const auto found = std::lower_bound(
+        sorted_->begin(), sorted_->end(), handle,
+        [](const Entry& entry, model::Handle wanted) { return entry.first < wanted; });
+    if (found == sorted_->end() || found->first != handle) return std::nullopt;
+    return found->second;
   }
-  const auto found = std::lower_bound(
-      decoded_.begin(), decoded_.end(), handle,
-      [](const Entry& entry, model::Handle wanted) { return entry.first < wanted; });
-  if (found == decoded_.end() || found->first != handle) return std::nullopt;
-  return found->second;
+  const auto behind =
+      std::upper_bound(pages_.begin(), pages_.end(), handle,
+                       [](model::Handle wanted, const Page& page) { return wanted < page.first; });
+  return behind == pages_.begin() ? std::nullopt : FindIn(*std::prev(behind), handle);
+}
+
+std::optional<std::uint64_t> ObjectMap::FindIn(Page& page, model::Handle handle) {
+  if (!page.isMarked) SetMarks(page);
+  auto mark = std::lower_bound(
+      page.marks.begin(), page.marks.end(), handle,
+      [](const Mark& earlier, model::Handle wanted) { return earlier.entry.first < wanted; });
+  // From the last one before the handle, if there is any.
+  if (mark != page.marks.begin()) --mark;
+  if (mark == page.marks.end()) return std::nullopt;
+  std::string scratch;
+  const auto bytes = section_->Bytes(page.at, page.size, scratch);
+  if (!bytes) return std::nullopt;
+  BitReader reader(*bytes, std::uint64_t{mark->next} * 8, (page.size - kCheckSize) * 8);
+  Entry entry = mark->entry;
+  while (entry.first < handle && ReadEntry(reader, entry)) {
+  }
+  return entry.first == handle ? std::optional(entry.second) : std::nullopt;
 }
 
 void ObjectMap::Warn(const wchar_t* text, std::uint64_t at) {

@@ -11,14 +11,15 @@
 #include <utility>
 #include <vector>
 
+#include "backends/database/dwg/bits/BitReader.h"
 #include "backends/database/dwg/container/Container.h"
 #include "backends/database/model/Drawing.h"
 #include "backends/database/model/Report.h"
 
 namespace zdx::dwg {
 
-// Looks for pages no further than a question needs, and decodes one when a handle of it is asked
-// for.
+// Looks for pages no further than a question needs, goes through a page when a handle of it is
+// asked for first, and keeps marks in it: whoever leaps between pages reads each of them once.
 class ObjectMap {
  public:
   ObjectMap() = default;
@@ -29,17 +30,30 @@ class ObjectMap {
   std::optional<std::uint64_t> Find(model::Handle handle);
 
  private:
+  // A handle and its offset.
+  using Entry = std::pair<model::Handle, std::uint64_t>;
+  struct Mark {
+    Entry entry;
+    // Where in the page the next entry begins.
+    std::uint32_t next = 0;
+  };
   struct Page {
     model::Handle first = 0;
     // Of the whole page in the section.
     std::uint64_t at = 0;
     std::uint64_t size = 0;
+    // Of every so manieth entry.
+    std::vector<Mark> marks;
+    bool isMarked = false;
   };
-  using Entry = std::pair<model::Handle, std::uint64_t>;
 
   void FindPages(model::Handle handle);
   bool FindPage();
-  std::vector<Entry> Decode(const Page& page);
+  // Steps to the next entry; false if the page has no more.
+  static bool ReadEntry(BitReader& reader, Entry& entry);
+  void CheckSum(std::string_view bytes, const Page& page);
+  void SetMarks(Page& page);
+  std::optional<std::uint64_t> FindIn(Page& page, model::Handle handle);
   void Sort();
   void Warn(const wchar_t* text, std::uint64_t at);
 
@@ -49,11 +63,8 @@ class ObjectMap {
   std::vector<Page> pages_;
   std::uint64_t next_ = 0;
   bool ended_ = true;
-  // The page that was decoded last.
-  std::size_t decodedPage_ = ~std::size_t{0};
-  std::vector<Entry> decoded_;
-  // Set if the pages aren't in order: `decoded_` has the entries of all of them then.
-  bool sorted_ = false;
+  // Set if the pages aren't in order: the entries of all of them, which are.
+  std::optional<std::vector<Entry>> sorted_;
 };
 
 }  // namespace zdx::dwg

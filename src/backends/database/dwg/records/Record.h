@@ -30,7 +30,7 @@ class Record {
   enum class Extent { kWhole, kFront };
 
   // The record at `at` in the section of the objects.
-  Record(Section& objects, std::uint64_t at, Format format, Extent extent);
+  Record(Section& objects, std::uint64_t at, Format format, Extent extent = Extent::kWhole);
   Record(const Record&) = delete;
   Record& operator=(const Record&) = delete;
 
