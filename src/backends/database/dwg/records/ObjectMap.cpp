@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <limits>
 #include <string>
 
 #include "backends/database/dwg/bits/Checksums.h"
@@ -114,6 +115,14 @@ void ObjectMap::Sort() {
 
 std::optional<std::uint64_t> ObjectMap::Find(model::Handle handle) {
   FindPages(handle);
+  const auto found = FindKnown(handle);
+  if (found || ended_) return found;
+  // Pages that aren't in order may have it all the same.
+  FindPages(std::numeric_limits<model::Handle>::max());
+  return sorted_ ? FindKnown(handle) : std::nullopt;
+}
+
+std::optional<std::uint64_t> ObjectMap::FindKnown(model::Handle handle) {
   if (sorted_) {
     const auto found = std::lower_bound(
         sorted_->begin(), sorted_->end(), handle,

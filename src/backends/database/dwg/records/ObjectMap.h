@@ -49,6 +49,7 @@ class ObjectMap {
 
   void FindPages(model::Handle handle);
   bool FindPage();
+  std::optional<std::uint64_t> FindKnown(model::Handle handle);
   // Steps to the next entry; false if the page has no more.
   static bool ReadEntry(BitReader& reader, Entry& entry);
   void CheckSum(std::string_view bytes, const Page& page);
