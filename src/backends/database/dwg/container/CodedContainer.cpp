@@ -48,7 +48,9 @@ class CodedContainer : public Container {
       : bytes_(bytes),
         report_(report),
         memory_(Budget::OfMemory(bytes.size())),
-        reading_(Budget::OfReading(bytes.size())) {}
+        reading_(Budget::OfReading(bytes.size())),
+        placed_(Budget::OfPages(bytes.size())),
+        listed_(Budget::OfPages(bytes.size())) {}
 
   // What keeps the maps from being read; nullopt if nothing does.
   std::optional<model::Finding> ReadMaps();
@@ -72,6 +74,9 @@ class CodedContainer : public Container {
   model::Report& report_;
   Budget memory_;
   Budget reading_;
+  // Entries of the page map, and pages in the section map.
+  Budget placed_;
+  Budget listed_;
   PageMap pageMap_;
   std::map<SectionId, SectionEntry> entries_;
   std::map<SectionId, PagedSection> sections_;
@@ -163,6 +168,7 @@ void CodedContainer::ReadPageMap(std::string_view map) {
     const auto size = LittleEndian<std::uint64_t>(map);
     const auto id = static_cast<std::int64_t>(LittleEndianAt<std::uint64_t>(map, 8));
     if (size > kMostSize || address > kMostSize) return;
+    if (!placed_.Take(1)) return Warn(L"The page map has more pages than the file.", address);
     if (id >= 0) pageMap_.Add(id, {address, size});
     address += size;
   }
@@ -204,6 +210,10 @@ std::vector<SectionPage> CodedContainer::ReadPages(std::string_view list,
     page.checksum = word(5);
     page.crc = word(6);
     if (page.start >= section.size || page.size > kMostSize) continue;
+    if (!listed_.Take(1)) {
+      Warn(L"The section map has more pages than the file.", kFirstCodedPage);
+      break;
+    }
     page.address = AddressOf(word(2)).value_or(0);
     if (!section.withParity && page.storedSize >= page.size) page.plainAt = page.address;
     pages.push_back(page);

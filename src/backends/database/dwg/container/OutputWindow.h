@@ -12,7 +12,8 @@ namespace zdx::dwg {
 // leave the window.
 class OutputWindow {
  public:
-  explicit OutputWindow(std::size_t most) : most_(most) {}
+  // Takes the memory for `most` bytes at once, so that growing never takes more.
+  explicit OutputWindow(std::size_t most) : most_(most) { out_.reserve(most); }
 
   bool Append(std::string_view bytes) {
     if (bytes.size() > most_ - out_.size()) return false;

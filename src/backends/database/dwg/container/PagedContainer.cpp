@@ -67,7 +67,9 @@ class PagedContainer : public Container {
       : bytes_(bytes),
         report_(report),
         memory_(Budget::OfMemory(bytes.size())),
-        reading_(Budget::OfReading(bytes.size())) {}
+        reading_(Budget::OfReading(bytes.size())),
+        placed_(Budget::OfPages(bytes.size())),
+        listed_(Budget::OfPages(bytes.size())) {}
 
   // What keeps the maps from being read; nullopt if nothing does.
   std::optional<model::Finding> ReadMaps();
@@ -89,6 +91,9 @@ class PagedContainer : public Container {
   model::Report& report_;
   Budget memory_;
   Budget reading_;
+  // Entries of the page map, and pages in the section map.
+  Budget placed_;
+  Budget listed_;
   PageMap pageMap_;
   std::map<SectionId, SectionEntry> entries_;
   std::map<SectionId, PagedSection> sections_;
@@ -141,6 +146,7 @@ void PagedContainer::ReadPageMap(std::string_view map) {
   while (map.size() >= kPageEntrySize) {
     const auto id = static_cast<std::int32_t>(LittleEndian<std::uint32_t>(map));
     const auto size = LittleEndianAt<std::uint32_t>(map, 4);
+    if (!placed_.Take(1)) return Warn(L"The page map has more pages than the file.", address);
     if (id >= 0) pageMap_.Add(id, {address, size});
     address += size;
     map.remove_prefix(std::min(map.size(), kPageEntrySize + (id < 0 ? kGapTailSize : 0)));
@@ -180,6 +186,10 @@ std::vector<SectionPage> PagedContainer::ReadPages(std::string_view list,
     page.storedSize = LittleEndianAt<std::uint32_t>(list, 4);
     page.start = LittleEndianAt<std::uint64_t>(list, 8);
     if (page.start >= section.size) continue;
+    if (!listed_.Take(1)) {
+      Warn(L"The section map has more pages than the file.", kFirstPage);
+      break;
+    }
     page.size = std::min(section.pageSize, section.size - page.start);
     if (const auto placed = pageMap_.Find(page.id)) page.address = placed->address;
     if (!section.compressed) page.plainAt = page.address + kPageHeadSize;

@@ -7,7 +7,7 @@ namespace zdx::dwg {
 namespace {
 
 // More than any real record or map has; what a question joins from several pages is no larger.
-constexpr std::uint64_t kMostJoined = std::uint64_t{32} << 20;
+constexpr std::uint64_t kMostJoined = std::uint64_t{16} << 20;
 
 bool StartsEarlier(const SectionPage& left, const SectionPage& right) {
   return left.start < right.start;
