@@ -28,7 +28,10 @@ std::variant<std::unique_ptr<model::Drawing>, Refusal> DwgDrawing::Open(
 }
 
 DwgDrawing::DwgDrawing(file::MappedFile file, Format format, std::shared_ptr<model::Report> report)
-    : file_(std::move(file)), format_(format), report_(std::move(report)) {}
+    : file_(std::move(file)),
+      format_(format),
+      report_(std::move(report)),
+      recordBytes_(Budget::OfMemory(file_.bytes().size())) {}
 
 void DwgDrawing::ReportHead(const FileHead& head) {
   const std::string_view magic = file_.bytes().substr(0, kMagicSize);
@@ -64,7 +67,8 @@ ObjectMap& DwgDrawing::Map() {
   if (!map_) {
     Section* const section = container_->Find(SectionId::kObjectMap);
     if (section == nullptr) Warn(L"The file has no object map.", 0);
-    map_ = section != nullptr ? ObjectMap(*section, *report_) : ObjectMap();
+    const Budget entries = Budget::OfEntries(file_.bytes().size());
+    map_ = section != nullptr ? ObjectMap(*section, entries, *report_) : ObjectMap();
   }
   return *map_;
 }
@@ -90,12 +94,16 @@ std::optional<DwgDrawing::Object> DwgDrawing::Read(model::Handle handle) {
     Warn(L"The file has no objects.", 0);
     return std::nullopt;
   }
-  Record record(*objects, *at, format_);
+  const bool again = read_.contains(handle);
+  Record record(*objects, *at, format_, again ? objects->size() : recordBytes_.left());
+  if (!again) recordBytes_.Take(record.size());
   if (!record.Whole() || record.handle() != handle) {
     Warn(L"The record of an object is damaged.", handle);
     return std::nullopt;
   }
-  if (!record.CheckIsRight()) Warn(L"The checksum of a record is wrong.", handle);
+  if (read_.insert(handle).second && !record.CheckIsRight()) {
+    Warn(L"The checksum of a record is wrong.", handle);
+  }
   Object object;
   object.type = record.type();
   object.like = object.type;
@@ -114,6 +122,13 @@ std::optional<DwgDrawing::Object> DwgDrawing::Read(model::Handle handle) {
   }
   if (!object.whole) Warn(L"The record of an object ends early.", handle);
   return object;
+}
+
+// A part that thousands share would be read as often.
+bool DwgDrawing::IsPartOf(model::Handle owner, model::Handle part) {
+  if (owners_.try_emplace(part, owner).first->second == owner) return true;
+  Warn(L"Two objects have a part in common.", part);
+  return false;
 }
 
 bool DwgDrawing::IsEntity(const Object& object) const {

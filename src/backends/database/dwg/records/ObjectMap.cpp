@@ -1,6 +1,7 @@
 #include "backends/database/dwg/records/ObjectMap.h"
 
 #include <algorithm>
+#include <iterator>
 #include <string>
 
 #include "backends/database/dwg/bits/BitReader.h"
@@ -12,10 +13,6 @@ namespace {
 constexpr std::uint64_t kSizeSize = 2;
 constexpr std::uint64_t kCheckSize = 2;
 
-// Far more than any drawing has; what a damaged map promises beyond isn't followed.
-constexpr std::size_t kMostPages = std::size_t{1} << 20;
-constexpr std::size_t kMostSorted = std::size_t{1} << 21;
-
 std::uint16_t HighFirst(std::string_view bytes) {
   return static_cast<std::uint16_t>(static_cast<std::uint8_t>(bytes[0]) << 8 |
                                     static_cast<std::uint8_t>(bytes[1]));
@@ -23,8 +20,8 @@ std::uint16_t HighFirst(std::string_view bytes) {
 
 }  // namespace
 
-ObjectMap::ObjectMap(Section& section, model::Report& report)
-    : section_(&section), report_(&report) {
+ObjectMap::ObjectMap(Section& section, Budget entries, model::Report& report)
+    : section_(&section), report_(&report), left_(entries) {
   FindPages();
   const auto later = [](const Page& left, const Page& right) { return left.first >= right.first; };
   if (std::adjacent_find(pages_.begin(), pages_.end(), later) != pages_.end()) Sort();
@@ -37,7 +34,7 @@ void ObjectMap::FindPages() {
     const std::uint64_t size = head ? HighFirst(*head) : 0;
     if (size == kSizeSize) return;
     if (size < kSizeSize || size + kCheckSize > section_->size() - at) break;
-    if (pages_.size() == kMostPages) break;
+    if (pages_.size() == left_.left()) break;
     const std::uint64_t begin = at + kSizeSize;
     // A step takes ten bytes at most.
     const auto entry =
@@ -68,38 +65,41 @@ std::vector<ObjectMap::Entry> ObjectMap::Decode(const Page& page) {
     entry.first += reader.UMC();
     entry.second += static_cast<std::uint64_t>(reader.MC());
     if (reader.failed()) break;
+    if (!left_.Take(1)) {
+      Warn(L"The object map has more entries than the file can have.", page.at);
+      break;
+    }
     entries.push_back(entry);
   }
+  entries.shrink_to_fit();
   return entries;
 }
 
-// For a map that isn't in order, which no sound file has.
+// For a map that isn't in order, which no sound file has: makes one page of all.
 void ObjectMap::Sort() {
   Warn(L"The object map isn't in order.", 0);
+  std::vector<Entry> all;
   for (const Page& page : pages_) {
     const std::vector<Entry> entries = Decode(page);
-    if (entries.size() > kMostSorted - decoded_.size()) break;
-    decoded_.insert(decoded_.end(), entries.begin(), entries.end());
+    all.insert(all.end(), entries.begin(), entries.end());
   }
-  std::stable_sort(decoded_.begin(), decoded_.end(),
+  std::stable_sort(all.begin(), all.end(),
                    [](const Entry& left, const Entry& right) { return left.first < right.first; });
-  sorted_ = true;
+  pages_.clear();
+  pages_.push_back({0, 0, 0, std::move(all)});
 }
 
 std::optional<std::uint64_t> ObjectMap::Find(model::Handle handle) {
-  if (!sorted_) {
-    const auto behind = std::upper_bound(
-        pages_.begin(), pages_.end(), handle,
-        [](model::Handle wanted, const Page& page) { return wanted < page.first; });
-    if (behind == pages_.begin()) return std::nullopt;
-    const auto page = static_cast<std::size_t>(behind - pages_.begin()) - 1;
-    if (page != decodedPage_) decoded_ = Decode(pages_[page]);
-    decodedPage_ = page;
-  }
+  const auto behind =
+      std::upper_bound(pages_.begin(), pages_.end(), handle,
+                       [](model::Handle wanted, const Page& page) { return wanted < page.first; });
+  if (behind == pages_.begin()) return std::nullopt;
+  Page& page = *std::prev(behind);
+  if (!page.entries) page.entries = Decode(page);
   const auto found = std::lower_bound(
-      decoded_.begin(), decoded_.end(), handle,
+      page.entries->begin(), page.entries->end(), handle,
       [](const Entry& entry, model::Handle wanted) { return entry.first < wanted; });
-  if (found == decoded_.end() || found->first != handle) return std::nullopt;
+  if (found == page.entries->end() || found->first != handle) return std::nullopt;
   return found->second;
 }
 

@@ -11,30 +11,32 @@
 #include <utility>
 #include <vector>
 
+#include "backends/database/dwg/container/Budget.h"
 #include "backends/database/dwg/container/Container.h"
 #include "backends/database/model/Drawing.h"
 #include "backends/database/model/Report.h"
 
 namespace zdx::dwg {
 
-// Decodes a page when a handle of it is asked for.
+// Decodes a page when a handle of it is asked for first, and keeps its entries.
 class ObjectMap {
  public:
   ObjectMap() = default;
-  // Both outlive the map.
-  ObjectMap(Section& section, model::Report& report);
+  // Section and report outlive the map, which has as many entries as `entries` allows.
+  ObjectMap(Section& section, Budget entries, model::Report& report);
 
   // Where the record of `handle` begins in the section of the objects.
   std::optional<std::uint64_t> Find(model::Handle handle);
 
  private:
+  using Entry = std::pair<model::Handle, std::uint64_t>;
   struct Page {
     model::Handle first = 0;
     // Of the whole page in the section.
     std::uint64_t at = 0;
     std::uint64_t size = 0;
+    std::optional<std::vector<Entry>> entries = {};
   };
-  using Entry = std::pair<model::Handle, std::uint64_t>;
 
   void FindPages();
   std::vector<Entry> Decode(const Page& page);
@@ -43,12 +45,9 @@ class ObjectMap {
 
   Section* section_ = nullptr;
   model::Report* report_ = nullptr;
+  Budget left_ = Budget::OfEntries(0);
+  // In the order of their handles.
   std::vector<Page> pages_;
-  // The page that was decoded last.
-  std::size_t decodedPage_ = ~std::size_t{0};
-  std::vector<Entry> decoded_;
-  // Set if the pages aren't in order: `decoded_` has the entries of all of them then.
-  bool sorted_ = false;
 };
 
 }  // namespace zdx::dwg

@@ -14,7 +14,8 @@ constexpr std::uint64_t kCheckSize = 2;
 
 }  // namespace
 
-Record::Record(Section& objects, std::uint64_t at, Format format) : format_(format) {
+Record::Record(Section& objects, std::uint64_t at, Format format, std::uint64_t most)
+    : format_(format) {
   if (at >= objects.size()) return;
   const auto head = objects.Bytes(at, std::min(kMostHeadSize, objects.size() - at), scratch_);
   if (!head) return;
@@ -23,11 +24,11 @@ Record::Record(Section& objects, std::uint64_t at, Format format) : format_(form
   const std::uint64_t handleBits = format.version >= model::kVersion1024 ? sizes.UMC() : 0;
   const std::uint64_t headSize = sizes.position() / 8;
   if (sizes.failed() || size > objects.size() - at || handleBits > size * 8) return;
+  if (headSize + size + kCheckSize > most) return;
   const auto bytes = objects.Bytes(at, headSize + size + kCheckSize, scratch_);
   if (!bytes) return;
-  const auto end = static_cast<std::size_t>(headSize + size);
-  checkIsRight_ = LittleEndianAt<std::uint16_t>(*bytes, end) == Crc16(bytes->substr(0, end));
-  body_ = bytes->substr(static_cast<std::size_t>(headSize), static_cast<std::size_t>(size));
+  bytes_ = *bytes;
+  body_ = bytes_.substr(static_cast<std::size_t>(headSize), static_cast<std::size_t>(size));
   handlesAt_ = size * 8 - handleBits;
   BitReader reader(body_, 0, size * 8);
   type_ = format.version >= model::kVersion1024 ? reader.OT() : reader.BS();
@@ -37,6 +38,11 @@ Record::Record(Section& objects, std::uint64_t at, Format format) : format_(form
   handle_ = reader.H().value;
   extendedDataAt_ = reader.position();
   whole_ = !reader.failed() && handlesAt_ <= size * 8;
+}
+
+bool Record::CheckIsRight() const {
+  const std::size_t end = bytes_.size() - static_cast<std::size_t>(kCheckSize);
+  return LittleEndianAt<std::uint16_t>(bytes_, end) == Crc16(bytes_.substr(0, end));
 }
 
 void Record::SkipExtendedData(BitReader& reader) const {

@@ -25,15 +25,17 @@ namespace zdx::dwg {
 // Holds the bytes that its streams read.
 class Record {
  public:
-  // The record at `at` in the section of the objects.
-  Record(Section& objects, std::uint64_t at, Format format);
+  // The record at `at` in the section of the objects, if it has `most` bytes at most.
+  Record(Section& objects, std::uint64_t at, Format format, std::uint64_t most);
   Record(const Record&) = delete;
   Record& operator=(const Record&) = delete;
 
   // Whether its head could be read; nothing else tells anything otherwise.
   bool Whole() const { return whole_; }
-  // Whether its check is right.
-  bool CheckIsRight() const { return checkIsRight_; }
+  // Whether its check is right, which takes a look at every byte.
+  bool CheckIsRight() const;
+  // Of all of it in bytes.
+  std::uint64_t size() const { return bytes_.size(); }
   ObjectType type() const { return type_; }
   // Its own handle, from which others are counted.
   model::Handle handle() const { return handle_; }
@@ -48,9 +50,10 @@ class Record {
 
   Format format_;
   std::string scratch_;
+  // All of it, and the part from its type to its check.
+  std::string_view bytes_;
   std::string_view body_;
   bool whole_ = false;
-  bool checkIsRight_ = false;
   ObjectType type_ = 0;
   model::Handle handle_ = 0;
   // In bits of the body.
