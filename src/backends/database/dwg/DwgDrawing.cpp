@@ -28,7 +28,10 @@ std::variant<std::unique_ptr<model::Drawing>, Refusal> DwgDrawing::Open(
 }
 
 DwgDrawing::DwgDrawing(file::MappedFile file, Format format, std::shared_ptr<model::Report> report)
-    : file_(std::move(file)), format_(format), report_(std::move(report)) {}
+    : file_(std::move(file)),
+      format_(format),
+      report_(std::move(report)),
+      recordBytes_(Budget::OfMemory(file_.bytes().size())) {}
 
 void DwgDrawing::ReportHead(const FileHead& head) {
   const std::string_view magic = file_.bytes().substr(0, kMagicSize);
@@ -90,12 +93,16 @@ std::optional<DwgDrawing::Object> DwgDrawing::Read(model::Handle handle, Record:
     Warn(L"The file has no objects.", 0);
     return std::nullopt;
   }
-  Record record(*objects, *at, format_, extent);
+  const bool again = read_.contains(handle);
+  Record record(*objects, *at, format_, extent, again ? objects->size() : recordBytes_.left());
+  if (!again) recordBytes_.Take(record.size());
   if (!record.Whole() || record.handle() != handle) {
     Warn(L"The record of an object is damaged.", handle);
     return std::nullopt;
   }
-  if (!record.CheckIsRight()) Warn(L"The checksum of a record is wrong.", handle);
+  if (!record.IsCut() && read_.insert(handle).second && !record.CheckIsRight()) {
+    Warn(L"The checksum of a record is wrong.", handle);
+  }
   Object object;
   object.type = record.type();
   object.like = object.type;
@@ -116,6 +123,13 @@ std::optional<DwgDrawing::Object> DwgDrawing::Read(model::Handle handle, Record:
   if (!object.whole && record.IsCut()) return Read(handle);
   if (!object.whole) Warn(L"The record of an object ends early.", handle);
   return object;
+}
+
+// A part that thousands share would be read as often.
+bool DwgDrawing::IsPartOf(model::Handle owner, model::Handle part) {
+  if (owners_.try_emplace(part, owner).first->second == owner) return true;
+  Warn(L"Two objects have a part in common.", part);
+  return false;
 }
 
 bool DwgDrawing::IsEntity(const Object& object) const {

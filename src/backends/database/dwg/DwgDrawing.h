@@ -6,10 +6,13 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
+#include <unordered_set>
 #include <variant>
 #include <vector>
 
 #include "backends/database/dwg/Recognition.h"
+#include "backends/database/dwg/container/Budget.h"
 #include "backends/database/dwg/container/Container.h"
 #include "backends/database/dwg/container/FileHead.h"
 #include "backends/database/dwg/records/ClassTable.h"
@@ -71,6 +74,8 @@ class DwgDrawing : public model::Drawing {
 
   // Reads an object and its fields by the layout of its type; nullopt if its record can't be found.
   std::optional<Object> Read(model::Handle handle, Record::Extent extent = Record::Extent::kWhole);
+  // Whether nobody asked for `part` as one of another object.
+  bool IsPartOf(model::Handle owner, model::Handle part);
   bool IsEntity(const Object& object) const;
   std::vector<model::ObjectKey> CollectRecords(model::TableKind table);
   std::wstring FullBlockName(std::wstring cut, const FieldValues& block, model::Handle handle);
@@ -95,6 +100,12 @@ class DwgDrawing : public model::Drawing {
   CodePageId page_ = kWestern;
   // Of texts that tell a page of their own.
   std::map<CodePageId, model::StoredTextDecoder> otherDecoders_;
+
+  // Of the records, which a damaged file may let overlap each other.
+  Budget recordBytes_;
+  // The objects whose records were read, and whose the parts of others are.
+  std::unordered_set<model::Handle> read_;
+  std::unordered_map<model::Handle, model::Handle> owners_;
 
   // Filled at the first question that needs them.
   std::optional<FieldValues> header_;

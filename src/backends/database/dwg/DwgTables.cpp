@@ -102,6 +102,7 @@ std::wstring DwgDrawing::FullBlockName(std::wstring cut, const FieldValues& bloc
   const FieldValues::Value* const begin = block.Find(Key::kBlockBegin);
   if (begin == nullptr) return cut;
   const model::Handle beginHandle = begin->handle.From(handle);
+  if (beginHandle == 0 || !IsPartOf(handle, beginHandle)) return cut;
   const std::optional<Object> object = Read(beginHandle);
   if (!object || object->type != kBlockBeginType) return cut;
   const FieldValues::Value* const name = object->fields.Find(Key::kName);
@@ -124,9 +125,11 @@ std::optional<std::wstring> DwgDrawing::TrueSpelling(model::Handle handle) {
   const std::optional<Object> record = Read(handle);
   const FieldValues::Value* const extension =
       record ? record->fields.Find(Key::kExtension) : nullptr;
-  if (extension == nullptr || extension->handle.From(handle) == 0) return std::nullopt;
-  const auto spellings = EntryOf(extension->handle.From(handle), kSpellingKey);
-  const std::optional<Object> object = spellings ? Read(*spellings) : std::nullopt;
+  const model::Handle dictionary = extension == nullptr ? 0 : extension->handle.From(handle);
+  if (dictionary == 0 || !IsPartOf(handle, dictionary)) return std::nullopt;
+  const auto spellings = EntryOf(dictionary, kSpellingKey);
+  if (!spellings || *spellings == 0 || !IsPartOf(handle, *spellings)) return std::nullopt;
+  const std::optional<Object> object = Read(*spellings);
   const FieldValues::Value* const content =
       object && object->like == kFreeRecordType ? object->fields.Find(Key::kBytes) : nullptr;
   if (content == nullptr) return std::nullopt;

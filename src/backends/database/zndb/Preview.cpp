@@ -15,8 +15,13 @@
 namespace zdx::database {
 namespace {
 
+// A damaged drawing may have hundreds of pictures, each of which takes long to fail.
+constexpr std::size_t kMostTried = 4;
+
 std::optional<preview::Dib> FirstThatShows(model::Drawing& drawing, model::Report& report) {
+  std::size_t tried = 0;
   for (const model::StoredPicture& picture : drawing.PreviewPictures()) {
+    if (tried++ == kMostTried) break;
     preview::Showing shown = preview::ShowPicture(picture);
     if (auto* const dib = std::get_if<preview::Dib>(&shown)) return std::move(*dib);
     std::wstring text = L"The preview picture can't be shown: ";

@@ -17,6 +17,7 @@ class Budget {
   // For the pages of its sections: none is smaller than 32 bytes.
   static Budget OfPages(std::uint64_t fileSize) { return {0, fileSize / 32}; }
 
+  std::uint64_t left() const { return left_; }
   // False if that much isn't left.
   bool Take(std::uint64_t bytes) {
     if (bytes > left_) return false;

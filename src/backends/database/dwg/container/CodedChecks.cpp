@@ -1,7 +1,6 @@
 #include "backends/database/dwg/container/CodedChecks.h"
 
 #include <array>
-#include <string>
 
 #include "backends/database/dwg/bits/Checksums.h"
 
@@ -9,6 +8,9 @@ namespace zdx::dwg {
 namespace {
 
 constexpr std::size_t kGroup = 8;
+// As many bytes as PageSum takes at once, so that the pieces change nothing for it.
+constexpr std::size_t kPiece = 0x15B0;
+static_assert(kPiece % kGroup == 0);
 // The order of the bytes in a group, and in the last group by how many it has.
 constexpr std::array<std::uint8_t, kGroup> kGroupOrder = {6, 7, 4, 5, 2, 3, 0, 1};
 constexpr std::array<std::array<std::uint8_t, kGroup - 1>, kGroup> kRestOrder = {{
@@ -22,14 +24,21 @@ constexpr std::array<std::array<std::uint8_t, kGroup - 1>, kGroup> kRestOrder = 
     {2, 3, 0, 1, 4, 5, 6},
 }};
 
-std::string Reordered(std::string_view bytes) {
-  std::string ordered(bytes.size(), '\0');
-  char* to = ordered.data();
-  for (; bytes.size() >= kGroup; bytes.remove_prefix(kGroup), to += kGroup) {
-    for (std::size_t i = 0; i < kGroup; ++i) to[i] = bytes[kGroupOrder[i]];
+// Hands `take` the bytes in their order, in pieces: there may be many.
+template <class Take>
+void ForEachPiece(std::string_view bytes, Take take) {
+  std::array<char, kPiece> ordered;
+  while (!bytes.empty()) {
+    std::string_view piece = bytes.substr(0, kPiece);
+    const std::size_t size = piece.size();
+    bytes.remove_prefix(size);
+    char* to = ordered.data();
+    for (; piece.size() >= kGroup; piece.remove_prefix(kGroup)) {
+      for (const std::uint8_t from : kGroupOrder) *to++ = piece[from];
+    }
+    for (std::size_t i = 0; i < piece.size(); ++i) *to++ = piece[kRestOrder[piece.size()][i]];
+    take(std::string_view(ordered.data(), size));
   }
-  for (std::size_t i = 0; i < bytes.size(); ++i) to[i] = bytes[kRestOrder[bytes.size()][i]];
-  return ordered;
 }
 
 // The next number of the generator from which all seeds come.
@@ -64,17 +73,20 @@ constexpr std::array<std::uint64_t, 256> kPlainTable = [] {
 }  // namespace
 
 std::uint64_t CodedPageSum(std::string_view bytes) {
-  const std::uint32_t seed = NextSeed(static_cast<std::uint32_t>(bytes.size()));
-  return PageSum(seed, Reordered(bytes));
+  std::uint32_t sum = NextSeed(static_cast<std::uint32_t>(bytes.size()));
+  ForEachPiece(bytes, [&sum](std::string_view piece) { sum = PageSum(sum, piece); });
+  return sum;
 }
 
 std::uint64_t CodedPageCrc(std::string_view bytes) {
   const std::uint64_t first = NextSeed(std::uint64_t{bytes.size()});
   const std::uint64_t second = NextSeed(first);
   std::uint64_t word = ~(second << 32 | first);
-  for (const char c : Reordered(bytes)) {
-    word = word >> 8 ^ kReflectedTable[(word ^ static_cast<std::uint8_t>(c)) & 0xFF];
-  }
+  ForEachPiece(bytes, [&word](std::string_view piece) {
+    for (const char c : piece) {
+      word = word >> 8 ^ kReflectedTable[(word ^ static_cast<std::uint8_t>(c)) & 0xFF];
+    }
+  });
   return word;
 }
 
@@ -82,9 +94,11 @@ std::uint64_t CodedHeadCrc(std::string_view bytes) {
   const std::uint64_t first = NextSeed(std::uint64_t{bytes.size()});
   const std::uint64_t second = NextSeed(first);
   std::uint64_t word = ~((first << 32) + second + bytes.size());
-  for (const char c : Reordered(bytes)) {
-    word = word << 8 ^ kPlainTable[word >> 56 ^ static_cast<std::uint8_t>(c)];
-  }
+  ForEachPiece(bytes, [&word](std::string_view piece) {
+    for (const char c : piece) {
+      word = word << 8 ^ kPlainTable[word >> 56 ^ static_cast<std::uint8_t>(c)];
+    }
+  });
   return ~word;
 }
 

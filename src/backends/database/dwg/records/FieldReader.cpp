@@ -1,5 +1,6 @@
 #include "backends/database/dwg/records/FieldReader.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace zdx::dwg {
@@ -110,12 +111,13 @@ std::uint64_t LeastBits(Code code) {
   }
 }
 
-// More than any drawing has.  What the list takes, and what is told of it, stays within some
-// megabytes.
-std::uint64_t MostTimes(Code code) {
+// More than any drawing has that is as small as this record.  What the list takes, and what is told
+// of it, stays within some megabytes, or within some times the record.
+std::uint64_t MostTimes(Code code, const Streams& streams) {
+  constexpr std::uint64_t kBitsOfAnEntry = 20 * 8;
   switch (code) {
     case Code::kText:
-      return 100000;
+      return std::max<std::uint64_t>(100000, streams.BitsLeft() / kBitsOfAnEntry);
     case Code::kHandle:
       return 500000;
     default:
@@ -127,7 +129,7 @@ bool ReadCounted(const Field& field, model::Version version, Streams& streams,
                  FieldValues& values) {
   const std::uint64_t times = values.Number(field.times);
   if (times > streams.BitsLeft() / LeastBits(field.code)) return false;
-  if (times > MostTimes(field.code)) return false;
+  if (times > MostTimes(field.code, streams)) return false;
   if (field.code == Code::kBytes) {
     values.Add(field.key, {0, {}, streams.Data().Bytes(times)});
     return streams.Good();

@@ -19,7 +19,8 @@ constexpr std::uint64_t kFrontHandles = std::uint64_t{4} << 10;
 
 }  // namespace
 
-Record::Record(Section& objects, std::uint64_t at, Format format, Extent extent) : format_(format) {
+Record::Record(Section& objects, std::uint64_t at, Format format, Extent extent, std::uint64_t most)
+    : format_(format) {
   if (at >= objects.size()) return;
   const std::uint64_t left = objects.size() - at;
   const auto begin = objects.Bytes(at, std::min(kMostHeadSize, left), scratch_);
@@ -31,21 +32,20 @@ Record::Record(Section& objects, std::uint64_t at, Format format, Extent extent)
   if (sizes.failed() || size > left || handleBits > size * 8) return;
   if (!ReadHead(begin->substr(static_cast<std::size_t>(sizesSize)), size, handleBits)) return;
   const std::uint64_t front = handlesAt_ / 8 + kFrontHandles;
-  if (extent == Extent::kFront && format.version >= model::kVersion1018 && size > kLong &&
-      front < size) {
-    const auto bytes = objects.Bytes(at + sizesSize, front, scratch_);
-    body_ = bytes.value_or(std::string_view());
-    whole_ = bytes.has_value();
-    checkIsRight_ = true;
-    isCut_ = true;
-    return;
-  }
-  const auto bytes = objects.Bytes(at, sizesSize + size + kCheckSize, scratch_);
+  isCut_ = extent == Extent::kFront && format.version >= model::kVersion1018 && size > kLong &&
+           front < size;
+  const std::uint64_t read = sizesSize + (isCut_ ? front : size + kCheckSize);
+  const auto bytes = read <= most ? objects.Bytes(at, read, scratch_) : std::nullopt;
   if (!bytes) return;
-  const auto end = static_cast<std::size_t>(sizesSize + size);
-  checkIsRight_ = LittleEndianAt<std::uint16_t>(*bytes, end) == Crc16(bytes->substr(0, end));
-  body_ = bytes->substr(static_cast<std::size_t>(sizesSize), static_cast<std::size_t>(size));
+  bytes_ = *bytes;
+  body_ = bytes_.substr(static_cast<std::size_t>(sizesSize),
+                        static_cast<std::size_t>(isCut_ ? front : size));
   whole_ = true;
+}
+
+bool Record::CheckIsRight() const {
+  const std::size_t end = bytes_.size() - static_cast<std::size_t>(kCheckSize);
+  return LittleEndianAt<std::uint16_t>(bytes_, end) == Crc16(bytes_.substr(0, end));
 }
 
 // Reads what stands before the extended data, from the begin of a body of `size` bytes.

@@ -10,6 +10,7 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <string>
 
@@ -29,16 +30,20 @@ class Record {
   // a block's record may name a million entities.
   enum class Extent { kWhole, kFront };
 
-  // The record at `at` in the section of the objects.
-  Record(Section& objects, std::uint64_t at, Format format, Extent extent = Extent::kWhole);
+  // The record at `at` in the section of the objects, if what is read of it has `most` bytes at
+  // most.
+  Record(Section& objects, std::uint64_t at, Format format, Extent extent = Extent::kWhole,
+         std::uint64_t most = std::numeric_limits<std::uint64_t>::max());
   Record(const Record&) = delete;
   Record& operator=(const Record&) = delete;
 
   // Whether its head could be read; nothing else tells anything otherwise.
   bool Whole() const { return whole_; }
-  // Whether its check is right.  That of a long record of which only the front is read isn't looked
-  // at: its pages have sums of their own.
-  bool CheckIsRight() const { return checkIsRight_; }
+  // Whether its check is right, which takes a look at every byte.  That of a long record of which
+  // only the front was read can't be told: its pages have sums of their own.
+  bool CheckIsRight() const;
+  // Of what was read, in bytes.
+  std::uint64_t size() const { return bytes_.size(); }
   // Whether only the front was read.
   bool IsCut() const { return isCut_; }
   ObjectType type() const { return type_; }
@@ -56,9 +61,10 @@ class Record {
 
   Format format_;
   std::string scratch_;
+  // What was read, and the part from its type to its check.
+  std::string_view bytes_;
   std::string_view body_;
   bool whole_ = false;
-  bool checkIsRight_ = false;
   bool isCut_ = false;
   ObjectType type_ = 0;
   model::Handle handle_ = 0;

@@ -1,0 +1,184 @@
+// Files that are sound as far as their checks go, but would cost more than they may.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <set>
+
+#include "ZDXEngine/Utf8.h"
+#include "backends/database/dwg/DwgDrawing.h"
+#include "backends/database/dwg/PreviewArea.h"
+#include "backends/database/dwg/Tokens.h"
+#include "backends/database/dwg/container/Decompression.h"
+#include "backends/database/dwg/records/ObjectMap.h"
+#include "base/LittleEndian.h"
+#include "support/dwg/Bytes.h"
+#include "support/dwg/Checksums.h"
+#include "support/dwg/Compression.h"
+#include "support/dwg/Containers.h"
+#include "support/dwg/Drawing.h"
+#include "support/dwg/DwgMaker.h"
+#include "support/dwg/Record.h"
+
+namespace {
+
+namespace model = zdx::model;
+
+// A section of bytes that counts how many of them were asked for.
+class CountingSection : public zdx::dwg::Section {
+ public:
+  explicit CountingSection(std::string bytes) : bytes_(std::move(bytes)) {}
+
+  std::uint64_t size() const override { return bytes_.size(); }
+  std::optional<std::string_view> Bytes(std::uint64_t at, std::uint64_t count,
+                                        std::string& /*scratch*/) override {
+    if (at > bytes_.size() || count > bytes_.size() - at) return std::nullopt;
+    asked_ += count;
+    return std::string_view(bytes_).substr(at, count);
+  }
+  std::uint64_t PlaceOf(std::uint64_t at) const override { return at; }
+  std::uint64_t asked() const { return asked_; }
+
+ private:
+  std::string bytes_;
+  std::uint64_t asked_ = 0;
+};
+
+constexpr std::size_t kPageObjects = 30000;
+
+// A page of the object map that begins with `first`; every object stands at offset 1.
+std::string MapPage(unsigned first) {
+  std::string entries = {static_cast<char>(first % 128 | 0x80),
+                         static_cast<char>(first / 128 % 128 | 0x80),
+                         static_cast<char>(first / 128 / 128), '\x01'};
+  for (std::size_t i = 1; i < kPageObjects; ++i) entries += std::string("\x01\x00", 2);
+  const std::size_t size = entries.size() + 2;
+  std::string page = {static_cast<char>(size >> 8), static_cast<char>(size)};
+  page += entries;
+  const unsigned check = dwg::Crc16(page);
+  return page + static_cast<char>(check >> 8) + static_cast<char>(check);
+}
+
+TEST(HostileFiles, APageOfTheObjectMapIsDecodedOnce) {
+  CountingSection section(MapPage(1) + MapPage(40000) + std::string("\x00\x02", 2));
+  model::Report report;
+  zdx::dwg::ObjectMap map(section, zdx::dwg::Budget::OfEntries(0), report);
+  for (model::Handle i = 0; i < 100; ++i) {
+    EXPECT_EQ(map.Find(1 + i), 1u);
+    EXPECT_EQ(map.Find(40000 + i), 1u);
+  }
+  EXPECT_LT(section.asked(), section.size() + 100);
+  EXPECT_EQ(report.warningCount, 0u);
+}
+
+TEST(HostileFiles, PreviewPicturesHaveNoMoreBytesThanTheirArea) {
+  constexpr std::size_t kSize = 100000;
+  std::string area(zdx::dwg::kPreviewMark);
+  dwg::AppendNumber(area, 0, 4);
+  area += '\xFF';
+  for (int i = 0; i < 255; ++i) {
+    area += '\x02';
+    dwg::AppendNumber(area, 21 + 255 * 9, 4);
+    dwg::AppendNumber(area, kSize, 4);
+  }
+  area += std::string(kSize, 'x');
+  CountingSection section(area);
+  model::Report report;
+  EXPECT_EQ(zdx::dwg::ReadPreviewArea(section, report).size(), 1u);
+  EXPECT_GE(report.warningCount, 1u);
+}
+
+// What the layers of a drawing are called, and how long it took to tell.
+struct Told {
+  std::set<std::wstring> names;
+  std::uint64_t warnings = 0;
+  double seconds = 0.0;
+};
+
+Told LayersOf(const std::string& bytes) {
+  const auto path =
+      std::filesystem::temp_directory_path() / ("zdx-hostile-" + std::to_string(getpid()));
+  std::ofstream(path, std::ios::binary) << bytes;
+  const auto begin = std::chrono::steady_clock::now();
+  Told told;
+  auto report = std::make_shared<model::Report>();
+  auto file = zdx::file::MappedFile::Open(ZDXEngine::WideFromUtf8(path.string()));
+  auto drawing =
+      zdx::dwg::DwgDrawing::Open(std::move(std::get<zdx::file::MappedFile>(file)), report);
+  auto& opened = *std::get<std::unique_ptr<model::Drawing>>(drawing);
+  for (const auto record : opened.TableRecords(model::TableKind::kLayer)) {
+    if (auto name = opened.RecordName(model::TableKind::kLayer, record)) told.names.insert(*name);
+  }
+  told.warnings = report->warningCount;
+  told.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
+  std::filesystem::remove(path);
+  return told;
+}
+
+// The records of all layers but the first are said to stand where one of a megabyte does.
+TEST(HostileFiles, ALargeRecordThatManyHandlesLeadToIsCheckedForNoneOfThem) {
+  drawing::DrawingSpec spec;
+  spec.version = "AC1015";
+  for (int i = 0; i < 5000; ++i) spec.layers.emplace_back("Layer " + std::to_string(i));
+  dwg::Drawing drawing(spec, {});
+  dwg::WriteTables(drawing);
+  dwg::WriteBlocks(drawing);
+  dwg::WriteRootDictionary(drawing);
+  for (std::size_t i = 1; i + 1 < drawing.layers.size(); ++i) {
+    drawing.records[drawing.layers[i].handle].clear();
+  }
+  const dwg::Handle last = drawing.layers.back().handle;
+  dwg::Fields fields = drawing.NewFields(last + 1);
+  dwg::BeginObject(fields, 1);
+  dwg::RecordHead head{51};
+  for (int i = 0; i < 20; ++i) head.data.push_back({1, std::string(60000, 'x')});
+  drawing.records[last] = dwg::AssembleRecord(head, fields);
+
+  const Told told = LayersOf(dwg::FlatFile(drawing));
+  EXPECT_THAT(told.names, testing::ElementsAre(L"0"));
+  EXPECT_GE(told.warnings, 1u);
+  EXPECT_LT(told.seconds, 2.0);
+}
+
+// The file with the page map at its end, where it has `count` pages more than the file.
+std::string WithLongPageMap(std::string bytes, std::size_t count) {
+  constexpr std::size_t kHeaderAt = 0x80;
+  constexpr std::size_t kHeaderSize = 0x6C;
+  const std::string mask = dwg::MaskBytes(kHeaderSize);
+  std::string header = bytes.substr(kHeaderAt, kHeaderSize);
+  for (std::size_t i = 0; i < kHeaderSize; ++i) header[i] = static_cast<char>(header[i] ^ mask[i]);
+  const std::size_t at = 0x100 + zdx::LittleEndianAt<std::uint32_t>(header, 0x54);
+  const auto stored = zdx::LittleEndianAt<std::uint32_t>(bytes, at + 8);
+  const std::string_view page = std::string_view(bytes).substr(at + 20, stored);
+  std::string map =
+      zdx::dwg::DecompressPaged(page, zdx::LittleEndianAt<std::uint32_t>(bytes, at + 4)).bytes;
+  for (std::size_t i = 0; i < count; ++i) {
+    dwg::AppendNumber(map, 1000 + i, 4);
+    dwg::AppendNumber(map, 0, 4);
+  }
+  dwg::PutNumber(header, 0x54, bytes.size() - 0x100, 8);
+  dwg::PutNumber(header, 0x68, 0, 4);
+  dwg::PutNumber(header, 0x68, dwg::Crc32(header), 4);
+  for (std::size_t i = 0; i < kHeaderSize; ++i) header[i] = static_cast<char>(header[i] ^ mask[i]);
+  bytes.replace(kHeaderAt, kHeaderSize, header);
+  const std::string compressed = dwg::Compressed(map, dwg::Squeeze::Repeats);
+  std::string head = dwg::NumberBytes(0x41630E3B, 4) + dwg::NumberBytes(map.size(), 4) +
+                     dwg::NumberBytes(compressed.size(), 4) + dwg::NumberBytes(2, 4);
+  const auto sum = dwg::PageSum(dwg::PageSum(0, head + std::string(4, '\0')), compressed);
+  return bytes + head + dwg::NumberBytes(sum, 4) + compressed;
+}
+
+TEST(HostileFiles, APageMapLongerThanTheFileIsNotFollowed) {
+  drawing::DrawingSpec spec;
+  spec.version = "AC1018";
+  const std::string sound = dwg::Make(spec);
+  EXPECT_EQ(LayersOf(WithLongPageMap(sound, 0)).warnings, 0u);
+  const Told told = LayersOf(WithLongPageMap(sound, 200000));
+  EXPECT_THAT(told.names, testing::ElementsAre(L"0"));
+  EXPECT_EQ(told.warnings, 1u);
+}
+
+}  // namespace
