@@ -1,20 +1,13 @@
 // Files that are sound as far as their checks go, but would cost more than they may.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
-#include <chrono>
-#include <filesystem>
-#include <fstream>
-#include <set>
-
-#include "ZDXEngine/Utf8.h"
-#include "backends/database/dwg/DwgDrawing.h"
 #include "backends/database/dwg/PreviewArea.h"
 #include "backends/database/dwg/Tokens.h"
 #include "backends/database/dwg/container/Decompression.h"
 #include "backends/database/dwg/records/ObjectMap.h"
 #include "base/LittleEndian.h"
+#include "formats/dwg/LayersOf.h"
 #include "support/dwg/Bytes.h"
 #include "support/dwg/Checksums.h"
 #include "support/dwg/Compression.h"
@@ -89,33 +82,6 @@ TEST(HostileFiles, PreviewPicturesHaveNoMoreBytesThanTheirArea) {
   model::Report report;
   EXPECT_EQ(zdx::dwg::ReadPreviewArea(section, report).size(), 1u);
   EXPECT_GE(report.warningCount, 1u);
-}
-
-// What the layers of a drawing are called, and how long it took to tell.
-struct Told {
-  std::set<std::wstring> names;
-  std::uint64_t warnings = 0;
-  double seconds = 0.0;
-};
-
-Told LayersOf(const std::string& bytes) {
-  const auto path =
-      std::filesystem::temp_directory_path() / ("zdx-hostile-" + std::to_string(getpid()));
-  std::ofstream(path, std::ios::binary) << bytes;
-  const auto begin = std::chrono::steady_clock::now();
-  Told told;
-  auto report = std::make_shared<model::Report>();
-  auto file = zdx::file::MappedFile::Open(ZDXEngine::WideFromUtf8(path.string()));
-  auto drawing =
-      zdx::dwg::DwgDrawing::Open(std::move(std::get<zdx::file::MappedFile>(file)), report);
-  auto& opened = *std::get<std::unique_ptr<model::Drawing>>(drawing);
-  for (const auto record : opened.TableRecords(model::TableKind::kLayer)) {
-    if (auto name = opened.RecordName(model::TableKind::kLayer, record)) told.names.insert(*name);
-  }
-  told.warnings = report->warningCount;
-  told.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
-  std::filesystem::remove(path);
-  return told;
 }
 
 // The records of all layers but the first are said to stand where one of a megabyte does.
