@@ -109,6 +109,25 @@ TEST(HostileFiles, ALargeRecordThatManyHandlesLeadToIsCheckedForNoneOfThem) {
   EXPECT_LT(told.seconds, 2.0);
 }
 
+TEST(HostileFiles, TheBeginThatBlocksShareIsReadForOneOfThem) {
+  drawing::DrawingSpec spec;
+  spec.version = "AC1018";
+  spec.blocks = {{"*U1"}, {"*U2"}, {"*U3"}};
+  dwg::Drawing drawing(spec, {});
+  dwg::Handle begin = 0;
+  for (dwg::PlannedBlock& block : drawing.blocks) {
+    if (block.spec == nullptr) continue;
+    if (begin == 0) begin = block.begin;
+    block.begin = begin;
+  }
+  dwg::WriteTables(drawing);
+  dwg::WriteBlocks(drawing);
+  dwg::WriteRootDictionary(drawing);
+  const Told told = LayersOf(dwg::PagedFile(drawing), model::TableKind::kBlock);
+  EXPECT_THAT(told.names, testing::Contains(L"*U"));
+  EXPECT_GE(told.warnings, 1u);
+}
+
 // The file with the page map at its end, where it has `count` pages more than the file.
 std::string WithLongPageMap(std::string bytes, std::size_t count) {
   constexpr std::size_t kHeaderAt = 0x80;

@@ -11,7 +11,7 @@
 
 namespace model = zdx::model;
 
-Told LayersOf(const std::string& bytes) {
+Told LayersOf(const std::string& bytes, model::TableKind table) {
   const auto path =
       std::filesystem::temp_directory_path() / ("zdx-hostile-" + std::to_string(getpid()));
   std::ofstream(path, std::ios::binary) << bytes;
@@ -22,8 +22,8 @@ Told LayersOf(const std::string& bytes) {
   auto drawing =
       zdx::dwg::DwgDrawing::Open(std::move(std::get<zdx::file::MappedFile>(file)), report);
   auto& opened = *std::get<std::unique_ptr<model::Drawing>>(drawing);
-  for (const auto record : opened.TableRecords(model::TableKind::kLayer)) {
-    if (auto name = opened.RecordName(model::TableKind::kLayer, record)) told.names.insert(*name);
+  for (const auto record : opened.TableRecords(table)) {
+    if (auto name = opened.RecordName(table, record)) told.names.insert(*name);
   }
   told.warnings = report->warningCount;
   told.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
