@@ -22,6 +22,8 @@ inline constexpr std::string_view kPreviewSection = "AcDb:Preview";
 // Marks of 16 bytes.  The one at the end of a part is the one at its start with all bits inverted.
 inline constexpr std::string_view kHeadEndMark(
     "\x95\xA0\x4E\x28\x99\x82\x1A\xE5\x5E\x41\xE0\x5F\x9D\x3A\x4D\x00", 16);
+inline constexpr std::string_view kSecondHeadMark(
+    "\xD4\x7B\x21\xCE\x28\x93\x9F\xBF\x53\x24\x40\x09\x12\x3C\xAA\x01", 16);
 inline constexpr std::string_view kHeaderMark(
     "\xCF\x7B\x1F\x23\xFD\xDE\x38\xA9\x5F\x7C\x68\xB8\x4E\x6D\x33\x5F", 16);
 inline constexpr std::string_view kClassesMark(

@@ -91,19 +91,22 @@ TEST_F(SectionBlockTest, AWrongCheckOrMarkIsToldAndTheFieldsRead) {
   EXPECT_THAT(TextsOf(report), ElementsAre(L"The mark before the things is wrong."));
 }
 
-TEST_F(SectionBlockTest, CutWithinItHasNoFields) {
+TEST_F(SectionBlockTest, CutWithinItsHeadHasNoFields) {
   const std::string bytes = Framed("abc", false);
-  for (std::size_t size = 0; size < 16 + 4 + 3 + 2; ++size) {
+  for (std::size_t size = 0; size < 16 + 4 + 2; ++size) {
     report = {};
     EXPECT_EQ(Read(bytes.substr(0, size), kPlain).Fields(), nullptr) << size;
     EXPECT_EQ(TextsOf(report).size(), 1u);
   }
 }
 
-TEST_F(SectionBlockTest, ASizeThatWrapsHasNoFields) {
+TEST_F(SectionBlockTest, ASizeThatCanNotBeRightIsToldAndTheFieldsRead) {
   std::string bytes = Framed("abc", false);
   bytes.replace(16, 4, Low32(0xFFFFFFFF));
-  EXPECT_EQ(Read(bytes, kPlain).Fields(), nullptr);
+  Streams* const streams = Read(bytes, kPlain).Fields();
+  ASSERT_NE(streams, nullptr);
+  EXPECT_EQ(streams->Data().RC(), 'a');
+  EXPECT_THAT(TextsOf(report), testing::Contains(L"The size of the things is wrong."));
 }
 
 TEST_F(SectionBlockTest, WithoutRoomForThePlaceOfTheHandlesItHasNoFields) {

@@ -235,6 +235,16 @@ int AgreeingWords(std::string_view head, const SectionEntry& section, const Sect
          (LittleEndianAt<std::uint64_t>(head, kPageStartAt) == page.start ? 1 : 0);
 }
 
+// The stored size that the head tells or, if only that of the section map agrees with the sum of
+// the data, that one.
+std::uint64_t StoredSize(std::string_view head, const SectionPage& page, std::string_view data) {
+  const std::uint64_t told = LittleEndianAt<std::uint32_t>(head, kPageStoredAt);
+  if (told == page.storedSize || page.storedSize > data.size()) return told;
+  const auto mapped = data.substr(0, static_cast<std::size_t>(page.storedSize));
+  const bool agrees = LittleEndianAt<std::uint32_t>(head, kPageDataSumAt) == PageSum(0, mapped);
+  return agrees ? page.storedSize : told;
+}
+
 std::optional<PageBytes> PagedContainer::ReadPage(const SectionEntry& section,
                                                   const SectionPage& page) {
   const std::uint64_t address = page.address;
@@ -247,8 +257,7 @@ std::optional<PageBytes> PagedContainer::ReadPage(const SectionEntry& section,
   const bool headRight = agreeing == kIdentifyingWords;
   if (!headRight) Warn(L"The head of a page is damaged.", address);
   const std::string_view behind = bytes_.substr(static_cast<std::size_t>(address) + kPageHeadSize);
-  const std::uint64_t storedSize =
-      headRight ? LittleEndianAt<std::uint32_t>(head, kPageStoredAt) : page.storedSize;
+  const std::uint64_t storedSize = headRight ? StoredSize(head, page, behind) : page.storedSize;
   // With more than one word wrong it is some other part of the file.
   if (agreeing < kIdentifyingWords - 1 || storedSize > behind.size() ||
       !reading_.Take(storedSize)) {

@@ -17,7 +17,9 @@ constexpr std::uint64_t kCheckSize = 2;
 constexpr std::size_t kMostPages = std::size_t{1} << 18;
 constexpr std::size_t kMostSorted = std::size_t{1} << 20;
 
-constexpr std::size_t kMarkEvery = 64;
+constexpr std::uint64_t kMarkEvery = 64;
+// Two steps of ten bytes.
+constexpr std::uint64_t kMostEntrySize = 20;
 
 std::uint16_t HighFirst(std::string_view bytes) {
   return static_cast<std::uint16_t>(static_cast<std::uint8_t>(bytes[0]) << 8 |
@@ -144,10 +146,12 @@ std::optional<std::uint64_t> ObjectMap::FindIn(Page& page, model::Handle handle)
   // From the last one before the handle, if there is any.
   if (mark != page.marks.begin()) --mark;
   if (mark == page.marks.end()) return std::nullopt;
+  const std::uint64_t left = page.size - kCheckSize - mark->next;
   std::string scratch;
-  const auto bytes = section_->Bytes(page.at, page.size, scratch);
+  const auto bytes =
+      section_->Bytes(page.at + mark->next, std::min(left, kMarkEvery * kMostEntrySize), scratch);
   if (!bytes) return std::nullopt;
-  BitReader reader(*bytes, std::uint64_t{mark->next} * 8, (page.size - kCheckSize) * 8);
+  BitReader reader(*bytes, 0, bytes->size() * 8);
   Entry entry = mark->entry;
   while (entry.first < handle && ReadEntry(reader, entry)) {
   }

@@ -42,7 +42,13 @@ SectionBlock::SectionBlock(Section& section, Format format, std::string_view mar
     return;
   }
   if (head->substr(0, kMarkSize) != mark) warn(L"The mark before the ", L" is wrong.");
-  const std::uint64_t size = LittleEndianAt<std::uint32_t>(*head, kMarkSize);
+  std::uint64_t size = LittleEndianAt<std::uint32_t>(*head, kMarkSize);
+  // A size that can't be right is no reason to lose what there is.
+  const std::uint64_t framed = headSize + kCheckSize;
+  if (section.size() >= framed && size > section.size() - framed) {
+    warn(L"The size of the ", L" is wrong.");
+    size = section.size() - framed;
+  }
   const auto block = section.Bytes(0, headSize + size + kCheckSize, scratch_);
   if (!block || (format.HasStringStream() && size < kHandlePlaceSize)) {
     warn(L"The section of the ", L" ends early.");
