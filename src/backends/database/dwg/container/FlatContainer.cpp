@@ -114,14 +114,15 @@ std::optional<LocatorList> ReadCopy(std::string_view bytes) {
   const std::size_t begin = mark + kSecondHeadMark.size();
   const std::string_view head = bytes.substr(begin);
   constexpr std::size_t kTailSize = kCrcSize + 8;
+  constexpr std::size_t kCopiedSize = 13;
   if (head.size() < 4) return std::nullopt;
   const std::size_t size = LittleEndian<std::uint32_t>(head);
   if (size > head.size() || size < 4 + kTailSize) return std::nullopt;
   const std::size_t end = size - kTailSize;
   if (LittleEndianAt<std::uint16_t>(head, end) != Crc16(head.substr(0, end))) return std::nullopt;
-  BitReader reader(head, 4 * 8, end * 8);
+  BitReader reader(head, 32, std::uint64_t{end} * 8);
   reader.BL();
-  reader.Skip(13 * 8);
+  reader.Skip(std::uint64_t{kCopiedSize} * 8);
   reader.BS();
   reader.RS();
   LocatorList list;
