@@ -191,6 +191,41 @@ TEST_P(Graphics, MasksThatWereGivenAreKept) {
   EXPECT_EQ(Metafile(Make(info)).substr(18 + 22 + 40, 12), masks);
 }
 
+TEST_P(Graphics, AMaskKeepsItsTopBits) {
+  Info info(1, 1, 32);
+  info.head.biCompression = os::kBitFields;
+  const std::string masks = "\x00\x00\x00\xFF\x00\x00\xFF\x00\x00\xFF\x00\x00"s;
+  std::memcpy(info.colours, masks.data(), masks.size());
+  EXPECT_EQ(Metafile(Make(info)).substr(18 + 22 + 40, 12), masks);
+}
+
+TEST_P(Graphics, TheColourTableStandsBehindALongerHead) {
+  Info info(4, 1, 1);
+  info.head.biSize = sizeof info.head + sizeof(os::RGBQUAD);
+  info.colours[0] = {9, 9, 9, 0};
+  info.colours[1] = {1, 2, 3, 0};
+  info.colours[2] = {4, 5, 6, 0};
+  EXPECT_EQ(Metafile(Make(info)).substr(18 + 22 + 40, 8), "\x01\x02\x03\x00\x04\x05\x06\x00"s);
+}
+
+TEST_P(Graphics, AColourTableLongerThanItsBitsIsCut) {
+  Info info(4, 1, 1);
+  info.head.biClrUsed = 256;
+  info.colours[1] = {4, 5, 6, 0};
+  const std::string bytes = Metafile(Make(info));
+  EXPECT_EQ(bytes.size(), 18u + 22 + 40 + 8 + 4 + 6);
+  EXPECT_EQ(bytes.substr(18 + 22 + 40, 8), "\x00\x00\x00\x00\x04\x05\x06\x00"s);
+}
+
+TEST_P(Graphics, ANewBitmapIsBlackEvenWhereAnotherWas) {
+  const Info info(64, 8, 24);
+  const std::string white(RowSize(64, 24) * 8, '\xFF');
+  ASSERT_NE(os->DeleteObject(Make(info, white)), 0);
+  void* rows = nullptr;
+  ASSERT_NE(Make(info, &rows), nullptr);
+  EXPECT_THAT(std::string(static_cast<char*>(rows), white.size()), Each('\0'));
+}
+
 TEST_P(Graphics, ARealizedPaletteStandsBeforeTheBitmap) {
   Palette palette(256);
   palette.entries[0] = {1, 2, 3, 0};
@@ -250,6 +285,10 @@ TEST_P(Graphics, ABufferTooSmallForABitmapIsNotWritten) {
   EXPECT_THAT(std::string(buffer, sizeof buffer), Each('\0'));
 }
 
+TEST_P(Graphics, WithoutABufferTheSizeOfWhatIsToldIsGiven) {
+  EXPECT_EQ(os->GetObjectW(Make(Info(4, 2, 24)), 0, nullptr), 32);
+}
+
 TEST_P(Graphics, ASelectedBitmapIsDeletedOnlyAfterItsContext) {
   const os::HBITMAP bitmap = Make(Info(4, 2, 24));
   const os::HDC context = os->CreateCompatibleDC(nullptr);
@@ -270,6 +309,23 @@ TEST_P(Graphics, ASelectionTellsTheOneBefore) {
   EXPECT_NE(os->DeleteObject(first), 0);
   EXPECT_EQ(os->SelectObject(context, original), second);
   EXPECT_NE(os->DeleteObject(second), 0);
+}
+
+TEST_P(Graphics, ABitmapIsSelectedAgainIntoItsContext) {
+  const os::HDC context = os->CreateCompatibleDC(nullptr);
+  const os::HBITMAP bitmap = Make(Info(4, 2, 24));
+  ASSERT_NE(os->SelectObject(context, bitmap), nullptr);
+  EXPECT_EQ(os->SelectObject(context, bitmap), bitmap);
+}
+
+TEST_P(Graphics, TheFirstBitmapOfAContextIsEveryContextsAndStays) {
+  const os::HDC first = os->CreateCompatibleDC(nullptr);
+  const os::HDC second = os->CreateCompatibleDC(nullptr);
+  const os::HBITMAP bitmap = Make(Info(4, 2, 24));
+  const os::HGDIOBJ stock = os->SelectObject(first, bitmap);
+  EXPECT_NE(os->DeleteObject(stock), 0);
+  EXPECT_EQ(os->SelectObject(second, stock), stock);
+  EXPECT_EQ(os->SelectObject(first, stock), bitmap);
 }
 
 TEST_P(Graphics, ABitmapIsSelectedIntoOneContextAtATime) {
@@ -342,6 +398,20 @@ TEST_P(Graphics, ACompressedBitmapIsRefused) {
   EXPECT_EQ(Make(info), nullptr) << "masks need 16 or 32 bits";
 }
 
+TEST_P(Graphics, ABitmapOfAnotherNumberOfPlanesIsRefused) {
+  for (const std::uint16_t planes : {std::uint16_t{0}, std::uint16_t{2}}) {
+    Info info(4, 2, 24);
+    info.head.biPlanes = planes;
+    EXPECT_EQ(Make(info), nullptr) << planes;
+  }
+}
+
+TEST_P(Graphics, AHeadCutShortIsRefused) {
+  Info info(4, 2, 24);
+  info.head.biSize = sizeof info.head - 1;
+  EXPECT_EQ(Make(info), nullptr);
+}
+
 TEST_P(Graphics, NullIsRefused) {
   EXPECT_EQ(os->CreateDIBSection(nullptr, nullptr, os::kRgbColors, nullptr, nullptr, 0), nullptr);
   EXPECT_EQ(os->CreatePalette(nullptr), nullptr);
@@ -384,5 +454,52 @@ TEST_P(Graphics, APaletteOfNoUseIsRefused) {
 
 INSTANTIATE_TEST_SUITE_P(Of, Graphics, testing::ValuesIn(kSubjects),
                          [](const auto& info) { return std::string(info.param.name); });
+
+// What holds where there are no bitmaps but the library's own.
+class PosixGraphics : public testing::Test {
+ protected:
+  zdx::PosixGraphics os;
+  const Palette palette{2};
+};
+
+TEST_F(PosixGraphics, TheFirstPaletteOfAMetafileLeavesNoRecord) {
+  const os::HDC metafile = os.CreateMetaFileW(nullptr);
+  const os::HPALETTE given = os.CreatePalette(palette.get());
+  const os::HPALETTE stock = os.SelectPalette(metafile, given, 1);
+  EXPECT_NE(os.DeleteObject(stock), 0);
+  const os::HDC other = os.CreateMetaFileW(nullptr);
+  EXPECT_EQ(os.SelectPalette(other, stock, 1), stock);
+  os.RealizePalette(other);
+  EXPECT_EQ(os.GetMetaFileBitsEx(os.CloseMetaFile(other), 0, nullptr), 18u + 6u);
+}
+
+TEST_F(PosixGraphics, APaletteThatIsDeletedIsNoLongerAContexts) {
+  const os::HDC metafile = os.CreateMetaFileW(nullptr);
+  const os::HPALETTE given = os.CreatePalette(palette.get());
+  const os::HPALETTE stock = os.SelectPalette(metafile, given, 1);
+  EXPECT_NE(os.DeleteObject(given), 0);
+  EXPECT_EQ(os.SelectPalette(metafile, os.CreatePalette(palette.get()), 1), stock);
+}
+
+TEST_F(PosixGraphics, AnyMapModeButPixelsIsRefused) {
+  const os::HDC memory = os.CreateCompatibleDC(nullptr);
+  EXPECT_EQ(os.SetMapMode(memory, 8), 0);
+  EXPECT_EQ(os.GetMapMode(memory), os::kMapModeText);
+}
+
+TEST_F(PosixGraphics, WhatNobodyAsksForIsRefused) {
+  const Info info(4, 2, 24);
+  int something = 0;
+  EXPECT_EQ(os.CreateDIBSection(nullptr, info.get(), 1, nullptr, nullptr, 0), nullptr);
+  EXPECT_EQ(os.CreateDIBSection(nullptr, info.get(), os::kRgbColors, nullptr, &something, 0),
+            nullptr);
+  EXPECT_EQ(os.CreateMetaFileW(L"a.wmf"), nullptr);
+  EXPECT_EQ(os.GetDC(&something), nullptr);
+  EXPECT_EQ(os.ReleaseDC(&something, os.GetDC(nullptr)), 0);
+  EXPECT_EQ(os.CreateCompatibleDC(reinterpret_cast<os::HDC>(&something)), nullptr);
+  EXPECT_EQ(os.DPtoLP(os.GetDC(nullptr), nullptr, 1), 0);
+  os::POINT point{};
+  EXPECT_EQ(os.DPtoLP(os.GetDC(nullptr), &point, -1), 0);
+}
 
 }  // namespace

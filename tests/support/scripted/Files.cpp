@@ -41,6 +41,7 @@ int Files::ReadFile(os::FileHandle handle, void* buffer, std::uint32_t size, std
   if (overlapped != nullptr) words += ", overlapped";
   if (calls_.Record("", "ReadFile", words).status != 0) {
     std::memset(buffer, 0x53, size);
+    *count = countOfFailedRead;
     return 0;
   }
   std::size_t most = size;
@@ -53,7 +54,7 @@ int Files::ReadFile(os::FileHandle handle, void* buffer, std::uint32_t size, std
   std::memcpy(buffer, file->bytes->data() + begin, came);
   file->position = begin + came;
   *count = static_cast<std::uint32_t>(came);
-  return 1;
+  return readAnswer;
 }
 
 std::uint32_t Files::SetFilePointer(os::FileHandle handle, std::int32_t distance,

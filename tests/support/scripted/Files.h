@@ -22,6 +22,9 @@ class Files : public os::FileProvider {
   // The most bytes that the next reads give, one number a read; when they are used up each read
   // gives what it is asked for.
   std::deque<std::uint32_t> readSizes;
+  // What a read that succeeds answers, and the count that one that fails leaves behind.
+  int readAnswer = 1;
+  std::uint32_t countOfFailedRead = 0;
 
   os::FileHandle CreateFileW(const wchar_t* path, std::uint32_t access, std::uint32_t share,
                              void* security, std::uint32_t disposition, std::uint32_t attributes,

@@ -97,8 +97,10 @@ HRESULT System::InitVariantFromBuffer(const void* buffer, std::uint32_t size, VA
 
 HRESULT System::CLSIDFromString(const wchar_t* text, GUID* id) {
   const Outcome outcome = calls_.Record("", "CLSIDFromString", Arguments(text));
+  const bool read = text != nullptr && ScanId(text, *id);
+  // A failed call leaves an id that nobody may take.
   if (outcome.status != 0) return outcome.status;
-  return text != nullptr && ScanId(text, *id) ? S_OK : CO_E_CLASSSTRING;
+  return read ? S_OK : CO_E_CLASSSTRING;
 }
 
 HRESULT System::CoInitialize(void* reserved) {

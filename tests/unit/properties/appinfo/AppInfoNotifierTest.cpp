@@ -21,6 +21,9 @@ class Gathering : public testing::Test {
 TEST_F(Gathering, ACountIsNotKept) {
   notifier.OnEntryCount(5);
   EXPECT_THAT(sets, IsEmpty());
+  notifier.OnPropertySet(kOtherId, L"one");
+  notifier.OnEntryCount(0);
+  EXPECT_THAT(sets, SizeIs(1));
 }
 
 TEST_F(Gathering, EverySetIsKeptUnderItsId) {

@@ -154,6 +154,16 @@ TEST_F(AppInfoWalk, EveryByteOfTheSentinelCounts) {
   }
 }
 
+TEST_F(AppInfoWalk, EveryByteOfTheSentinelCountsWhereverItBegins) {
+  for (std::size_t gap = 1; gap < 32; ++gap) {
+    for (std::size_t at = 0; at < 32; ++at) {
+      std::string file = FileWithBlockBehind(gap, block);
+      file[kOffset + gap + at] = static_cast<char>(file[kOffset + gap + at] ^ 1);
+      EXPECT_FALSE(Read(file)) << gap << " " << at;
+    }
+  }
+}
+
 TEST_F(AppInfoWalk, OfTwoBlocksTheFirstIsRead) {
   const Block other = {.entries = {{kOtherId, u"other"}}};
   EXPECT_TRUE(Read(appinfo::File(other) + Bytes(block)));
@@ -187,6 +197,16 @@ TEST_F(AppInfoWalk, ABlockCutAnywhereHasNone) {
     EXPECT_FALSE(Read(whole.substr(0, size))) << size;
   }
   EXPECT_TRUE(Read(whole));
+}
+
+TEST_F(AppInfoWalk, AfterTheFirstFailureNothingMoreIsRead) {
+  const std::string whole = appinfo::File({.entries = {{kOtherId, u"one"}}});
+  for (std::size_t size = kOffset + 1; size < whole.size(); ++size) {
+    world.ForgetCalls();
+    Read(whole.substr(0, size));
+    // The header, what there is, and the end.
+    EXPECT_EQ(world.Count("ReadFile"), 3) << size;
+  }
 }
 
 TEST_F(AppInfoWalk, TheCountIsToldBeforeAnEntryIsRead) {

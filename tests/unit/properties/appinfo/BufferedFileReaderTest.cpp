@@ -74,6 +74,12 @@ TEST_F(BufferedFileReader, AnOffsetWithItsTopBitSetIsANegativeDistance) {
   EXPECT_EQ(Read(1), "-.");
 }
 
+TEST_F(BufferedFileReader, TheLastOffsetOfAllIsADistanceThatFails) {
+  Open("abc", 0xFFFFFFFF);
+  EXPECT_THAT(world.Calls({"SetFilePointer"}), ElementsAre("SetFilePointer(file 1, -1, null, 0)"));
+  EXPECT_EQ(Read(1), "-.");
+}
+
 TEST_F(BufferedFileReader, NothingIsReadBeforeItIsAsked) {
   Open("abc");
   EXPECT_EQ(world.Count("ReadFile"), 0);
@@ -160,6 +166,20 @@ TEST_F(BufferedFileReader, AfterAFailedReadEveryOtherFailsUnasked) {
   EXPECT_EQ(Read(2), "-..");
   EXPECT_EQ(world.Count("ReadFile"), 1);
   EXPECT_TRUE(reader->ReadBytes(nullptr, 0));
+}
+
+TEST_F(BufferedFileReader, WhatAFailedReadCountsIsNotTaken) {
+  world.files.countOfFailedRead = 7;
+  world.Fail("ReadFile", 5, 1);
+  Open("abc");
+  EXPECT_EQ(Read(2), "-..");
+  EXPECT_EQ(Read(1), "-.");
+}
+
+TEST_F(BufferedFileReader, AnyAnswerOfAReadButZeroIsASuccess) {
+  world.files.readAnswer = -2;
+  Open("abc");
+  EXPECT_EQ(Read(3), "abc");
 }
 
 TEST_F(BufferedFileReader, AFailedReadKeepsTheBytesThatWereThere) {

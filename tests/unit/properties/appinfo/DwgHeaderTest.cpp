@@ -129,6 +129,12 @@ TEST_F(DwgHeader, AFileThatCannotBeReadIsNoneAndClosed) {
   EXPECT_EQ(world.Count("CloseHandle"), 1);
 }
 
+TEST_F(DwgHeader, AnyAnswerOfTheReadButZeroIsASuccess) {
+  world.files.readAnswer = -2;
+  EXPECT_EQ(Locate(Header{.magic = "AC1018", .first = 9}), 4);
+  EXPECT_EQ(offset, 9u);
+}
+
 TEST_F(DwgHeader, HowManyBytesCameIsNotLookedAt) {
   EXPECT_EQ(Locate(std::string("AC1018")), 4);
   EXPECT_EQ(offset, 0u);

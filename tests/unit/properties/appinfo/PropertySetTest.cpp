@@ -174,6 +174,11 @@ TEST_F(PropertySet, AHeadThatNamesNothingFindsNothing) {
   EXPECT_EQ(String(L"<prop_set fmt_id=\"rubbish\">" + std::wstring(kName)), L"(none)");
 }
 
+TEST_F(PropertySet, AHeadThatCannotBeConvertedFindsNothing) {
+  world.Fail("CLSIDFromString", 1);
+  EXPECT_EQ(String(kHead + kName), L"(none)");
+}
+
 TEST_F(PropertySet, WhatStandsAroundTheHeadIsPassedOver) {
   EXPECT_EQ(String(L"rubbish <prop_set fmt_id=\"{F29F85E0-4FF9-1068-AB91-08002B27B3D9}\" x=\"1\" " +
                    std::wstring(kName)),

@@ -84,9 +84,10 @@ TEST_F(TypedValue, AnElementMustBeginAtOnce) {
 }
 
 TEST_F(TypedValue, ATagMustEnd) {
-  EXPECT_FALSE(Read(L"<string"));
-  EXPECT_FALSE(Read(L"<"));
-  EXPECT_EQ(value.vt, VT_EMPTY);
+  for (const wchar_t* element : {L"<string", L"<"}) {
+    EXPECT_FALSE(Read(element));
+    EXPECT_EQ(value.vt, VT_EMPTY);
+  }
 }
 
 TEST_F(TypedValue, AnUnknownTagIsRefusedAndSetsNoType) {
@@ -152,10 +153,13 @@ TEST_F(TypedValue, ADoubleIsScanned) {
 TEST_F(TypedValue, AScanWritesNoMoreThanItsValue) {
   PROPVARIANT filled;
   std::memset(static_cast<void*>(&filled), 0xFF, sizeof filled);
-  ASSERT_TRUE(ZDXEngine::ReadTypedValue(L"<int>1</int>", filled));
   unsigned char bytes[8];
-  std::memcpy(bytes, &filled.dblVal, sizeof bytes);
-  EXPECT_EQ(bytes[4], 0xFF);
+  for (const wchar_t* element : {L"<uint>1</uint>", L"<int>1</int>"}) {
+    ASSERT_TRUE(ZDXEngine::ReadTypedValue(element, filled));
+    std::memcpy(bytes, &filled.dblVal, sizeof bytes);
+    EXPECT_EQ(bytes[0], 1);
+    EXPECT_EQ(bytes[4], 0xFF);
+  }
   ASSERT_TRUE(ZDXEngine::ReadTypedValue(L"<boolval>true</boolval>", filled));
   std::memcpy(bytes, &filled.dblVal, sizeof bytes);
   EXPECT_EQ(bytes[0], 1);

@@ -1,6 +1,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#if defined(__linux__)
+#include <sys/resource.h>
+#endif
+
 #include <algorithm>
 #include <cstdint>
 
@@ -33,6 +37,12 @@ class ThumbnailProperty : public scripted::CollectorTest {
     const SAFEARRAY& array = *properties.at(0).value.parray;
     const auto* const first = static_cast<const std::uint8_t*>(array.pvData);
     return {first, first + array.rgsabound[0].cElements};
+  }
+  // What was called, without its arguments.
+  std::vector<std::string> Operations() const {
+    std::vector<std::string> calls = world.Calls();
+    for (std::string& call : calls) call.resize(call.find('('));
+    return calls;
   }
   std::vector<int> Head() const {
     const std::vector<int> bytes = Bytes();
@@ -172,16 +182,17 @@ TEST_F(ThumbnailProperty, APreviewWithoutAPaletteIsDrawnAllTheSame) {
 }
 
 TEST_F(ThumbnailProperty, WhatFailsWhileItIsDrawnIsNotLookedAt) {
+  Collect();
+  const std::vector<std::string> undisturbed = Operations();
   for (const char* call : {"GetDC", "CreateCompatibleDC", "SelectObject", "GetMapMode",
                            "SetMapMode", "GetObjectW", "DPtoLP", "BitBlt"}) {
+    properties.clear();
     world.ForgetCalls();
     world.ForgetScripts();
     world.ReturnNull(call);
-    properties.clear();
     Collect();
     EXPECT_THAT(properties, SizeIs(1)) << call;
-    EXPECT_EQ(world.Count("BitBlt"), 1) << call;
-    EXPECT_EQ(world.Count("DeleteObject"), 2) << call;
+    EXPECT_EQ(Operations(), undisturbed) << call;
   }
 }
 
@@ -229,6 +240,34 @@ TEST_F(ThumbnailProperty, ASizeThatNoBlockHasGivesNoneAndEverythingIsReleased) {
   EXPECT_EQ(world.Count("DeleteMetaFile"), 1);
   EXPECT_EQ(world.Count("DeleteObject"), 2);
 }
+
+// Only there can a test take the memory away.
+#if defined(__linux__) && !defined(__SANITIZE_ADDRESS__)
+class MemoryLimit {
+ public:
+  explicit MemoryLimit(rlim_t bytes) {
+    getrlimit(RLIMIT_AS, &before_);
+    const rlimit limit = {bytes, before_.rlim_max};
+    setrlimit(RLIMIT_AS, &limit);
+  }
+  ~MemoryLimit() { setrlimit(RLIMIT_AS, &before_); }
+  MemoryLimit(const MemoryLimit&) = delete;
+  MemoryLimit& operator=(const MemoryLimit&) = delete;
+
+ private:
+  rlimit before_ = {};
+};
+
+TEST_F(ThumbnailProperty, ABlockThatCannotBeMadeGivesNoneAndEverythingIsReleased) {
+  world.graphics.toldSize = 0xF0000000;
+  const MemoryLimit limit(rlim_t{1} << 30);
+  Collect();
+  EXPECT_THAT(properties, IsEmpty());
+  EXPECT_EQ(world.Count("GetMetaFileBitsEx"), 1);
+  EXPECT_EQ(world.Count("DeleteMetaFile"), 1);
+  EXPECT_EQ(world.Count("DeleteObject"), 2);
+}
+#endif
 
 TEST_F(ThumbnailProperty, AVariantThatCannotBeMadeGivesNoneAndEverythingIsReleased) {
   world.Fail("InitVariantFromBuffer", E_OUTOFMEMORY);
