@@ -28,7 +28,7 @@ std::string LayerName(int number) { return "PLAN-" + std::to_string(number); }
 
 // Lines, circles and texts all over the layers, with coordinates that don't compress well.
 drawing::EntitySpec Entity(int number, std::mt19937& random) {
-  const auto coordinate = [&random] { return random() / 1e5; };
+  const auto coordinate = [&random] { return static_cast<double>(random()) / 1e5; };
   const std::string layer = LayerName(number % kLayers);
   const drawing::Point at = {coordinate(), coordinate()};
   if (number % 10 == 0) return drawing::Text(layer, at, 2.5, "Room " + std::to_string(number));
@@ -43,7 +43,9 @@ drawing::DrawingSpec LargeDrawing(const std::string& version, int entities) {
   spec.summary.author = "A. Drafter";
   spec.customProperties = {{"Project", "Measured"}};
   for (int i = 0; i < kLayers; ++i) spec.layers.emplace_back(LayerName(i));
-  for (int i = 0; i < kGroups; ++i) spec.groups.emplace_back("Group " + std::to_string(i));
+  for (int i = 0; i < kGroups; ++i) {
+    spec.groups.emplace_back(("Group " + std::to_string(i)).c_str());
+  }
   for (int i = 0; i < kNamedObjects; ++i) {
     spec.rootEntries.emplace_back("RECORD_" + std::to_string(i), drawing::Xrecord());
   }

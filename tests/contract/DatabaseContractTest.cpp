@@ -1,17 +1,16 @@
 // What the drawing-database library promises, of the embedded one and of the stand-in for tests.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
 #include <memory>
 #include <optional>
 
 #include "ZDXEngine/Utf8.h"
 #include "backends/database/zndb/DatabaseProvider.h"
 #include "platform/zndb/Provider.h"
+#include "support/ScratchFile.h"
+#include "support/dwg/DwgMaker.h"
 #include "support/dxf/DxfMaker.h"
 #include "support/scripted/World.h"
 
@@ -49,27 +48,27 @@ class Scripted : public Subject {
 
 class Embedded : public Subject {
  public:
-  Embedded() : before_(zndb::InstallProvider(zdx::database::EmbeddedProvider())) {
+  explicit Embedded(bool asDwg)
+      : asDwg_(asDwg), before_(zndb::InstallProvider(zdx::database::EmbeddedProvider())) {
     drawing::DrawingSpec spec;
     spec.layers = {"0", "Walls"};
     spec.groups = {"Pair"};
     spec.summary.title = "Plan";
     spec.customProperties = {{"Client", "Somebody"}};
     spec.settings.menu = "menu";
-    std::ofstream(path_, std::ios::binary) << dxf::Make(spec);
+    file_.emplace(asDwg ? dwg::Make(spec) : dxf::Make(spec), asDwg ? ".dwg" : ".dxf");
   }
-  ~Embedded() override {
-    std::filesystem::remove(path_);
-    zndb::InstallProvider(before_);
-  }
+  ~Embedded() override { zndb::InstallProvider(before_); }
   Zent::ErrorStatus Read(ZnDbDatabase& database) override {
-    return database.dxfIn(ZDXEngine::WideFromUtf8(path_.string()).c_str(), nullptr);
+    const std::wstring path = file_->path();
+    return asDwg_ ? database.readDwgFile(path.c_str(), 4, true, nullptr)
+                  : database.dxfIn(path.c_str(), nullptr);
   }
 
  private:
+  bool asDwg_;
   zndb::Provider* before_;
-  std::filesystem::path path_ = std::filesystem::temp_directory_path() /
-                                ("zdx-contract-" + std::to_string(getpid()) + ".dxf");
+  std::optional<zdx_test::ScratchFile> file_;
 };
 
 class DatabaseContract : public testing::TestWithParam<const char*> {
@@ -78,7 +77,7 @@ class DatabaseContract : public testing::TestWithParam<const char*> {
     if (std::string(GetParam()) == "Scripted") {
       subject = std::make_unique<Scripted>();
     } else {
-      subject = std::make_unique<Embedded>();
+      subject = std::make_unique<Embedded>(std::string(GetParam()) == "EmbeddedDwg");
     }
     database.emplace(false, true);
     status = subject->Read(*database);
@@ -266,12 +265,12 @@ TEST_P(DatabaseContract, EntriesAreFoundWithoutRegardToCase) {
   dictionary->close();
 }
 
-class EmbeddedDatabase : public testing::Test {
+class EmbeddedDatabase : public testing::TestWithParam<bool> {
  protected:
-  Embedded subject;
+  Embedded subject{GetParam()};
 };
 
-TEST_F(EmbeddedDatabase, DestroyedServicesAreNoLongerInstalled) {
+TEST_P(EmbeddedDatabase, DestroyedServicesAreNoLongerInstalled) {
   {
     Host host;
     zndbSetHostApplicationServices(&host);
@@ -279,18 +278,18 @@ TEST_F(EmbeddedDatabase, DestroyedServicesAreNoLongerInstalled) {
   EXPECT_EQ(zndbHostApplicationServices(), nullptr);
 }
 
-TEST_F(EmbeddedDatabase, ItsLinkerKnowsNoOtherModules) {
+TEST_P(EmbeddedDatabase, ItsLinkerKnowsNoOtherModules) {
   auto* const linker = static_cast<ZnRxDynamicLinker*>(znrxSysRegistry()->at(L"DynamicLinker"));
   EXPECT_FALSE(linker->loadModule(L"other.zdx", false, false));
 }
 
-TEST_F(EmbeddedDatabase, ReadsOneFileOnly) {
+TEST_P(EmbeddedDatabase, ReadsOneFileOnly) {
   ZnDbDatabase database(false, true);
   ASSERT_EQ(subject.Read(database), Zent::kOk);
   EXPECT_NE(subject.Read(database), Zent::kOk);
 }
 
-TEST_F(EmbeddedDatabase, AnObjectIsTheSameHoweverOftenItIsClosed) {
+TEST_P(EmbeddedDatabase, AnObjectIsTheSameHoweverOftenItIsClosed) {
   ZnDbDatabase database(false, true);
   ASSERT_EQ(subject.Read(database), Zent::kOk);
   ZnDbLayerTable* table = nullptr;
@@ -302,7 +301,7 @@ TEST_F(EmbeddedDatabase, AnObjectIsTheSameHoweverOftenItIsClosed) {
   EXPECT_EQ(again, table);
 }
 
-TEST_F(EmbeddedDatabase, BeforeAFileIsReadThereIsNothing) {
+TEST_P(EmbeddedDatabase, BeforeAFileIsReadThereIsNothing) {
   ZnDbDatabase database(true, true);
   ZnDbLayerTable* table = nullptr;
   EXPECT_NE(database.getSymbolTable(table, ZnDb::kForRead), Zent::kOk);
@@ -313,14 +312,18 @@ TEST_F(EmbeddedDatabase, BeforeAFileIsReadThereIsNothing) {
   EXPECT_NE(database.getFilename(name), Zent::kOk);
 }
 
-TEST_F(EmbeddedDatabase, SavesNothingYet) {
+TEST_P(EmbeddedDatabase, SavesNothingYet) {
   ZnDbDatabase database(false, true);
   ASSERT_EQ(subject.Read(database), Zent::kOk);
   EXPECT_NE(database.saveAs(L"/nowhere/a.dwg", true, 33, nullptr), Zent::kOk);
   EXPECT_NE(database.dxfOut(L"/nowhere/a.dxf", 16, 33, false), Zent::kOk);
 }
 
-INSTANTIATE_TEST_SUITE_P(Providers, DatabaseContract, testing::Values("Embedded", "Scripted"),
+INSTANTIATE_TEST_SUITE_P(Formats, EmbeddedDatabase, testing::Bool(),
+                         [](const auto& info) { return info.param ? "Dwg" : "Dxf"; });
+
+INSTANTIATE_TEST_SUITE_P(Providers, DatabaseContract,
+                         testing::Values("EmbeddedDxf", "EmbeddedDwg", "Scripted"),
                          [](const auto& info) { return info.param; });
 
 }  // namespace

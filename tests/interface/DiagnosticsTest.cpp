@@ -4,6 +4,7 @@
 #include "ZDXEngine/Diagnostics.h"
 #include "ZDXEngine/ZdxEngineException.h"
 #include "support/PublicRead.h"
+#include "support/dwg/DwgMaker.h"
 #include "support/dxf/DxfMaker.h"
 
 namespace {
@@ -19,6 +20,16 @@ TEST(LastOpening, TellsFormatVersionAndCodePage) {
   EXPECT_EQ(diagnostics.format, L"DXF (text)");
   EXPECT_EQ(diagnostics.version, L"AC1032");
   EXPECT_EQ(diagnostics.codePage, L"ANSI_1252");
+}
+
+TEST(LastOpening, TellsTheSameOfADwgDrawing) {
+  drawing::DrawingSpec spec;
+  spec.version = "AC1018";
+  spec.codePage = "ANSI_1251";
+  const Diagnostics diagnostics = zdx_test::ReadBytes(dwg::Make(spec), ".dwg").diagnostics;
+  EXPECT_EQ(diagnostics.format, L"DWG");
+  EXPECT_EQ(diagnostics.version, L"AC1018");
+  EXPECT_EQ(diagnostics.codePage, L"ANSI_1251");
 }
 
 TEST(LastOpening, IsThatOfAFailureToo) {

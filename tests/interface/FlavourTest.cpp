@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "support/PublicRead.h"
+#include "support/dwg/DwgMaker.h"
 #include "support/dxf/DxfMaker.h"
 
 namespace {
@@ -10,10 +11,43 @@ namespace {
 using ZDXEngine::DwgFileType;
 using ZDXEngine::FilePropertyMgr;
 
-DwgFileType FlavourOf(const drawing::DrawingSpec& spec, const dxf::Writing& writing = {}) {
-  const std::wstring path = zdx_test::WriteFile(dxf::Make(spec, writing));
+// Every form of file in which a drawing is made.
+struct FileForm {
+  const char* name;
+  const char* suffix;
+  std::vector<std::string> versions;
+  std::string (*make)(const drawing::DrawingSpec& spec);
+};
+
+const FileForm kForms[] = {
+    {"Text",
+     ".dxf",
+     {"AC1015", "AC1032"},
+     [](const drawing::DrawingSpec& spec) { return dxf::Make(spec); }},
+    {"Binary",
+     ".dxf",
+     {"AC1015", "AC1032"},
+     [](const drawing::DrawingSpec& spec) { return dxf::Make(spec, {.form = dxf::Form::Binary}); }},
+    {"Dwg",
+     ".dwg",
+     {"AC1014", "AC1015", "AC1018", "AC1021", "AC1024", "AC1027", "AC1032"},
+     [](const drawing::DrawingSpec& spec) { return dwg::Make(spec); }},
+};
+
+DwgFileType FlavourIn(const std::string& bytes, const std::string& suffix) {
+  const std::wstring path = zdx_test::WriteFile(bytes, suffix);
   zdx_test::ReadFile(path);
   return FilePropertyMgr::Instance().GetFileType(path);
+}
+
+// Expects the flavour in every form and version.
+void ExpectFlavour(drawing::DrawingSpec spec, DwgFileType flavour) {
+  for (const FileForm& form : kForms) {
+    for (const std::string& version : form.versions) {
+      spec.version = version;
+      EXPECT_EQ(FlavourIn(form.make(spec), form.suffix), flavour) << form.name << ' ' << version;
+    }
+  }
 }
 
 drawing::DrawingSpec WithEntries(const std::vector<drawing::NamedObject>& entries) {
@@ -23,44 +57,51 @@ drawing::DrawingSpec WithEntries(const std::vector<drawing::NamedObject>& entrie
 }
 
 TEST(Flavour, WithoutAMarkIsThePlainOne) {
-  EXPECT_EQ(FlavourOf(drawing::DrawingSpec()), DwgFileType::Zent);
+  ExpectFlavour(drawing::DrawingSpec(), DwgFileType::Zent);
 }
 
-TEST(Flavour, ABlockMarksItInAnyCaseAndVersion) {
-  for (const char* version : {"AC1009", "AC1015", "AC1032"}) {
-    drawing::DrawingSpec spec;
-    spec.version = version;
-    spec.blocks = {{"door"}, {"WD_M"}};
-    EXPECT_EQ(FlavourOf(spec), DwgFileType::Zne) << version;
-  }
+TEST(Flavour, ABlockMarksItInAnyCase) {
+  drawing::DrawingSpec spec;
+  spec.blocks = {{"door"}, {"WD_M"}};
+  ExpectFlavour(spec, DwgFileType::Zne);
+  spec.version = "AC1009";
+  EXPECT_EQ(FlavourIn(dxf::Make(spec), ".dxf"), DwgFileType::Zne);
+}
+
+TEST(Flavour, ADynamicBlockMarksItToo) {
+  drawing::DrawingSpec spec;
+  spec.blocks = {{"door"}, {"wd_m"}};
+  spec.blocks[1].isDynamic = true;
+  ExpectFlavour(spec, DwgFileType::Zne);
 }
 
 TEST(Flavour, EntriesOfTheRootDictionaryMarkIt) {
-  EXPECT_EQ(FlavourOf(WithEntries({{"IDW_DICT_ROOT", drawing::Dictionary()}})),
-            DwgFileType::Partonic);
-  EXPECT_EQ(FlavourOf(WithEntries({{"ZNME_SCOPE_NAME", drawing::Xrecord()}})), DwgFileType::Znm);
-  EXPECT_EQ(FlavourOf(WithEntries({{"ZNME_SCOPE_NAME", drawing::Xrecord()},
-                                   {"ZNASGREF_MASTER", drawing::Xrecord()}})),
-            DwgFileType::Zmt);
+  ExpectFlavour(WithEntries({{"IDW_DICT_ROOT", drawing::Dictionary()}}), DwgFileType::Partonic);
+  ExpectFlavour(WithEntries({{"ZNME_SCOPE_NAME", drawing::Xrecord()}}), DwgFileType::Znm);
+  ExpectFlavour(WithEntries({{"ZNME_SCOPE_NAME", drawing::Xrecord()},
+                             {"ZNASGREF_MASTER", drawing::Xrecord()}}),
+                DwgFileType::Zmt);
 }
 
 TEST(Flavour, AnObjectOfTheClassMarksIt) {
   drawing::DrawingSpec spec = WithEntries({{"Root", drawing::CustomObject("TERRDBTREENODE")}});
   spec.classes = {{"TERRDBTREENODE", "TerrDbTreeNode"}};
-  EXPECT_EQ(FlavourOf(spec), DwgFileType::Terrane3D);
+  ExpectFlavour(spec, DwgFileType::Terrane3D);
 }
 
 TEST(Flavour, AProxyForTheClassMarksIt) {
-  for (const dxf::Form form : {dxf::Form::Ascii, dxf::Form::Binary}) {
-    const drawing::DrawingSpec spec = WithEntries({{"Root", drawing::Proxy("TerrDbTreeNode")}});
-    EXPECT_EQ(FlavourOf(spec, {.form = form}), DwgFileType::Terrane3D);
-  }
+  ExpectFlavour(WithEntries({{"Root", drawing::Proxy("TerrDbTreeNode")}}), DwgFileType::Terrane3D);
 }
 
 TEST(Flavour, AnyOtherObjectOfThatNameDoesNot) {
-  EXPECT_EQ(FlavourOf(WithEntries({{"Root", drawing::Xrecord()}})), DwgFileType::Zent);
-  EXPECT_EQ(FlavourOf(WithEntries({{"Root", drawing::Proxy("OtherNode")}})), DwgFileType::Zent);
-  EXPECT_EQ(FlavourOf(WithEntries({{"Root", drawing::ObjectAt("ABCDEF")}})), DwgFileType::Zent);
+  ExpectFlavour(WithEntries({{"Root", drawing::Xrecord()}}), DwgFileType::Zent);
+  ExpectFlavour(WithEntries({{"Root", drawing::Proxy("OtherNode")}}), DwgFileType::Zent);
+}
+
+TEST(Flavour, AnEntryThatLeadsNowhereDoesNot) {
+  const drawing::DrawingSpec spec = WithEntries({{"Root", drawing::ObjectAt("ABCDEF")}});
+  EXPECT_EQ(FlavourIn(dxf::Make(spec), ".dxf"), DwgFileType::Zent);
+  EXPECT_EQ(FlavourIn(dwg::Make(spec), ".dwg"), DwgFileType::Zent);
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 // drawing's truth file tells, byte for byte, and each is shown in its size.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -15,6 +14,7 @@
 #include "formats/preview/Shown.h"
 #include "support/Process.h"
 #include "support/Samples.h"
+#include "support/ScratchFile.h"
 
 namespace {
 
@@ -30,14 +30,11 @@ std::vector<zdx::model::StoredPicture> PicturesOf(const std::string& name) {
 }
 
 std::string Sha256(const std::string& bytes) {
-  const auto path =
-      std::filesystem::temp_directory_path() / ("zdx-picture-" + std::to_string(getpid()));
-  std::ofstream(path, std::ios::binary) << bytes;
+  const zdx_test::ScratchFile file(bytes, ".picture");
   zdx_test::Command command;
   command.program = "/usr/bin/sha256sum";
-  command.arguments = {path.string()};
+  command.arguments = {ZDXEngine::Utf8FromWide(file.path())};
   const zdx_test::Outcome outcome = zdx_test::RunCommand(command);
-  std::filesystem::remove(path);
   return outcome.out.substr(0, outcome.out.find(' '));
 }
 

@@ -82,7 +82,7 @@ std::optional<model::ObjectKey> DwgDrawing::Find(model::Handle handle) {
   return model::ObjectKey{handle};
 }
 
-std::optional<DwgDrawing::Object> DwgDrawing::Read(model::Handle handle) {
+std::optional<DwgDrawing::Object> DwgDrawing::Read(model::Handle handle, Record::Extent extent) {
   const std::optional<std::uint64_t> at = Map().Find(handle);
   if (!at) return std::nullopt;
   Section* const objects = container_->Find(SectionId::kObjects);
@@ -90,7 +90,7 @@ std::optional<DwgDrawing::Object> DwgDrawing::Read(model::Handle handle) {
     Warn(L"The file has no objects.", 0);
     return std::nullopt;
   }
-  Record record(*objects, *at, format_);
+  Record record(*objects, *at, format_, extent);
   if (!record.Whole() || record.handle() != handle) {
     Warn(L"The record of an object is damaged.", handle);
     return std::nullopt;
@@ -112,6 +112,8 @@ std::optional<DwgDrawing::Object> DwgDrawing::Read(model::Handle handle) {
                              ReadFields(ObjectHandlesLayout(), version, *streams, object.fields);
     object.whole = object.whole && ReadFields(own, version, *streams, object.fields);
   }
+  // What is asked for may stand behind the front after all.
+  if (!object.whole && record.IsCut()) return Read(handle);
   if (!object.whole) Warn(L"The record of an object ends early.", handle);
   return object;
 }
@@ -138,8 +140,12 @@ model::ObjectDescription DwgDrawing::Describe(model::ObjectKey key) {
 }
 
 std::optional<model::ObjectKey> DwgDrawing::RootDictionary() {
-  const FieldValues::Value* const root = Header().Find(Key::kRootDictionary);
-  return root == nullptr ? std::nullopt : Find(root->handle.From(0));
+  const FieldValues::Value* const variable = Header().Find(Key::kRootDictionary);
+  if (variable == nullptr) return std::nullopt;
+  const model::Handle handle = variable->handle.From(0);
+  const std::optional<model::ObjectKey> root = Find(handle);
+  if (!root) Warn(L"The root dictionary isn't there.", handle);
+  return root;
 }
 
 std::vector<model::DictionaryEntry> DwgDrawing::DictionaryEntries(model::ObjectKey dictionary) {

@@ -70,7 +70,7 @@ class DwgDrawing : public model::Drawing {
   const ClassTable& Classes();
 
   // Reads an object and its fields by the layout of its type; nullopt if its record can't be found.
-  std::optional<Object> Read(model::Handle handle);
+  std::optional<Object> Read(model::Handle handle, Record::Extent extent = Record::Extent::kWhole);
   bool IsEntity(const Object& object) const;
   std::vector<model::ObjectKey> CollectRecords(model::TableKind table);
   std::wstring FullBlockName(std::wstring cut, const FieldValues& block, model::Handle handle);

@@ -84,7 +84,7 @@ std::vector<model::ObjectKey> DwgDrawing::CollectRecords(model::TableKind kind) 
 std::optional<std::wstring> DwgDrawing::RecordName(model::TableKind table,
                                                    model::ObjectKey record) {
   const auto handle = static_cast<model::Handle>(record);
-  const std::optional<Object> object = Read(handle);
+  const std::optional<Object> object = Read(handle, Record::Extent::kFront);
   if (!object) return std::nullopt;
   const FieldValues::Value* const name = object->fields.Find(Key::kName);
   if (object->type != RowOf(table).recordType || name == nullptr) {

@@ -37,6 +37,20 @@ constexpr std::uint32_t kSumModulus = 0xFFF1;
 // How many bytes are summed before the sums are reduced.
 constexpr std::size_t kSumChunk = 0x15B0;
 
+// Adds a block as if byte after byte; without the chain of sums it takes a fraction of the time.
+constexpr std::size_t kSumBlock = 16;
+void SumBlock(const char* bytes, std::uint32_t& low, std::uint32_t& high) {
+  std::uint32_t sum = 0;
+  std::uint32_t weighted = 0;
+  for (std::size_t i = 0; i < kSumBlock; ++i) {
+    const std::uint32_t byte = static_cast<std::uint8_t>(bytes[i]);
+    sum += byte;
+    weighted += static_cast<std::uint32_t>(kSumBlock - i) * byte;
+  }
+  high += static_cast<std::uint32_t>(kSumBlock) * low + weighted;
+  low += sum;
+}
+
 }  // namespace
 
 std::uint16_t Crc16(std::string_view bytes, std::uint16_t seed) {
@@ -50,8 +64,10 @@ std::uint32_t PageSum(std::uint32_t seed, std::string_view bytes) {
   std::uint32_t high = seed >> 16;
   while (!bytes.empty()) {
     const std::string_view chunk = bytes.substr(0, kSumChunk);
-    for (const char c : chunk) {
-      low += static_cast<std::uint8_t>(c);
+    std::size_t at = 0;
+    for (; chunk.size() - at >= kSumBlock; at += kSumBlock) SumBlock(chunk.data() + at, low, high);
+    for (; at < chunk.size(); ++at) {
+      low += static_cast<std::uint8_t>(chunk[at]);
       high += low;
     }
     low %= kSumModulus;

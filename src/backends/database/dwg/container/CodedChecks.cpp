@@ -23,14 +23,12 @@ constexpr std::array<std::array<std::uint8_t, kGroup - 1>, kGroup> kRestOrder = 
 }};
 
 std::string Reordered(std::string_view bytes) {
-  std::string ordered;
-  ordered.reserve(bytes.size());
-  for (; bytes.size() >= kGroup; bytes.remove_prefix(kGroup)) {
-    for (const std::uint8_t from : kGroupOrder) ordered.push_back(bytes[from]);
+  std::string ordered(bytes.size(), '\0');
+  char* to = ordered.data();
+  for (; bytes.size() >= kGroup; bytes.remove_prefix(kGroup), to += kGroup) {
+    for (std::size_t i = 0; i < kGroup; ++i) to[i] = bytes[kGroupOrder[i]];
   }
-  for (std::size_t i = 0; i < bytes.size(); ++i) {
-    ordered.push_back(bytes[kRestOrder[bytes.size()][i]]);
-  }
+  for (std::size_t i = 0; i < bytes.size(); ++i) to[i] = bytes[kRestOrder[bytes.size()][i]];
   return ordered;
 }
 

@@ -139,7 +139,19 @@ void Mend(const Code& code, Word& word) {
   if (found == errors) word = mended;
 }
 
-std::string Take(std::string_view page, std::size_t words, ParityKind kind, bool mends) {
+}  // namespace
+
+std::string TakeData(std::string_view page, std::size_t words, ParityKind kind) {
+  const std::size_t size = DataSize(kind);
+  std::string data(words * size, '\0');
+  for (std::size_t j = 0; j < size; ++j) {
+    const char* const from = page.data() + j * words;
+    for (std::size_t i = 0; i < words; ++i) data[i * size + j] = from[i];
+  }
+  return data;
+}
+
+std::string TakeMendedData(std::string_view page, std::size_t words, ParityKind kind) {
   const Code& code = kind == ParityKind::kSystemPage ? kSystemCode : kDataCode;
   const std::size_t size = DataSize(kind);
   std::string data;
@@ -147,20 +159,10 @@ std::string Take(std::string_view page, std::size_t words, ParityKind kind, bool
   Word word;
   for (std::size_t i = 0; i < words; ++i) {
     for (std::size_t j = 0; j < kWordSize; ++j) word[j] = static_cast<Byte>(page[i + j * words]);
-    if (mends) Mend(code, word);
+    Mend(code, word);
     data.append(word.begin(), word.begin() + static_cast<std::ptrdiff_t>(size));
   }
   return data;
-}
-
-}  // namespace
-
-std::string TakeData(std::string_view page, std::size_t words, ParityKind kind) {
-  return Take(page, words, kind, false);
-}
-
-std::string TakeMendedData(std::string_view page, std::size_t words, ParityKind kind) {
-  return Take(page, words, kind, true);
 }
 
 }  // namespace zdx::dwg

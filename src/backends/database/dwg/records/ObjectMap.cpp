@@ -24,30 +24,40 @@ std::uint16_t HighFirst(std::string_view bytes) {
 }  // namespace
 
 ObjectMap::ObjectMap(Section& section, model::Report& report)
-    : section_(&section), report_(&report) {
-  FindPages();
-  const auto later = [](const Page& left, const Page& right) { return left.first >= right.first; };
-  if (std::adjacent_find(pages_.begin(), pages_.end(), later) != pages_.end()) Sort();
+    : section_(&section), report_(&report), ended_(false) {}
+
+// Finds the pages up to the first that begins behind `handle`.  Pages that aren't in order are all
+// found, and sorted.
+void ObjectMap::FindPages(model::Handle handle) {
+  while (!ended_ && (pages_.empty() || pages_.back().first <= handle)) {
+    ended_ = !FindPage();
+    const std::size_t count = pages_.size();
+    if (count < 2 || pages_[count - 2].first < pages_[count - 1].first) continue;
+    while (FindPage()) continue;
+    ended_ = true;
+    Sort();
+  }
 }
 
-void ObjectMap::FindPages() {
+// Finds the next page; false if there is none.
+bool ObjectMap::FindPage() {
   std::string scratch;
-  for (std::uint64_t at = 0;;) {
-    const auto head = section_->Bytes(at, kSizeSize, scratch);
-    const std::uint64_t size = head ? HighFirst(*head) : 0;
-    if (size == kSizeSize) return;
-    if (size < kSizeSize || size + kCheckSize > section_->size() - at) break;
-    if (pages_.size() == kMostPages) break;
-    const std::uint64_t begin = at + kSizeSize;
-    // A step takes ten bytes at most.
-    const auto entry =
-        section_->Bytes(begin, std::min<std::uint64_t>(size - kSizeSize, 10), scratch);
-    if (!entry) break;
-    const model::Handle first = BitReader(*entry, 0, entry->size() * 8).UMC();
-    pages_.push_back({first, at, size + kCheckSize});
-    at += size + kCheckSize;
+  const auto head = section_->Bytes(next_, kSizeSize, scratch);
+  const std::uint64_t size = head ? HighFirst(*head) : 0;
+  if (size == kSizeSize) return false;
+  const std::uint64_t left = section_->size() - std::min(next_, section_->size());
+  const bool whole = size > kSizeSize && size + kCheckSize <= left;
+  // A step takes ten bytes at most.
+  const std::uint64_t stepSize = whole ? std::min<std::uint64_t>(size - kSizeSize, 10) : 0;
+  const auto step = section_->Bytes(next_ + kSizeSize, stepSize, scratch);
+  if (!whole || !step || pages_.size() == kMostPages) {
+    Warn(L"The object map ends early.", pages_.empty() ? 0 : pages_.back().at);
+    return false;
   }
-  Warn(L"The object map ends early.", pages_.empty() ? 0 : pages_.back().at);
+  const model::Handle first = BitReader(*step, 0, step->size() * 8).UMC();
+  pages_.push_back({first, next_, size + kCheckSize});
+  next_ += size + kCheckSize;
+  return true;
 }
 
 std::vector<ObjectMap::Entry> ObjectMap::Decode(const Page& page) {
@@ -87,6 +97,7 @@ void ObjectMap::Sort() {
 }
 
 std::optional<std::uint64_t> ObjectMap::Find(model::Handle handle) {
+  FindPages(handle);
   if (!sorted_) {
     const auto behind = std::upper_bound(
         pages_.begin(), pages_.end(), handle,

@@ -17,7 +17,8 @@
 
 namespace zdx::dwg {
 
-// Decodes a page when a handle of it is asked for.
+// Looks for pages no further than a question needs, and decodes one when a handle of it is asked
+// for.
 class ObjectMap {
  public:
   ObjectMap() = default;
@@ -36,14 +37,18 @@ class ObjectMap {
   };
   using Entry = std::pair<model::Handle, std::uint64_t>;
 
-  void FindPages();
+  void FindPages(model::Handle handle);
+  bool FindPage();
   std::vector<Entry> Decode(const Page& page);
   void Sort();
   void Warn(const wchar_t* text, std::uint64_t at);
 
   Section* section_ = nullptr;
   model::Report* report_ = nullptr;
+  // Those that were found so far, where the next one is looked for, and whether there is none.
   std::vector<Page> pages_;
+  std::uint64_t next_ = 0;
+  bool ended_ = true;
   // The page that was decoded last.
   std::size_t decodedPage_ = ~std::size_t{0};
   std::vector<Entry> decoded_;

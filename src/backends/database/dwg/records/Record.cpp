@@ -8,35 +8,57 @@
 namespace zdx::dwg {
 namespace {
 
-// Both sizes before a record in their longest form.
-constexpr std::uint64_t kMostHeadSize = 2 * 5 + 10;
+// Both sizes before a record in their longest form, and what its body begins with.
+constexpr std::uint64_t kMostSizesSize = 2 * 5 + 10;
+constexpr std::uint64_t kMostHeadSize = kMostSizesSize + 3 + 4 + 9;
 constexpr std::uint64_t kCheckSize = 2;
+
+// A record of more bytes is long; its front has that many behind the begin of the handles.
+constexpr std::uint64_t kLong = std::uint64_t{64} << 10;
+constexpr std::uint64_t kFrontHandles = std::uint64_t{4} << 10;
 
 }  // namespace
 
-Record::Record(Section& objects, std::uint64_t at, Format format) : format_(format) {
+Record::Record(Section& objects, std::uint64_t at, Format format, Extent extent) : format_(format) {
   if (at >= objects.size()) return;
-  const auto head = objects.Bytes(at, std::min(kMostHeadSize, objects.size() - at), scratch_);
-  if (!head) return;
-  BitReader sizes(*head, 0, head->size() * 8);
+  const std::uint64_t left = objects.size() - at;
+  const auto begin = objects.Bytes(at, std::min(kMostHeadSize, left), scratch_);
+  if (!begin) return;
+  BitReader sizes(*begin, 0, begin->size() * 8);
   const std::uint64_t size = sizes.MS();
   const std::uint64_t handleBits = format.version >= model::kVersion1024 ? sizes.UMC() : 0;
-  const std::uint64_t headSize = sizes.position() / 8;
-  if (sizes.failed() || size > objects.size() - at || handleBits > size * 8) return;
-  const auto bytes = objects.Bytes(at, headSize + size + kCheckSize, scratch_);
+  const std::uint64_t sizesSize = sizes.position() / 8;
+  if (sizes.failed() || size > left || handleBits > size * 8) return;
+  if (!ReadHead(begin->substr(static_cast<std::size_t>(sizesSize)), size, handleBits)) return;
+  const std::uint64_t front = handlesAt_ / 8 + kFrontHandles;
+  if (extent == Extent::kFront && format.version >= model::kVersion1018 && size > kLong &&
+      front < size) {
+    const auto bytes = objects.Bytes(at + sizesSize, front, scratch_);
+    body_ = bytes.value_or(std::string_view());
+    whole_ = bytes.has_value();
+    checkIsRight_ = true;
+    isCut_ = true;
+    return;
+  }
+  const auto bytes = objects.Bytes(at, sizesSize + size + kCheckSize, scratch_);
   if (!bytes) return;
-  const auto end = static_cast<std::size_t>(headSize + size);
+  const auto end = static_cast<std::size_t>(sizesSize + size);
   checkIsRight_ = LittleEndianAt<std::uint16_t>(*bytes, end) == Crc16(bytes->substr(0, end));
-  body_ = bytes->substr(static_cast<std::size_t>(headSize), static_cast<std::size_t>(size));
+  body_ = bytes->substr(static_cast<std::size_t>(sizesSize), static_cast<std::size_t>(size));
+  whole_ = true;
+}
+
+// Reads what stands before the extended data, from the begin of a body of `size` bytes.
+bool Record::ReadHead(std::string_view bytes, std::uint64_t size, std::uint64_t handleBits) {
   handlesAt_ = size * 8 - handleBits;
-  BitReader reader(body_, 0, size * 8);
-  type_ = format.version >= model::kVersion1024 ? reader.OT() : reader.BS();
-  if (format.version >= model::kVersion1015 && format.version < model::kVersion1024) {
+  BitReader reader(bytes, 0, size * 8);
+  type_ = format_.version >= model::kVersion1024 ? reader.OT() : reader.BS();
+  if (format_.version >= model::kVersion1015 && format_.version < model::kVersion1024) {
     handlesAt_ = reader.RL();
   }
   handle_ = reader.H().value;
   extendedDataAt_ = reader.position();
-  whole_ = !reader.failed() && handlesAt_ <= size * 8;
+  return !reader.failed() && handlesAt_ <= size * 8;
 }
 
 void Record::SkipExtendedData(BitReader& reader) const {

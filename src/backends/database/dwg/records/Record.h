@@ -25,15 +25,22 @@ namespace zdx::dwg {
 // Holds the bytes that its streams read.
 class Record {
  public:
+  // How much of a long record is read.  Its front has all fields but the later ones of its handles:
+  // a block's record may name a million entities.
+  enum class Extent { kWhole, kFront };
+
   // The record at `at` in the section of the objects.
-  Record(Section& objects, std::uint64_t at, Format format);
+  Record(Section& objects, std::uint64_t at, Format format, Extent extent);
   Record(const Record&) = delete;
   Record& operator=(const Record&) = delete;
 
   // Whether its head could be read; nothing else tells anything otherwise.
   bool Whole() const { return whole_; }
-  // Whether its check is right.
+  // Whether its check is right.  That of a long record of which only the front is read isn't looked
+  // at: its pages have sums of their own.
   bool CheckIsRight() const { return checkIsRight_; }
+  // Whether only the front was read.
+  bool IsCut() const { return isCut_; }
   ObjectType type() const { return type_; }
   // Its own handle, from which others are counted.
   model::Handle handle() const { return handle_; }
@@ -43,6 +50,7 @@ class Record {
   std::optional<Streams> Fields(bool isEntity);
 
  private:
+  bool ReadHead(std::string_view bytes, std::uint64_t size, std::uint64_t handleBits);
   void SkipExtendedData(BitReader& reader) const;
   void SkipPicture(BitReader& reader) const;
 
@@ -51,6 +59,7 @@ class Record {
   std::string_view body_;
   bool whole_ = false;
   bool checkIsRight_ = false;
+  bool isCut_ = false;
   ObjectType type_ = 0;
   model::Handle handle_ = 0;
   // In bits of the body.
