@@ -12,7 +12,7 @@ TEST_PACKAGES := $(BUILD_PACKAGES) libgtest-dev googletest libgmock-dev graphics
 LINT_PACKAGES := $(TEST_PACKAGES) clang-format-14 clang-tidy-14 libbenchmark-dev
 BENCH_PACKAGES := $(BUILD_PACKAGES) libbenchmark-dev
 
-SOURCE_FOLDERS := $(wildcard include src tools tests examples benchmarks fuzz)
+SOURCE_FOLDERS := $(wildcard include src tools tests examples benchmarks)
 SOURCES = $(shell find $(SOURCE_FOLDERS) -name '*.h' -o -name '*.cpp')
 
 help:

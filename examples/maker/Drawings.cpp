@@ -9,14 +9,22 @@ namespace {
 
 // What programs tell of themselves, as one of that name would.
 drawing::AppInfoSpec Program() {
-  return {.entries = {{"F348D81B-0ACC-4D3E-BAB1-CF81F7B450B3", "7.2.15.0"},
-                      {"F025D0B8-D7A1-4993-B2FA-9BF9286FA1FD",
-                       "Saved by Example Drafter, a program that was made up."},
-                      {"5196E0E8-CEC5-44B2-A8BF-F6E83B859D44",
-                       "\"<ProductInformation name =\\\"Example Drafter\\\" "
-                       "build_version=\\\"7.2.15.0(x64)\\\" registry_version=\\\"7.2\\\" "
-                       "install_id_string=\\\"EXAMPLE-DRAFTER\\\" "
-                       "registry_localeID=\\\"1033\\\">\""}}};
+  const drawing::AppInfoEntry version = {"F348D81B-0ACC-4D3E-BAB1-CF81F7B450B3", "7.2.15.0"};
+  const drawing::AppInfoEntry comment = {"25F0D0B8-D7A1-4993-B2FA-9BF9286FA1FD",
+                                         "Saved by Example Drafter, a program that was made up."};
+  const drawing::AppInfoEntry summary = {
+      "F29F85E0-4FF9-1068-AB91-08002B27B3D9",
+      "<prop_set fmt_id=\"{f29f85e0-4ff9-1068-ab91-08002b27b3d9}\">"
+      "<prop id=\"8\"><string>drawing office</string></prop>"
+      "<prop id=\"10\"><datetime>2024-05-17T09:30:00</datetime></prop>"
+      "<prop id=\"258\"><string>Example Drafter</string></prop>"
+      "<prop id=\"259\"><string>7.2.15.0</string></prop></prop_set>"};
+  const drawing::AppInfoEntry product = {
+      "5196E0E8-CEC5-44B2-A8BF-F6E83B859D44",
+      "\"<ProductInformation name =\\\"Example Drafter\\\" "
+      "build_version=\\\"7.2.15.0(x64)\\\" registry_version=\\\"7.2\\\" "
+      "install_id_string=\\\"EXAMPLE-DRAFTER\\\" registry_localeID=\\\"1033\\\">\""};
+  return {.entries = {version, comment, product}, .history = {version, comment, summary, product}};
 }
 
 // The drawing as a DWG file of `version`, with the preview that such files have.

@@ -32,11 +32,12 @@ struct DiagnosticMessage {
 struct Diagnostics {
   // The file's name as it was given; empty if nothing was opened yet.
   std::wstring path;
-  // The format in words, such as "DXF (text)"; empty if it wasn't recognised.
+  // The format in words, such as "DWG" or "DXF (text)"; empty if it wasn't recognised.
   std::wstring format;
   // The version as the file spells it; empty if it doesn't tell.
   std::wstring version;
-  // The code page as the file spells it; empty if it doesn't tell.
+  // The code page as the file spells it; of a DWG file, which holds a number for it, as DXF files
+  // do. Empty if the file doesn't tell, or tells a number that isn't known.
   std::wstring codePage;
   // What made the opening fail: empty if it succeeded.
   std::vector<DiagnosticMessage> errors;

@@ -79,7 +79,7 @@ TEST_P(DocumentExamples, GiveWhatIsShown) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, DocumentExamples,
-                         ::testing::Values(Document{"README.md", 2}, Document{"docs/cli.md", 3},
+                         ::testing::Values(Document{"README.md", 2}, Document{"docs/cli.md", 4},
                                            Document{"docs/json.md", 2}),
                          [](const auto& document) {
                            std::string name = document.param.name;

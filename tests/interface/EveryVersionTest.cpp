@@ -73,6 +73,11 @@ drawing::DrawingSpec Site() {
   spec.mlineStyles = {"Standard", "Wall"};
   spec.plotSettings = {"A3 page"};
   spec.rootEntries = {{"MY_DATA", drawing::Xrecord()}};
+  spec.appInfo.entries = {{"01020304-0506-0708-090A-0B0C0D0E0F10", "a text"}};
+  spec.appInfo.history = {{"F29F85E0-4FF9-1068-AB91-08002B27B3D9",
+                           "<prop_set fmt_id=\"{F29F85E0-4FF9-1068-AB91-08002B27B3D9}\">"
+                           "<prop id=\"258\"><string>Чертёжник</string></prop>"
+                           "<prop id=\"259\"><string>2.1</string></prop></prop_set>"}};
   return spec;
 }
 
@@ -195,6 +200,14 @@ TEST_P(EveryVersion, ListsTheDictionariesInStoredOrder) {
   if (version() < "AC1015") return;
   EXPECT_THAT(reading.Texts(L"Layout Name"), ElementsAre("Model", "Sheet 1", "Лист 2"));
   EXPECT_THAT(reading.Texts(L"Plot Settings Name"), ElementsAre("A3 page"));
+}
+
+TEST_P(EveryVersion, GivesTheCreatorWhereTheVersionIsSearchedForOne) {
+  const bool searched =
+      isDwg() && (version() == "AC1018" || version() == "AC1021" || version() == "AC1024");
+  using Texts = std::vector<std::string>;
+  EXPECT_EQ(reading.Texts(L"DWG Creator Name"), searched ? Texts{"Чертёжник"} : Texts{});
+  EXPECT_EQ(reading.Texts(L"DWG Creator Version"), searched ? Texts{"2.1"} : Texts{});
 }
 
 TEST_P(EveryVersion, IsAPlainDrawing) {

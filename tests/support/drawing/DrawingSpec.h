@@ -159,6 +159,9 @@ struct AppInfoSpec {
   // The mark that the list begins with.
   std::string label = "AppInfoDataList";
   std::vector<AppInfoEntry> entries = {};
+  // Of a list of its own, behind the first one and with a mark that a search of the file's bytes
+  // finds.  None: no such list.
+  std::vector<AppInfoEntry> history = {};
 };
 
 struct CustomProperty {

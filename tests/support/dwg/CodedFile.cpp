@@ -29,10 +29,12 @@ struct KnownSection {
 
 // What files tell beside a section's name.
 constexpr KnownSection kHashes[] = {
-    {kHeaderSection, 0x32B803D9},    {kAuxHeaderSection, 0x54F0050A}, {kClassesSection, 0x3F54045F},
-    {kHandlesSection, 0x3F6E0450},   {kTemplateSection, 0x4A1404CE},  {kObjectsSection, 0x674C05A9},
-    {kRevisionsSection, 0x60A205B3}, {kSummarySection, 0x717A060F},   {kPreviewSection, 0x40AA0473},
-    {kAppInfoSection, 0x3FA0043E}};
+    {kHeaderSection, 0x32B803D9},        {kAuxHeaderSection, 0x54F0050A},
+    {kClassesSection, 0x3F54045F},       {kHandlesSection, 0x3F6E0450},
+    {kTemplateSection, 0x4A1404CE},      {kObjectsSection, 0x674C05A9},
+    {kRevisionsSection, 0x60A205B3},     {kSummarySection, 0x717A060F},
+    {kPreviewSection, 0x40AA0473},       {kAppInfoSection, 0x3FA0043E},
+    {kAppInfoHistorySection, 0x96DE0737}};
 
 struct Page {
   std::size_t id;
@@ -266,6 +268,7 @@ std::string FileWithMapPage(Drawing& drawing, const std::vector<PlainSection>& s
   CodedBody body(drawing.writing);
   std::size_t summaryAt = 0;
   std::size_t appInfoAt = 0;
+  std::size_t historyAt = 0;
   if (drawing.spec.hasSummary) {
     summaryAt = body.NextData(2 * mapPage);
     body.AddPlain(kSummarySection, SummarySection(drawing), 0x80);
@@ -277,6 +280,11 @@ std::string FileWithMapPage(Drawing& drawing, const std::vector<PlainSection>& s
     appInfoAt = body.NextData(2 * mapPage);
     body.AddPlain(kAppInfoSection, appInfo, 0x80);
   }
+  const std::string history = AppInfoHistorySection(drawing);
+  if (!history.empty()) {
+    historyAt = body.NextData(2 * mapPage);
+    body.AddPlain(kAppInfoHistorySection, history, 0x80);
+  }
   for (std::size_t i = sections.size(); i > 0; --i) {
     body.AddCoded(sections[i - 1].name, sections[i - 1].bytes);
   }
@@ -284,7 +292,7 @@ std::string FileWithMapPage(Drawing& drawing, const std::vector<PlainSection>& s
   constexpr std::size_t kEntrySize = 16;
   mapPage = MapPageSize((body.PageCount() + kMapPages) * kEntrySize);
   std::string head = FileHead(drawing, previewAt);
-  PutPagedHead(head, summaryAt, appInfoAt);
+  PutPagedHead(head, summaryAt, appInfoAt, historyAt);
   return head + body.Finish(mapPage);
 }
 

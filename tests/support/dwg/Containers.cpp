@@ -28,7 +28,8 @@ std::string FileHead(const Drawing& drawing, std::size_t previewAddress) {
   return head;
 }
 
-void PutPagedHead(std::string& head, std::size_t summaryAddress, std::size_t appInfoAddress) {
+void PutPagedHead(std::string& head, std::size_t summaryAddress, std::size_t appInfoAddress,
+                  std::size_t appInfoHistoryAddress) {
   const char maintenance = head[0x12];
   head.resize(kPagedHeadSize, '\0');
   PutNumber(head, 0x16, kWriterVersion, 1);
@@ -36,6 +37,7 @@ void PutPagedHead(std::string& head, std::size_t summaryAddress, std::size_t app
   PutNumber(head, 0x20, summaryAddress, 4);
   PutNumber(head, 0x28, kPagedHeadSize, 4);
   PutNumber(head, 0x2C, appInfoAddress, 4);
+  PutNumber(head, 0x30, appInfoHistoryAddress, 4);
 }
 
 std::vector<PlainSection> RecordSections(Drawing& drawing) {

@@ -16,7 +16,8 @@ std::string CodedFile(Drawing& drawing);
 // the preview, code page.
 std::string FileHead(const Drawing& drawing, std::size_t previewAddress);
 // What follows in the last two: the addresses of the summary and the program's texts.
-void PutPagedHead(std::string& head, std::size_t summaryAddress, std::size_t appInfoAddress);
+void PutPagedHead(std::string& head, std::size_t summaryAddress, std::size_t appInfoAddress,
+                  std::size_t appInfoHistoryAddress);
 
 // What the paged files' sections hold, in the order of their pages.
 struct PlainSection {

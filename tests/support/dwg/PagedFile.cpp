@@ -234,6 +234,7 @@ std::string PagedFile(Drawing& drawing) {
   std::size_t id = sections.size();
   std::size_t summaryAt = 0;
   std::size_t appInfoAt = 0;
+  std::size_t historyAt = 0;
   if (drawing.spec.hasSummary) {
     summaryAt = body.NextData();
     body.AddPlain(kSummarySection, ++id, SummarySection(drawing), 0x80);
@@ -246,6 +247,11 @@ std::string PagedFile(Drawing& drawing) {
     appInfoAt = body.NextData();
     body.AddPlain(kAppInfoSection, ++id, appInfo, 0x80);
   }
+  const std::string history = AppInfoHistorySection(drawing);
+  if (!history.empty()) {
+    historyAt = body.NextData();
+    body.AddPlain(kAppInfoHistorySection, ++id, history, 0x80);
+  }
   body.AddPlain(kFileListSection, ++id, FileListSection(), 0x80);
   for (std::size_t i = sections.size(); i > 0; --i) {
     body.AddCompressed(sections[i - 1].name, i, sections[i - 1].bytes);
@@ -254,7 +260,7 @@ std::string PagedFile(Drawing& drawing) {
   std::string header;
   const std::string pages = body.Finish(header);
   std::string head = FileHead(drawing, previewAt);
-  PutPagedHead(head, summaryAt, appInfoAt);
+  PutPagedHead(head, summaryAt, appInfoAt, historyAt);
   const std::string mask = MaskBytes(kFirstPage).substr(kHiddenHeaderAt + kHiddenHeaderSize);
   return head + header + mask + pages + header;
 }

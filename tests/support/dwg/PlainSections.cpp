@@ -10,6 +10,8 @@ namespace dwg {
 namespace {
 
 constexpr unsigned kAppInfoVersion = 3;
+constexpr const char* kAppInfoHistoryMark =
+    "53DE381DEC4321CA9619E1E2171A2A673BD97FF73CBBCE08A053D8EDD28DC5C7";
 constexpr std::size_t kHeadPictureSize = 80;
 constexpr unsigned kHeadPicture = 1;
 constexpr std::size_t kEntrySize = 9;
@@ -40,6 +42,15 @@ std::string IdBytes(const std::string& id) {
   }
   return bytes + FromHex(std::string_view(id).substr(19, 4)) +
          FromHex(std::string_view(id).substr(24, 12));
+}
+
+std::string AppInfoList(unsigned first, const std::string& label,
+                        const std::vector<drawing::AppInfoEntry>& entries) {
+  std::string bytes = NumberBytes(first, 4) + WideText(label) + NumberBytes(entries.size(), 4);
+  for (const drawing::AppInfoEntry& entry : entries) {
+    bytes += IdBytes(entry.id) + WideText(entry.text);
+  }
+  return bytes;
 }
 
 unsigned CodeOf(drawing::PreviewKind kind) {
@@ -74,12 +85,13 @@ std::string SummarySection(const Drawing& drawing) {
 std::string AppInfoSection(const Drawing& drawing) {
   const drawing::AppInfoSpec& info = drawing.spec.appInfo;
   if (info.entries.empty()) return {};
-  std::string bytes =
-      NumberBytes(kAppInfoVersion, 4) + WideText(info.label) + NumberBytes(info.entries.size(), 4);
-  for (const drawing::AppInfoEntry& entry : info.entries) {
-    bytes += IdBytes(entry.id) + WideText(entry.text);
-  }
-  return bytes;
+  return AppInfoList(kAppInfoVersion, info.label, info.entries);
+}
+
+std::string AppInfoHistorySection(const Drawing& drawing) {
+  const drawing::AppInfoSpec& info = drawing.spec.appInfo;
+  if (info.history.empty()) return {};
+  return FromHex(kAppInfoHistoryMark) + AppInfoList(0, info.label, info.history);
 }
 
 // No features and no files.

@@ -14,6 +14,7 @@ namespace dwg {
 std::string SummarySection(const Drawing& drawing);
 // Empty for a drawing that tells nothing about its program.
 std::string AppInfoSection(const Drawing& drawing);
+std::string AppInfoHistorySection(const Drawing& drawing);
 std::string FileListSection();
 std::string TemplateSection(Version version);
 std::string AuxHeaderSection(const Drawing& drawing);

@@ -29,6 +29,7 @@ inline constexpr const char* kRevisionsSection = "AcDb:RevHistory";
 inline constexpr const char* kSummarySection = "AcDb:SummaryInfo";
 inline constexpr const char* kPreviewSection = "AcDb:Preview";
 inline constexpr const char* kAppInfoSection = "AcDb:AppInfo";
+inline constexpr const char* kAppInfoHistorySection = "AcDb:AppInfoHistory";
 inline constexpr const char* kFileListSection = "AcDb:FileDepList";
 
 // Keys and words of records.

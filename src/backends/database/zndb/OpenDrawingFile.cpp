@@ -49,6 +49,10 @@ Zent::ErrorStatus StatusOf(dwg::RefusalKind kind) {
 }
 
 OpenedDrawing OpenDwg(file::MappedFile file, const std::shared_ptr<model::Report>& report) {
+  if (!dwg::HasMagic(file.bytes()) && dxf::Recognise(file.bytes()).form) {
+    return Fail(*report, Zent::kNotADrawing,
+                {L"The file is a DXF drawing, whatever its name says.", 0, {}, {}});
+  }
   auto drawing = dwg::DwgDrawing::Open(std::move(file), report);
   if (auto* const refusal = std::get_if<dwg::Refusal>(&drawing)) {
     return Fail(*report, StatusOf(refusal->kind), std::move(refusal->reason));
