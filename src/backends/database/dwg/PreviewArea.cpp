@@ -1,5 +1,6 @@
 #include "backends/database/dwg/PreviewArea.h"
 
+#include <algorithm>
 #include <optional>
 #include <string>
 #include <utility>
@@ -52,21 +53,22 @@ std::vector<model::StoredPicture> ReadPreviewArea(Section& section, model::Repor
     warn(L"The list of preview pictures ends early.");
     return pictures;
   }
-  std::uint64_t taken = 0;
+  // Pictures don't overlap, and so have no more bytes than the area.
+  std::uint64_t left = std::min(section.size(), kMostBytes);
   for (std::string_view entry = *list; !entry.empty(); entry.remove_prefix(kEntrySize)) {
     const auto kind = KindOf(LittleEndian<std::uint8_t>(entry));
     const auto address = LittleEndianAt<std::uint32_t>(entry, 1);
     const auto size = LittleEndianAt<std::uint32_t>(entry, 5);
     if (!kind || size == 0) continue;
     std::string bytesScratch;
-    const auto bytes = address < place || size > kMostBytes - taken
+    const auto bytes = address < place || size > left
                            ? std::nullopt
                            : section.Bytes(address - place, size, bytesScratch);
     if (!bytes) {
       warn(L"A preview picture is said to lie outside of the preview.");
       continue;
     }
-    taken += size;
+    left -= size;
     pictures.push_back({*kind, std::string(*bytes), address});
   }
   return pictures;
