@@ -3,6 +3,7 @@
 #include <array>
 
 #include "backends/database/dwg/bits/Checksums.h"
+#include "base/LittleEndian.h"
 
 namespace zdx::dwg {
 namespace {
@@ -50,18 +51,42 @@ constexpr Number NextSeed(Number seed) {
 constexpr std::uint64_t kReflectedPolynomial = 0x95AC9329AC4BC9B5;
 constexpr std::uint64_t kPlainPolynomial = 0x42F0E1EBA9EA3693;
 
-constexpr std::array<std::uint64_t, 256> kReflectedTable = [] {
-  std::array<std::uint64_t, 256> table = {};
-  for (std::uint64_t i = 0; i < table.size(); ++i) {
+// What a byte does to the check, with so many bytes behind it as the table's number says: eight
+// bytes are taken at once.
+using Table = std::array<std::uint64_t, 256>;
+constexpr std::array<Table, 8> kReflectedTables = [] {
+  std::array<Table, 8> tables = {};
+  for (std::uint64_t i = 0; i < 256; ++i) {
     std::uint64_t word = i;
     for (int bit = 0; bit < 8; ++bit) word = word >> 1 ^ ((word & 1) * kReflectedPolynomial);
-    table[i] = word;
+    tables[0][i] = word;
   }
-  return table;
+  for (std::size_t n = 1; n < tables.size(); ++n) {
+    for (std::size_t i = 0; i < 256; ++i) {
+      const std::uint64_t before = tables[n - 1][i];
+      tables[n][i] = before >> 8 ^ tables[0][before & 0xFF];
+    }
+  }
+  return tables;
 }();
 
-constexpr std::array<std::uint64_t, 256> kPlainTable = [] {
-  std::array<std::uint64_t, 256> table = {};
+std::uint64_t Reflected(std::uint64_t word, std::string_view bytes) {
+  for (; bytes.size() >= kReflectedTables.size(); bytes.remove_prefix(kReflectedTables.size())) {
+    word ^= LittleEndian<std::uint64_t>(bytes);
+    std::uint64_t next = 0;
+    for (std::size_t i = 0; i < kReflectedTables.size(); ++i) {
+      next ^= kReflectedTables[kReflectedTables.size() - 1 - i][word >> 8 * i & 0xFF];
+    }
+    word = next;
+  }
+  for (const char c : bytes) {
+    word = word >> 8 ^ kReflectedTables[0][(word ^ static_cast<std::uint8_t>(c)) & 0xFF];
+  }
+  return word;
+}
+
+constexpr Table kPlainTable = [] {
+  Table table = {};
   for (std::uint64_t i = 0; i < table.size(); ++i) {
     std::uint64_t word = i << 56;
     for (int bit = 0; bit < 8; ++bit) word = word << 1 ^ ((word >> 63) * kPlainPolynomial);
@@ -82,11 +107,7 @@ std::uint64_t CodedPageCrc(std::string_view bytes) {
   const std::uint64_t first = NextSeed(std::uint64_t{bytes.size()});
   const std::uint64_t second = NextSeed(first);
   std::uint64_t word = ~(second << 32 | first);
-  ForEachPiece(bytes, [&word](std::string_view piece) {
-    for (const char c : piece) {
-      word = word >> 8 ^ kReflectedTable[(word ^ static_cast<std::uint8_t>(c)) & 0xFF];
-    }
-  });
+  ForEachPiece(bytes, [&word](std::string_view piece) { word = Reflected(word, piece); });
   return word;
 }
 
