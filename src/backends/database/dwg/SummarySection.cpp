@@ -5,7 +5,7 @@
 namespace zdx::dwg {
 namespace {
 
-constexpr std::size_t kTimesSize = 3 * 8;
+constexpr std::size_t kTimesSize = std::size_t{3} * 8;
 
 class SummaryReader {
  public:

@@ -17,14 +17,14 @@ namespace zdx::dwg {
 namespace {
 
 // An entry of the page map: size, number.
-constexpr std::size_t kPageEntrySize = 2 * 8;
+constexpr std::size_t kPageEntrySize = std::size_t{2} * 8;
 
 // An entry of the section map: eight words, the name, and seven words for each page.
-constexpr std::size_t kNameSizeAt = 4 * 8;
-constexpr std::size_t kEncodingAt = 6 * 8;
-constexpr std::size_t kPageCountAt = 7 * 8;
-constexpr std::size_t kSectionHeadSize = 8 * 8;
-constexpr std::size_t kSectionPageSize = 7 * 8;
+constexpr std::size_t kNameSizeAt = std::size_t{4} * 8;
+constexpr std::size_t kEncodingAt = std::size_t{6} * 8;
+constexpr std::size_t kPageCountAt = std::size_t{7} * 8;
+constexpr std::size_t kSectionHeadSize = std::size_t{8} * 8;
+constexpr std::size_t kSectionPageSize = std::size_t{7} * 8;
 
 constexpr std::uint64_t kWithParity = 4;
 

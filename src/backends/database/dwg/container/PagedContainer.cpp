@@ -16,13 +16,13 @@ namespace zdx::dwg {
 namespace {
 
 // The head of a page with one of the maps: type, size, compressed size, 2, sum.
-constexpr std::size_t kSystemHeadSize = 5 * 4;
+constexpr std::size_t kSystemHeadSize = std::size_t{5} * 4;
 constexpr std::size_t kSystemSumAt = 16;
 constexpr std::uint32_t kPageMapType = 0x41630E3B;
 constexpr std::uint32_t kSectionMapType = 0x4163003B;
 
 // The head of a page of a section, eight words that are masked by the page's address.
-constexpr std::size_t kPageHeadSize = 8 * 4;
+constexpr std::size_t kPageHeadSize = std::size_t{8} * 4;
 constexpr std::size_t kPageSectionAt = 4;
 constexpr std::size_t kPageStoredAt = 8;
 constexpr std::size_t kPageStartAt = 0x10;
@@ -33,11 +33,11 @@ constexpr int kIdentifyingWords = 3;
 constexpr std::uint32_t kPageMask = 0x4164536B;
 
 // An entry of the page map: number, size; a gap has four words more.
-constexpr std::size_t kPageEntrySize = 2 * 4;
-constexpr std::size_t kGapTailSize = 4 * 4;
+constexpr std::size_t kPageEntrySize = std::size_t{2} * 4;
+constexpr std::size_t kGapTailSize = std::size_t{4} * 4;
 
 // The section map begins with five words, of which the first is the number of sections.
-constexpr std::size_t kSectionMapHeadSize = 5 * 4;
+constexpr std::size_t kSectionMapHeadSize = std::size_t{5} * 4;
 // An entry: data size (8), pages (4), page size (4), 1, compression (4), number (4), encryption
 // (4), name (64); then one of 16 bytes for each page.
 constexpr std::size_t kPageCountAt = 8;

@@ -74,7 +74,7 @@ Value ReadValue(Code code, model::Version version, Streams& streams) {
       SkipReals(streams, 3);
       break;
     case Code::k2RD:
-      streams.Data().Skip(2 * 64);
+      streams.Data().Skip(std::uint64_t{2} * 64);
       break;
     case Code::kText:
       value.bytes = streams.Text();
@@ -114,7 +114,7 @@ std::uint64_t LeastBits(Code code) {
 // More than any drawing has that is as small as this record.  What the list takes, and what is told
 // of it, stays within some megabytes, or within some times the record.
 std::uint64_t MostTimes(Code code, const Streams& streams) {
-  constexpr std::uint64_t kBitsOfAnEntry = 20 * 8;
+  constexpr std::uint64_t kBitsOfAnEntry = std::uint64_t{20} * 8;
   switch (code) {
     case Code::kText:
       return std::max<std::uint64_t>(100000, streams.BitsLeft() / kBitsOfAnEntry);

@@ -36,7 +36,7 @@ constexpr CodeRange kCodes[] = {
 std::size_t SizeOf(Kind kind) {
   switch (kind) {
     case Kind::kPoint:
-      return 3 * 8;
+      return std::size_t{3} * 8;
     case Kind::kReal:
     case Kind::kLongLong:
     case Kind::kHandle:
