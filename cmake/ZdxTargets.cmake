@@ -28,7 +28,8 @@ function(zdx_layer name folder)
   target_link_libraries(zdx_${name} PUBLIC zdx_options ${ARGN})
 endfunction()
 
-# zdx_test(NAME source... [LINK target...]): a GoogleTest program of which each test is one of CTest.
+# zdx_test(NAME source... [LINK target...]): a GoogleTest program of which each test is one of CTest;
+# under the sanitizers the program is.
 function(zdx_test name)
   cmake_parse_arguments(arg "" "" "LINK" ${ARGN})
   add_executable(${name} ${arg_UNPARSED_ARGUMENTS})
@@ -40,5 +41,11 @@ function(zdx_test name)
     # Nor are the overruns that it sees in sums of temporary strings, which tests are full of.
     target_compile_options(${name} PRIVATE -Wno-array-bounds -Wno-stringop-overflow)
   endif()
-  gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT 120)
+  if(ZDX_SANITIZE)
+    # Starting a process costs the sanitizers more than most tests do.
+    add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)
+    set_tests_properties(${name} PROPERTIES TIMEOUT 300)
+  else()
+    gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT 120)
+  endif()
 endfunction()

