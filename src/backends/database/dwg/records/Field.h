@@ -33,7 +33,6 @@ enum class Key : std::uint8_t {
   // Of all records.
   kOwnerMode,
   kReactorCount,
-  kReactors,
   kNoExtension,
   kExtension,
   kOwner,
