@@ -11,16 +11,29 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
   target_compile_options(zdx_options INTERFACE -Wno-restrict)
 endif()
 target_include_directories(zdx_options INTERFACE ${PROJECT_SOURCE_DIR}/include)
+if(WIN32)
+  # Unicode calls alone, of Windows 7 and later; no macros over common names that can be had without.
+  target_compile_definitions(zdx_options INTERFACE
+    UNICODE _UNICODE NOMINMAX STRICT WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0601)
+endif()
 if(ZDX_SANITIZE)
   target_compile_options(zdx_options INTERFACE
     -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   target_link_options(zdx_options INTERFACE -fsanitize=address,undefined)
 endif()
 
-# zdx_layer(NAME FOLDER target...): the static target zdx_NAME of the sources below src/FOLDER that
-# belong to no target further down, linked to the targets named.
+# What is different on each system stands in a folder of the system's name.
+if(WIN32)
+  set(ZDX_SYSTEM windows)
+else()
+  set(ZDX_SYSTEM posix)
+endif()
+
+# zdx_layer(NAME FOLDER target...): the static target zdx_NAME of the sources in src/FOLDER and in the
+# system's folder there, linked to the targets named.
 function(zdx_layer name folder)
-  file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${folder}/*.cpp)
+  file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${folder}/*.cpp
+    ${PROJECT_SOURCE_DIR}/src/${folder}/${ZDX_SYSTEM}/*.cpp)
   add_library(zdx_${name} STATIC ${sources})
   set_target_properties(zdx_${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)
   target_include_directories(zdx_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)

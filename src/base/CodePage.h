@@ -18,6 +18,8 @@ inline constexpr CodePageId kUtf8 = 65001;
 // no page of that name is known.
 std::optional<CodePageId> CodePageByName(std::string_view name);
 
+class CodePageConverter;
+
 // Decodes texts of one code page.  Not for use by two threads at once.
 class CodePageDecoder {
  public:
@@ -34,11 +36,8 @@ class CodePageDecoder {
   std::wstring DecodeLeniently(std::string_view bytes);
 
  private:
-  std::wstring Convert(std::string_view& bytes);
-
-  class Converter;
   CodePageId page_;
-  std::unique_ptr<Converter> converter_;
+  std::unique_ptr<CodePageConverter> converter_;
 };
 
 }  // namespace zdx

@@ -1,11 +1,8 @@
 #include "library/Defaults.h"
 
+#include "backends/System.h"
 #include "backends/common/CommonProvider.h"
 #include "backends/database/zndb/DatabaseProvider.h"
-#include "backends/posix/ModuleStrings.h"
-#include "backends/posix/PosixFiles.h"
-#include "backends/posix/PosixGraphics.h"
-#include "backends/posix/PosixProvider.h"
 #include "backends/walker/WalkerProvider.h"
 #include "platform/common/CommonUtils.h"
 #include "platform/econvey/ZnDwgDepends.h"
@@ -29,9 +26,9 @@ ZnDwgDepends::Provider* BindWalker() { return Lasting<zdx::WalkerProvider>(); }
 }  // namespace
 
 void InstallDefaultProviders() {
-  os::InstallProvider(Lasting<zdx::PosixProvider>());
-  os::InstallFileProvider(Lasting<zdx::PosixFiles>());
-  os::InstallGraphicsProvider(Lasting<zdx::PosixGraphics>());
+  os::InstallProvider(zdx::MakeSystem().release());
+  os::InstallFileProvider(zdx::MakeSystemFiles().release());
+  os::InstallGraphicsProvider(zdx::MakeSystemGraphics().release());
   Common::InstallProvider(Lasting<zdx::CommonProvider>(zdx::LoadModuleString));
   zndb::InstallProvider(zdx::database::EmbeddedProvider());
   ZnDwgDepends::InstallBinder(BindWalker);

@@ -10,7 +10,7 @@
 #include <string>
 #include <vector>
 
-#include "backends/posix/PosixGraphics.h"
+#include "backends/posix/graphics/PosixGraphics.h"
 
 namespace {
 

@@ -11,7 +11,7 @@
 #include "ZDXEngine/Utf8.h"
 #include "backends/database/model/Report.h"
 #include "backends/database/zndb/DatabaseProvider.h"
-#include "backends/posix/PosixGraphics.h"
+#include "backends/posix/graphics/PosixGraphics.h"
 #include "platform/zndb/Provider.h"
 #include "support/dxf/DxfMaker.h"
 #include "support/pictures/Pictures.h"

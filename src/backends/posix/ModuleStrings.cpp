@@ -2,6 +2,8 @@
 
 #include <map>
 
+#include "backends/System.h"
+
 namespace zdx {
 namespace {
 

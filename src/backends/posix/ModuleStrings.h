@@ -1,8 +1,6 @@
 // String tables of loaded modules, for a system whose modules don't carry any.
 #pragma once
 
-#include <string>
-
 #include "platform/os/Os.h"
 
 namespace zdx {
@@ -16,8 +14,5 @@ void RegisterModuleStrings(os::ModuleHandle module, ModuleTextFinder find);
 
 // True if `module` has a string table.
 bool HasModuleStrings(os::ModuleHandle module);
-
-// The text `id` of `module`; empty if the module isn't registered or has no such text.
-std::wstring LoadModuleString(os::ModuleHandle module, unsigned int id);
 
 }  // namespace zdx

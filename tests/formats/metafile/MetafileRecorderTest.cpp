@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "backends/posix/PosixGraphics.h"
+#include "backends/posix/graphics/PosixGraphics.h"
 #include "backends/posix/graphics/MetafileRecorder.h"
 
 namespace zdx::graphics {

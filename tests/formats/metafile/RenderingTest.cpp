@@ -14,7 +14,7 @@
 #include <string>
 #include <vector>
 
-#include "backends/posix/PosixGraphics.h"
+#include "backends/posix/graphics/PosixGraphics.h"
 #include "support/Process.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "backends/posix/PosixGraphics.h"
+#include "backends/posix/graphics/PosixGraphics.h"
 
 #include <algorithm>
 #include <cstring>

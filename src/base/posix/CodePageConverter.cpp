@@ -1,0 +1,88 @@
+#include "base/CodePageConverter.h"
+
+#include <iconv.h>
+
+#include <algorithm>
+#include <cerrno>
+
+#include "ZDXEngine/Utf8.h"
+
+namespace zdx {
+namespace {
+
+struct ConverterName {
+  CodePageId page;
+  const char* name;
+};
+
+// Those that aren't called "CP" and the page's number.
+constexpr ConverterName kNames[] = {
+    {1361, "JOHAB"},       {10000, "MACINTOSH"},  {28591, "ISO-8859-1"}, {28592, "ISO-8859-2"},
+    {28593, "ISO-8859-3"}, {28594, "ISO-8859-4"}, {28595, "ISO-8859-5"}, {28596, "ISO-8859-6"},
+    {28597, "ISO-8859-7"}, {28598, "ISO-8859-8"}, {28599, "ISO-8859-9"},
+};
+
+std::string NameOf(CodePageId page) {
+  for (const ConverterName& row : kNames) {
+    if (row.page == page) return row.name;
+  }
+  return "CP" + std::to_string(page);
+}
+
+// The converter of this page takes the backslash for the currency sign that old screens showed in
+// its place; drawings mean the backslash.
+constexpr CodePageId kJohab = 1361;
+constexpr wchar_t kWonSign = 0x20A9;
+
+// Owns one conversion of the C library, from the page to UTF-8.
+class Iconv : public CodePageConverter {
+ public:
+  explicit Iconv(CodePageId page)
+      : page_(page), handle_(iconv_open("UTF-8", NameOf(page).c_str())) {}
+  ~Iconv() override {
+    if (Usable()) iconv_close(handle_);
+  }
+  Iconv(const Iconv&) = delete;
+  Iconv& operator=(const Iconv&) = delete;
+
+  bool Usable() const {
+    return handle_ != reinterpret_cast<iconv_t>(-1);  // NOLINT(performance-no-int-to-ptr)
+  }
+
+  std::size_t Convert(std::string_view bytes, std::wstring& text) override {
+    iconv(handle_, nullptr, nullptr, nullptr, nullptr);
+    char* in = const_cast<char*>(bytes.data());
+    std::size_t left = bytes.size();
+    while (Piece(&in, &left, text) && errno == E2BIG) {
+    }
+    // A letter is held back for an accent that could follow it.
+    Piece(nullptr, nullptr, text);
+    return bytes.size() - left;
+  }
+
+ private:
+  // Appends the next part of the text; true if that isn't all of it.
+  bool Piece(char** in, std::size_t* left, std::wstring& text) {
+    char utf8[1024];
+    char* out = utf8;
+    std::size_t room = sizeof utf8;
+    const bool stopped = iconv(handle_, in, left, &out, &room) == static_cast<std::size_t>(-1);
+    std::wstring piece = ZDXEngine::WideFromUtf8({utf8, static_cast<std::size_t>(out - utf8)});
+    if (page_ == kJohab) std::replace(piece.begin(), piece.end(), kWonSign, L'\\');
+    text += piece;
+    return stopped;
+  }
+
+  CodePageId page_;
+  iconv_t handle_;
+};
+
+}  // namespace
+
+std::unique_ptr<CodePageConverter> CodePageConverter::Make(CodePageId page) {
+  auto converter = std::make_unique<Iconv>(page);
+  if (!converter->Usable()) return nullptr;
+  return converter;
+}
+
+}  // namespace zdx

@@ -1,0 +1,70 @@
+#include "base/CodePageConverter.h"
+
+#include <windows.h>
+
+#include <algorithm>
+
+namespace zdx {
+namespace {
+
+// The system's own conversion; a character has one byte or two.
+class SystemConverter : public CodePageConverter {
+ public:
+  explicit SystemConverter(CodePageId page) : page_(static_cast<UINT>(page)) {}
+
+  std::size_t Convert(std::string_view bytes, std::wstring& text) override {
+    std::size_t done = 0;
+    while (done < bytes.size()) {
+      const std::string_view rest = bytes.substr(done);
+      const std::size_t piece = PieceOf(rest);
+      if (!Append(rest.substr(0, piece), text)) return done + ByCharacter(rest, text);
+      done += piece;
+    }
+    return done;
+  }
+
+ private:
+  static constexpr std::size_t kPieceSize = 512;
+
+  std::size_t CharacterAt(std::string_view bytes) const {
+    const bool isLead = IsDBCSLeadByteEx(page_, static_cast<BYTE>(bytes[0])) != FALSE;
+    return isLead ? std::min<std::size_t>(2, bytes.size()) : 1;
+  }
+
+  // The size of a part of `bytes` that ends between two characters.
+  std::size_t PieceOf(std::string_view bytes) const {
+    std::size_t size = 0;
+    while (size < bytes.size() && size < kPieceSize - 1) size += CharacterAt(bytes.substr(size));
+    return size;
+  }
+
+  bool Append(std::string_view bytes, std::wstring& text) const {
+    wchar_t piece[kPieceSize];
+    const int length = MultiByteToWideChar(page_, MB_ERR_INVALID_CHARS, bytes.data(),
+                                           static_cast<int>(bytes.size()), piece, kPieceSize);
+    text.append(piece, static_cast<std::size_t>(length));
+    return length > 0;
+  }
+
+  std::size_t ByCharacter(std::string_view bytes, std::wstring& text) const {
+    std::size_t done = 0;
+    while (done < bytes.size()) {
+      const std::string_view rest = bytes.substr(done);
+      const std::size_t size = CharacterAt(rest);
+      if (!Append(rest.substr(0, size), text)) break;
+      done += size;
+    }
+    return done;
+  }
+
+  UINT page_;
+};
+
+}  // namespace
+
+std::unique_ptr<CodePageConverter> CodePageConverter::Make(CodePageId page) {
+  if (IsValidCodePage(static_cast<UINT>(page)) == FALSE) return nullptr;
+  return std::make_unique<SystemConverter>(page);
+}
+
+}  // namespace zdx
