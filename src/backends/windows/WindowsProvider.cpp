@@ -11,7 +11,7 @@ namespace zdx {
 void WindowsProvider::VariantInit(VARIANT* variant) { ::VariantInit(variant); }
 
 HRESULT WindowsProvider::VariantCopy(VARIANT* target, const VARIANT* source) {
-  return ::VariantCopy(target, source);
+  return ::VariantCopy(target, const_cast<VARIANT*>(source));
 }
 
 HRESULT WindowsProvider::VariantClear(VARIANT* variant) { return ::VariantClear(variant); }

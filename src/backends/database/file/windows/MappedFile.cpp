@@ -1,0 +1,91 @@
+#include "backends/database/file/MappedFile.h"
+
+#include <windows.h>
+
+#include <cstdint>
+#include <limits>
+#include <utility>
+
+namespace zdx::file {
+namespace {
+
+OpenFailure FailureOf(DWORD error) {
+  switch (error) {
+    case ERROR_FILE_NOT_FOUND:
+    case ERROR_PATH_NOT_FOUND:
+    case ERROR_INVALID_DRIVE:
+    case ERROR_INVALID_NAME:
+    case ERROR_BAD_NETPATH:
+    case ERROR_BAD_NET_NAME:
+    case ERROR_BAD_PATHNAME:
+    case ERROR_DIRECTORY:
+    case ERROR_FILENAME_EXCED_RANGE:
+      return OpenFailure::kNotFound;
+    case ERROR_ACCESS_DENIED:
+    case ERROR_SHARING_VIOLATION:
+    case ERROR_LOCK_VIOLATION:
+      return OpenFailure::kNoAccess;
+    default:
+      return OpenFailure::kOther;
+  }
+}
+
+// Closes a handle at the end of its scope; a mapping outlives it.
+class Handle {
+ public:
+  explicit Handle(HANDLE handle) : handle_(handle) {}
+  ~Handle() {
+    if (get() != nullptr) CloseHandle(handle_);
+  }
+  Handle(const Handle&) = delete;
+  Handle& operator=(const Handle&) = delete;
+  HANDLE get() const { return handle_ == INVALID_HANDLE_VALUE ? nullptr : handle_; }
+
+ private:
+  HANDLE handle_;
+};
+
+bool IsFolder(const std::wstring& path) {
+  const DWORD attributes = GetFileAttributesW(path.c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+}  // namespace
+
+std::variant<MappedFile, OpenFailure> MappedFile::Open(const std::wstring& path) {
+  if (path.find(L'\0') != std::wstring::npos) return OpenFailure::kNotFound;
+  // Others may write to the file, replace it or move it away meanwhile.
+  const Handle file(CreateFileW(path.c_str(), GENERIC_READ,
+                                FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                                OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+  if (file.get() == nullptr) {
+    const DWORD error = GetLastError();
+    return IsFolder(path) ? OpenFailure::kNotAFile : FailureOf(error);
+  }
+  if (GetFileType(file.get()) != FILE_TYPE_DISK) return OpenFailure::kNotAFile;
+  LARGE_INTEGER size = {};
+  if (GetFileSizeEx(file.get(), &size) == FALSE) return FailureOf(GetLastError());
+  MappedFile mapped;
+  if (size.QuadPart == 0) return mapped;
+  const Handle mapping(CreateFileMappingW(file.get(), nullptr, PAGE_READONLY, 0, 0, nullptr));
+  if (mapping.get() == nullptr) return FailureOf(GetLastError());
+  mapped.data_ = static_cast<const char*>(MapViewOfFile(mapping.get(), FILE_MAP_READ, 0, 0, 0));
+  if (mapped.data_ == nullptr) return FailureOf(GetLastError());
+  mapped.size_ = static_cast<std::size_t>(size.QuadPart);
+  return mapped;
+}
+
+MappedFile::~MappedFile() {
+  if (data_ != nullptr) UnmapViewOfFile(data_);
+}
+
+MappedFile::MappedFile(MappedFile&& other) noexcept
+    : data_(std::exchange(other.data_, nullptr)), size_(std::exchange(other.size_, 0)) {}
+
+MappedFile& MappedFile::operator=(MappedFile&& other) noexcept {
+  std::swap(data_, other.data_);
+  std::swap(size_, other.size_);
+  return *this;
+}
+
+}  // namespace zdx::file
