@@ -61,7 +61,7 @@ TEST(CodePage, ALongTextKeepsEveryCharacter) {
 
 TEST(CodePage, ALongTextOfStrayBytesKeepsThemAll) {
   // A cost that grows with the square of the length would never come to an end.
-  constexpr std::size_t kLength = 2'000'000;
+  constexpr std::size_t kLength = 300'000;
   EXPECT_EQ(CodePageDecoder(932).DecodeLeniently(std::string(kLength, '\xFF')),
             std::wstring(kLength, static_cast<wchar_t>(0xFF)));
 }
