@@ -17,6 +17,12 @@ if(ZDX_SANITIZE)
   target_link_options(zdx_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+# zdx_quick_builds(): what the folder and those below add from here on is compiled fast rather than to
+# run fast, whatever the preset says.
+macro(zdx_quick_builds)
+  add_compile_options(-O0)
+endmacro()
+
 # zdx_layer(NAME FOLDER target...): the static target zdx_NAME of the sources below src/FOLDER that
 # belong to no target further down, linked to the targets named.
 function(zdx_layer name folder)
