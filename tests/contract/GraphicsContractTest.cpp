@@ -12,10 +12,14 @@
 
 #include "backends/System.h"
 #include "backends/posix/graphics/PosixGraphics.h"
+#include "contract/Bitmaps.h"
 
 namespace {
 
 using namespace std::string_literals;
+using contract::Info;
+using contract::Palette;
+using contract::RowSize;
 using testing::Each;
 
 struct Subject {
@@ -37,34 +41,6 @@ std::vector<Subject> Subjects() {
   }
   return subjects;
 }
-
-// A bitmap's description with room for a full colour table.
-struct Info {
-  os::BITMAPINFOHEADER head{};
-  os::RGBQUAD colours[256]{};
-
-  Info(std::int32_t width, std::int32_t height, std::uint16_t bits) {
-    head.biSize = sizeof head;
-    head.biWidth = width;
-    head.biHeight = height;
-    head.biPlanes = 1;
-    head.biBitCount = bits;
-  }
-  const os::BITMAPINFO* get() const { return reinterpret_cast<const os::BITMAPINFO*>(&head); }
-};
-
-std::size_t RowSize(int width, int bits) {
-  return (static_cast<std::size_t>(width) * static_cast<std::size_t>(bits) + 31) / 32 * 4;
-}
-
-struct Palette {
-  std::uint16_t version = os::kPaletteVersion;
-  std::uint16_t count = 0;
-  os::PALETTEENTRY entries[256]{};
-
-  explicit Palette(std::uint16_t entryCount) : count(entryCount) {}
-  const os::LOGPALETTE* get() const { return reinterpret_cast<const os::LOGPALETTE*>(this); }
-};
 
 class Graphics : public testing::TestWithParam<Subject> {
  protected:
