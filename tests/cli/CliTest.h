@@ -12,6 +12,10 @@
 
 namespace zdx_test {
 
+// What the tool ends with.
+inline constexpr int kFileFailed = 2;
+inline constexpr int kOutputFailed = 74;
+
 // Runs the tool in a folder of its own, which goes away with the test.
 class CliTest : public ::testing::Test {
  protected:
