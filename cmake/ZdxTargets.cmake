@@ -22,18 +22,18 @@ if(ZDX_SANITIZE)
   target_link_options(zdx_options INTERFACE -fsanitize=address,undefined)
 endif()
 
-# zdx_quick_builds(): what the folder and those below add from here on is compiled fast rather than to
-# run fast, whatever the preset says.
-macro(zdx_quick_builds)
-  add_compile_options(-O0)
-endmacro()
-
 # What is different on each system stands in a folder of the system's name.
 if(WIN32)
   set(ZDX_SYSTEM windows)
 else()
   set(ZDX_SYSTEM posix)
 endif()
+
+# zdx_quick_builds(): what the folder and those below add from here on is compiled fast rather than to
+# run fast, whatever the preset says.
+macro(zdx_quick_builds)
+  add_compile_options(-O0)
+endmacro()
 
 # zdx_layer(NAME FOLDER target...): the static target zdx_NAME of the sources in src/FOLDER and in the
 # system's folder there, linked to the targets named.
