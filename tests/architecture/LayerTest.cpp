@@ -3,13 +3,13 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
 #include "architecture/LayerRules.h"
+#include "support/Paths.h"
+#include "support/Scratch.h"
 
 namespace architecture {
 namespace {
@@ -86,13 +86,9 @@ TEST(LayerRules, ATableLineWithoutAColonIsRefused) {
 
 const fs::path kProject = ZDX_SOURCE_DIR;
 
-std::string ReadText(const fs::path& path) {
-  std::ifstream stream(path, std::ios::binary);
-  if (!stream) throw std::runtime_error("can't read " + path.string());
-  return std::string(std::istreambuf_iterator<char>(stream), {});
+LayerRules ProjectRules() {
+  return LayerRules::Parse(zdx_test::ContentsOf(kProject / "cmake/layers.txt"));
 }
-
-LayerRules ProjectRules() { return LayerRules::Parse(ReadText(kProject / "cmake/layers.txt")); }
 
 // The C++ files below `folder`, relative to the project.
 std::vector<std::string> SourcesBelow(const std::string& folder) {
@@ -113,7 +109,7 @@ TEST_P(ProjectFolder, IncludesOnlyWhatItsLayerMay) {
   const std::vector<std::string> paths = SourcesBelow(GetParam());
   ASSERT_FALSE(paths.empty());
   for (const std::string& path : paths) {
-    EXPECT_THAT(Violations(rules, path, ReadText(kProject / path)), IsEmpty());
+    EXPECT_THAT(Violations(rules, path, zdx_test::ContentsOf(kProject / path)), IsEmpty());
   }
 }
 
@@ -123,7 +119,7 @@ TEST(ProjectLayers, EveryFolderOfTheSourcesHasALine) {
   const LayerRules rules = ProjectRules();
   for (const auto& entry : fs::directory_iterator(kProject / "src")) {
     if (!entry.is_directory()) continue;
-    const std::string layer = entry.path().filename().string();
+    const std::string layer = zdx_test::BytesOf(entry.path().filename());
     EXPECT_TRUE(rules.allowed.contains(layer)) << "no line for src/" << layer;
   }
 }

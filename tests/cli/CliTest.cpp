@@ -1,38 +1,22 @@
 #include "cli/CliTest.h"
 
-#include <cstdlib>
-#include <fstream>
 #include <sstream>
-#include <stdexcept>
 #include <utility>
 
 namespace zdx_test {
 
-CliTest::CliTest() {
-  std::string pattern = (std::filesystem::temp_directory_path() / "zdx-cli-XXXXXX").string();
-  if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no folder for the test");
-  folder_ = pattern;
-}
-
-CliTest::~CliTest() {
-  std::error_code ignored;
-  std::filesystem::remove_all(folder_, ignored);
-}
-
 void CliTest::Write(const std::string& name, const std::string& bytes) const {
-  std::ofstream file(folder_ / name, std::ios::binary);
-  file << bytes;
-  if (!file.flush()) throw std::runtime_error("can't write " + name);
+  folder_.Write(name, bytes);
 }
 
 Outcome CliTest::Zdx(std::vector<std::string> arguments, OutputTo output) const {
-  return RunCommand({ZDX_PROGRAM, std::move(arguments), {}, folder_, output});
+  return RunCommand({ZDX_PROGRAM, std::move(arguments), {}, Folder(), output});
 }
 
 Outcome CliTest::ZdxWith(std::vector<std::string> environment,
                          std::vector<std::string> arguments) const {
   return RunCommand(
-      {ZDX_PROGRAM, std::move(arguments), std::move(environment), folder_, OutputTo::kCapture});
+      {ZDX_PROGRAM, std::move(arguments), std::move(environment), Folder(), OutputTo::kCapture});
 }
 
 std::vector<nlohmann::json> Documents(const std::string& output) {

@@ -9,15 +9,13 @@
 #include <vector>
 
 #include "support/Process.h"
+#include "support/Scratch.h"
 
 namespace zdx_test {
 
 // Runs the tool in a folder of its own, which goes away with the test.
 class CliTest : public ::testing::Test {
  protected:
-  CliTest();
-  ~CliTest() override;
-
   // Puts a file into the folder.
   void Write(const std::string& name, const std::string& bytes) const;
   // Runs the tool in the folder.
@@ -25,10 +23,10 @@ class CliTest : public ::testing::Test {
   // The same with variables of the environment, as "NAME=value".
   Outcome ZdxWith(std::vector<std::string> environment, std::vector<std::string> arguments) const;
 
-  const std::filesystem::path& Folder() const { return folder_; }
+  const std::filesystem::path& Folder() const { return folder_.path(); }
 
  private:
-  std::filesystem::path folder_;
+  ScratchFolder folder_;
 };
 
 // The JSON documents in `output`, one for each line; an invalid line fails the test.

@@ -18,7 +18,7 @@ class OutputFailure : public CliTest, public ::testing::WithParamInterface<Outpu
  protected:
   void ExpectTold(const std::vector<std::string>& arguments) const {
     const Outcome outcome = Zdx(arguments, GetParam());
-    EXPECT_EQ(outcome.signal, 0);
+    EXPECT_EQ(outcome.endedBy, "");
     EXPECT_EQ(outcome.exitCode, kOutputFailed);
     EXPECT_THAT(outcome.err, StartsWith("zdx: standard output: "));
     // It is told once: the rest of the files are left alone.

@@ -9,7 +9,8 @@
 #include "ZDXEngine/Utf8.h"
 #include "backends/database/zndb/DatabaseProvider.h"
 #include "platform/zndb/Provider.h"
-#include "support/ScratchFile.h"
+#include "support/Paths.h"
+#include "support/Scratch.h"
 #include "support/dwg/DwgMaker.h"
 #include "support/dxf/DxfMaker.h"
 #include "support/scripted/World.h"
@@ -60,7 +61,7 @@ class Embedded : public Subject {
   }
   ~Embedded() override { zndb::InstallProvider(before_); }
   Zent::ErrorStatus Read(ZnDbDatabase& database) override {
-    const std::wstring path = file_->path();
+    const std::wstring path = zdx_test::NameOf(file_->path());
     return asDwg_ ? database.readDwgFile(path.c_str(), 4, true, nullptr)
                   : database.dxfIn(path.c_str(), nullptr);
   }

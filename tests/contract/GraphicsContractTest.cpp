@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "backends/System.h"
 #include "backends/posix/graphics/PosixGraphics.h"
 
 namespace {
@@ -25,12 +26,17 @@ struct Subject {
 // How a failing test names its subject.
 void PrintTo(const Subject& subject, std::ostream* out) { *out << subject.name; }
 
-const Subject kSubjects[] = {
-    {"Posix",
-     []() -> std::unique_ptr<os::GraphicsProvider> {
-       return std::make_unique<zdx::PosixGraphics>();
-     }},
-};
+std::unique_ptr<os::GraphicsProvider> MakeOwn() { return std::make_unique<zdx::PosixGraphics>(); }
+
+// The system's; where it has such calls, also those that stand in for them elsewhere.
+std::vector<Subject> Subjects() {
+  std::vector<Subject> subjects = {{"System", zdx::MakeSystemGraphics}};
+  const auto system = zdx::MakeSystemGraphics();
+  if (dynamic_cast<zdx::PosixGraphics*>(system.get()) == nullptr) {
+    subjects.push_back({"Own", MakeOwn});
+  }
+  return subjects;
+}
 
 // A bitmap's description with room for a full colour table.
 struct Info {
@@ -452,7 +458,7 @@ TEST_P(Graphics, APaletteOfNoUseIsRefused) {
   EXPECT_EQ(os->CreatePalette(other.get()), nullptr);
 }
 
-INSTANTIATE_TEST_SUITE_P(Of, Graphics, testing::ValuesIn(kSubjects),
+INSTANTIATE_TEST_SUITE_P(Of, Graphics, testing::ValuesIn(Subjects()),
                          [](const auto& info) { return std::string(info.param.name); });
 
 // What holds where there are no bitmaps but the library's own.

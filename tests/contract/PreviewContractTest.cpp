@@ -1,18 +1,20 @@
 // What the embedded database gives as a drawing's preview picture, by the path of its file.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <cstring>
 #include <filesystem>
-#include <fstream>
+#include <memory>
 #include <optional>
 
 #include "ZDXEngine/Utf8.h"
+#include "backends/System.h"
 #include "backends/database/model/Report.h"
 #include "backends/database/zndb/DatabaseProvider.h"
 #include "backends/posix/graphics/PosixGraphics.h"
 #include "platform/zndb/Provider.h"
+#include "support/Paths.h"
+#include "support/Scratch.h"
 #include "support/dxf/DxfMaker.h"
 #include "support/pictures/Pictures.h"
 
@@ -25,9 +27,8 @@ class Preview : public testing::Test {
  protected:
   Preview()
       : before_(zndb::InstallProvider(zdx::database::EmbeddedProvider())),
-        graphicsBefore_(os::InstallGraphicsProvider(&graphics_)) {}
+        graphicsBefore_(os::InstallGraphicsProvider(graphics_.get())) {}
   ~Preview() override {
-    std::filesystem::remove(path_);
     os::InstallGraphicsProvider(graphicsBefore_);
     zndb::InstallProvider(before_);
   }
@@ -36,10 +37,10 @@ class Preview : public testing::Test {
   void Write(const std::string& picture) {
     drawing::DrawingSpec spec;
     spec.previews = {{drawing::PreviewKind::Bitmap, picture}};
-    std::ofstream(path_, std::ios::binary) << dxf::Make(spec);
+    folder_.Write("preview.dxf", dxf::Make(spec));
   }
 
-  std::wstring Path() const { return ZDXEngine::WideFromUtf8(path_.string()); }
+  std::wstring Path() const { return zdx_test::NameOf(folder_.path() / "preview.dxf"); }
 
   // The rows of the bitmap that was given; empty if there is none.
   std::string Rows() {
@@ -54,11 +55,10 @@ class Preview : public testing::Test {
   os::HPALETTE palette = nullptr;
 
  private:
-  zdx::PosixGraphics graphics_;
+  std::unique_ptr<os::GraphicsProvider> graphics_ = zdx::MakeSystemGraphics();
   zndb::Provider* before_;
   os::GraphicsProvider* graphicsBefore_;
-  std::filesystem::path path_ =
-      std::filesystem::temp_directory_path() / ("zdx-preview-" + std::to_string(getpid()) + ".dxf");
+  zdx_test::ScratchFolder folder_;
 };
 
 const std::string kRows = pictures::SmallBitmap().substr(40);
@@ -132,7 +132,7 @@ TEST_F(Preview, AnOpenDrawingIsNotReadAgain) {
   ZnDbDatabase database(false, true);
   ASSERT_EQ(database.dxfIn(Path().c_str(), nullptr), Zent::kOk);
   // The drawing keeps the file that it has; the path leads nowhere now.
-  std::filesystem::remove(ZDXEngine::Utf8FromWide(Path()));
+  std::filesystem::remove(zdx_test::PathOf(Path()));
   EXPECT_EQ(Rows(), kRows);
 }
 

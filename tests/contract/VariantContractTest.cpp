@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "backends/posix/PosixProvider.h"
+#include "backends/System.h"
 #include "support/scripted/System.h"
 
 namespace {
@@ -34,8 +34,7 @@ struct Subject {
 void PrintTo(const Subject& subject, std::ostream* out) { *out << subject.name; }
 
 const Subject kSubjects[] = {
-    {"Posix",
-     []() -> std::unique_ptr<os::Provider> { return std::make_unique<zdx::PosixProvider>(); }},
+    {"System", zdx::MakeSystem},
     {"Scripted",
      []() -> std::unique_ptr<os::Provider> { return std::make_unique<ScriptedSystem>(); }},
 };

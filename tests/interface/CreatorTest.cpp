@@ -9,13 +9,13 @@
 #include <nlohmann/json.hpp>
 
 #include "ZDXEngine/Utf8.h"
+#include "backends/System.h"
 #include "backends/common/CommonProvider.h"
-#include "backends/posix/PosixFiles.h"
-#include "backends/posix/PosixProvider.h"
 #include "platform/common/CommonUtils.h"
 #include "properties/appinfo/AppInfoReader.h"
 #include "properties/appinfo/CreatorProperties.h"
 #include "properties/appinfo/DwgHeader.h"
+#include "support/Paths.h"
 #include "support/Samples.h"
 
 namespace {
@@ -39,8 +39,8 @@ class Creator : public testing::TestWithParam<std::string> {
  protected:
   Creator() {
     std::ifstream(zdx_test::TruthOf(GetParam())) >> truth;
-    os::InstallProvider(&system_);
-    os::InstallFileProvider(&files_);
+    os::InstallProvider(system_.get());
+    os::InstallFileProvider(files_.get());
     Common::InstallProvider(&common_);
   }
   ~Creator() override {
@@ -74,12 +74,11 @@ class Creator : public testing::TestWithParam<std::string> {
   }
 
   json truth;
-  const std::wstring path =
-      ZDXEngine::WideFromUtf8((zdx_test::SampleFolder() / GetParam()).string());
+  const std::wstring path = zdx_test::NameOf(zdx_test::SampleFolder() / GetParam());
 
  private:
-  zdx::PosixProvider system_;
-  zdx::PosixFiles files_;
+  std::unique_ptr<os::Provider> system_ = zdx::MakeSystem();
+  std::unique_ptr<os::FileProvider> files_ = zdx::MakeSystemFiles();
   zdx::CommonProvider common_{[](os::ModuleHandle, unsigned int) { return std::wstring(); }};
 };
 

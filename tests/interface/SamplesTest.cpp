@@ -8,6 +8,7 @@
 #include <nlohmann/json.hpp>
 
 #include "ZDXEngine/Utf8.h"
+#include "support/Paths.h"
 #include "support/PublicRead.h"
 #include "support/Samples.h"
 
@@ -22,7 +23,7 @@ class Samples : public testing::TestWithParam<std::string> {
   Samples() {
     std::ifstream(zdx_test::TruthOf(GetParam())) >> truth;
     const auto path = zdx_test::SampleFolder() / GetParam();
-    reading = zdx_test::ReadFile(ZDXEngine::WideFromUtf8(path.string()));
+    reading = zdx_test::ReadFile(zdx_test::NameOf(path));
     isDwg = path.extension() == ".dwg";
   }
 

@@ -9,6 +9,7 @@
 #include <set>
 
 #include "ZDXEngine/Utf8.h"
+#include "support/Paths.h"
 #include "support/PublicRead.h"
 #include "support/Samples.h"
 
@@ -21,7 +22,7 @@ std::vector<std::string> RealPairs() {
   std::vector<std::string> pairs;
   const std::vector<std::string> dxf = zdx_test::SampleNames(".dxf");
   for (const std::string& dwg : zdx_test::SampleNames(".dwg")) {
-    const std::string stem = std::filesystem::path(dwg).stem().string();
+    const std::string stem = dwg.substr(0, dwg.rfind('.'));
     if (std::find(dxf.begin(), dxf.end(), stem + ".dxf") != dxf.end()) pairs.push_back(stem);
   }
   return pairs;
@@ -37,7 +38,7 @@ std::set<std::string> NamedObjectsInTruth(const std::string& name) {
 // Everything that the file tells, but for what only one of the two may carry: the picture, and the
 // program that wrote the drawing.
 std::vector<std::string> Told(const std::filesystem::path& path) {
-  const auto reading = zdx_test::ReadFile(ZDXEngine::WideFromUtf8(path.string()));
+  const auto reading = zdx_test::ReadFile(zdx_test::NameOf(path));
   std::vector<std::string> told;
   for (const ZDXEngine::_PropData& record : reading.properties) {
     if (record.formatId == zdx_test::kSummary && record.name == L"17") continue;

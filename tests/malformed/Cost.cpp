@@ -68,13 +68,13 @@ void operator delete[](void* block, std::size_t) noexcept { Free(block); }
 namespace damage {
 
 Outcome ReadAtFairCost(const std::string& bytes, const std::string& suffix) {
-  const std::wstring path = zdx_test::WriteFile(bytes, suffix);
+  const zdx_test::ScratchFile file(bytes, suffix);
   Outcome outcome;
   const std::size_t before = inUse;
   most = before;
   const std::clock_t start = std::clock();
   try {
-    outcome.reading = zdx_test::ReadFile(path);
+    outcome.reading = zdx_test::ReadFile(zdx_test::NameOf(file.path()));
   } catch (const ZDXEngine::FileError& error) {
     outcome.refused = true;
     outcome.reading.diagnostics = ZDXEngine::Diagnostics::LastOpening();
@@ -82,7 +82,6 @@ Outcome ReadAtFairCost(const std::string& bytes, const std::string& suffix) {
   }
   outcome.cost.seconds = static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC;
   outcome.cost.bytes = most - before;
-  std::filesystem::remove(ZDXEngine::BytesFromWide(path));
 #if !defined(ZDX_TEST_SANITIZED)
   EXPECT_LT(outcome.cost.seconds, kMostSeconds);
   EXPECT_LT(outcome.cost.bytes, kMostBytes + 4 * bytes.size());

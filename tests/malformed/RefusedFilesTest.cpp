@@ -4,7 +4,9 @@
 #include "ZDXEngine/Utf8.h"
 #include "ZDXEngine/ZdxEngineException.h"
 #include "malformed/Damage.h"
+#include "support/Paths.h"
 #include "support/PublicRead.h"
+#include "support/Scratch.h"
 
 namespace {
 
@@ -95,17 +97,17 @@ TEST(RefusedFile, MissingIsNotFound) {
 }
 
 TEST(RefusedFile, FolderIsAReadError) {
-  const std::wstring path = WriteFile("", ".txt");
-  const std::wstring folder = path.substr(0, path.rfind(L'/')) + L"/folder.dxf";
-  ASSERT_EQ(std::system(("mkdir -p " + ZDXEngine::BytesFromWide(folder)).c_str()), 0);
-  ExpectRefused<ReadError>(folder);
+  const zdx_test::ScratchFolder scratch;
+  const auto folder = scratch.path() / "folder.dxf";
+  std::filesystem::create_directory(folder);
+  ExpectRefused<ReadError>(zdx_test::NameOf(folder));
 }
 
 TEST(RefusedFile, PipeThatNobodyWritesToIsAReadErrorAtOnce) {
-  const std::wstring path = WriteFile("", ".txt");
-  const std::wstring pipe = path.substr(0, path.rfind(L'/')) + L"/pipe.dxf";
-  ASSERT_EQ(std::system(("mkfifo " + ZDXEngine::BytesFromWide(pipe)).c_str()), 0);
-  ExpectRefused<ReadError>(pipe);
+  const zdx_test::ScratchFolder scratch;
+  const auto pipe = scratch.path() / "pipe.dxf";
+  if (!zdx_test::MakePipe(pipe)) GTEST_SKIP() << "this system has no pipes among its files";
+  ExpectRefused<ReadError>(zdx_test::NameOf(pipe));
 }
 
 TEST(RefusedFile, OtherExtensionsAreReadErrorsAndNeverOpened) {

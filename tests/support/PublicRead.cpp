@@ -1,37 +1,14 @@
 #include "support/PublicRead.h"
 
-#include <unistd.h>
-
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <stdexcept>
-
 #include "ZDXEngine/Utf8.h"
 #include "ZDXEngine/ZDXService.h"
+#include "support/Paths.h"
+#include "support/Scratch.h"
 
 namespace zdx_test {
 namespace {
 
 using ZDXEngine::FilePropertyMgr;
-
-// A folder that is removed when the process ends.
-class ScratchFolder {
- public:
-  ScratchFolder() {
-    std::string pattern = (std::filesystem::temp_directory_path() / "zdx-test-XXXXXX").string();
-    if (mkdtemp(pattern.data()) == nullptr) throw std::runtime_error("no scratch folder");
-    path_ = pattern;
-  }
-  ~ScratchFolder() {
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
-  }
-  const std::filesystem::path& path() const { return path_; }
-
- private:
-  std::filesystem::path path_;
-};
 
 void StartEngineOnce() {
   static const bool started = [] {
@@ -50,14 +27,7 @@ std::string TextOf(const ZDXEngine::_PropData& record) {
 }  // namespace
 
 std::wstring WriteFile(std::string_view bytes, const std::string& suffix) {
-  static const ScratchFolder folder;
-  static int count = 0;
-  const std::filesystem::path path = folder.path() / (std::to_string(count++) + suffix);
-  std::ofstream file(path, std::ios::binary);
-  file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  file.close();
-  if (!file) throw std::runtime_error("can't write " + path.string());
-  return ZDXEngine::WideFromUtf8(path.string());
+  return NameOf(NewFile(bytes, suffix));
 }
 
 std::vector<std::string> Reading::Texts(std::wstring_view formatId, std::wstring_view name) const {
@@ -87,10 +57,8 @@ Reading ReadFile(const std::wstring& path, FilePropertyMgr::FilePropertiesSet se
 }
 
 Reading ReadBytes(std::string_view bytes, const std::string& suffix) {
-  const std::wstring path = WriteFile(bytes, suffix);
-  Reading reading = ReadFile(path);
-  std::filesystem::remove(ZDXEngine::BytesFromWide(path));
-  return reading;
+  const ScratchFile file(bytes, suffix);
+  return ReadFile(NameOf(file.path()));
 }
 
 }  // namespace zdx_test

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <system_error>
 
+#include "support/Paths.h"
+
 namespace zdx_test {
 
 std::filesystem::path SampleFolder() {
@@ -13,7 +15,7 @@ std::vector<std::string> SampleNames(const std::string& extension) {
   std::vector<std::string> names;
   std::error_code none;
   for (const auto& entry : std::filesystem::directory_iterator(SampleFolder(), none)) {
-    if (entry.path().extension() == extension) names.push_back(entry.path().filename().string());
+    if (entry.path().extension() == extension) names.push_back(BytesOf(entry.path().filename()));
   }
   std::sort(names.begin(), names.end());
   return names;

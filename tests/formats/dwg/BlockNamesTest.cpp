@@ -8,7 +8,8 @@
 
 #include "ZDXEngine/Utf8.h"
 #include "backends/database/dwg/DwgDrawing.h"
-#include "support/ScratchFile.h"
+#include "support/Paths.h"
+#include "support/Scratch.h"
 #include "support/dwg/DwgMaker.h"
 
 namespace {
@@ -18,7 +19,7 @@ using zdx::model::TableKind;
 
 std::unique_ptr<Drawing> Opened(const drawing::DrawingSpec& spec) {
   const zdx_test::ScratchFile file(dwg::Make(spec));
-  auto mapped = zdx::file::MappedFile::Open(file.path());
+  auto mapped = zdx::file::MappedFile::Open(zdx_test::NameOf(file.path()));
   auto opened = zdx::dwg::DwgDrawing::Open(std::move(std::get<zdx::file::MappedFile>(mapped)),
                                            std::make_shared<zdx::model::Report>());
   return std::move(std::get<std::unique_ptr<Drawing>>(opened));

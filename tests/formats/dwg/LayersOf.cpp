@@ -1,24 +1,19 @@
 #include "formats/dwg/LayersOf.h"
 
-#include <unistd.h>
-
 #include <chrono>
-#include <filesystem>
-#include <fstream>
 
-#include "ZDXEngine/Utf8.h"
 #include "backends/database/dwg/DwgDrawing.h"
+#include "support/Paths.h"
+#include "support/Scratch.h"
 
 namespace model = zdx::model;
 
 Told LayersOf(const std::string& bytes, model::TableKind table) {
-  const auto path =
-      std::filesystem::temp_directory_path() / ("zdx-hostile-" + std::to_string(getpid()));
-  std::ofstream(path, std::ios::binary) << bytes;
+  const zdx_test::ScratchFile scratch(bytes);
   const auto begin = std::chrono::steady_clock::now();
   Told told;
   auto report = std::make_shared<model::Report>();
-  auto file = zdx::file::MappedFile::Open(ZDXEngine::WideFromUtf8(path.string()));
+  auto file = zdx::file::MappedFile::Open(zdx_test::NameOf(scratch.path()));
   auto drawing =
       zdx::dwg::DwgDrawing::Open(std::move(std::get<zdx::file::MappedFile>(file)), report);
   auto& opened = *std::get<std::unique_ptr<model::Drawing>>(drawing);
@@ -27,6 +22,5 @@ Told LayersOf(const std::string& bytes, model::TableKind table) {
   }
   told.warnings = report->warningCount;
   told.seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - begin).count();
-  std::filesystem::remove(path);
   return told;
 }

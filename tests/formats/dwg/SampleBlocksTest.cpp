@@ -14,6 +14,7 @@
 
 #include "ZDXEngine/Utf8.h"
 #include "backends/database/dwg/DwgDrawing.h"
+#include "support/Paths.h"
 #include "support/Samples.h"
 
 namespace {
@@ -23,7 +24,7 @@ using zdx::model::TableKind;
 
 std::vector<std::string> BlocksOf(const std::string& name) {
   const auto path = zdx_test::SampleFolder() / name;
-  auto file = zdx::file::MappedFile::Open(ZDXEngine::WideFromUtf8(path.string()));
+  auto file = zdx::file::MappedFile::Open(zdx_test::NameOf(path));
   auto opened = zdx::dwg::DwgDrawing::Open(std::move(std::get<zdx::file::MappedFile>(file)),
                                            std::make_shared<zdx::model::Report>());
   const auto drawing = std::get<std::unique_ptr<zdx::model::Drawing>>(std::move(opened));

@@ -3,12 +3,10 @@
 // The metafile's reader there takes no colour masks, so of a metafile with masks its bitmap alone
 // is shown, as a file, to a program for those.
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <array>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <memory>
 #include <sstream>
 #include <string>
@@ -16,6 +14,7 @@
 
 #include "backends/posix/graphics/PosixGraphics.h"
 #include "support/Process.h"
+#include "support/Scratch.h"
 
 namespace {
 
@@ -137,17 +136,14 @@ std::string BitmapFileHead(std::size_t size) {
 
 class Rendering : public testing::TestWithParam<std::tuple<int, bool>> {
  protected:
-  Rendering() { std::filesystem::create_directory(folder_); }
-  ~Rendering() override { std::filesystem::remove_all(folder_); }
-
   int bits() const { return std::get<0>(GetParam()); }
   bool masked() const { return bits() == 16 || bits() == 32; }
 
   // What the program tells of `bytes`, a file of that name: "P6", width, height, 255, pixels.
   Pixels Seen(const char* program, std::vector<std::string> arguments, const std::string& name,
               const std::string& bytes) const {
-    std::ofstream(folder_ / name, std::ios::binary) << bytes;
-    const auto outcome = zdx_test::RunCommand({program, std::move(arguments), {}, folder_});
+    folder_.Write(name, bytes);
+    const auto outcome = zdx_test::RunCommand({program, std::move(arguments), {}, folder_.path()});
     EXPECT_EQ(outcome.exitCode, 0) << outcome.err;
     std::istringstream stream(outcome.out);
     std::string magic;
@@ -168,8 +164,7 @@ class Rendering : public testing::TestWithParam<std::tuple<int, bool>> {
   }
 
  private:
-  std::filesystem::path folder_ =
-      std::filesystem::temp_directory_path() / ("zdx-rendering-" + std::to_string(getpid()));
+  zdx_test::ScratchFolder folder_;
 };
 
 TEST_P(Rendering, ShowsThePixelsOfTheBitmap) {

@@ -12,9 +12,10 @@
 #include "ZDXEngine/Utf8.h"
 #include "backends/database/dwg/DwgDrawing.h"
 #include "formats/preview/Shown.h"
+#include "support/Paths.h"
 #include "support/Process.h"
 #include "support/Samples.h"
-#include "support/ScratchFile.h"
+#include "support/Scratch.h"
 
 namespace {
 
@@ -23,7 +24,7 @@ using Kind = zdx::model::StoredPicture::Kind;
 
 std::vector<zdx::model::StoredPicture> PicturesOf(const std::string& name) {
   const auto path = zdx_test::SampleFolder() / name;
-  auto file = zdx::file::MappedFile::Open(ZDXEngine::WideFromUtf8(path.string()));
+  auto file = zdx::file::MappedFile::Open(zdx_test::NameOf(path));
   auto opened = zdx::dwg::DwgDrawing::Open(std::move(std::get<zdx::file::MappedFile>(file)),
                                            std::make_shared<zdx::model::Report>());
   return std::get<std::unique_ptr<zdx::model::Drawing>>(opened)->PreviewPictures();
@@ -33,7 +34,7 @@ std::string Sha256(const std::string& bytes) {
   const zdx_test::ScratchFile file(bytes, ".picture");
   zdx_test::Command command;
   command.program = "/usr/bin/sha256sum";
-  command.arguments = {ZDXEngine::Utf8FromWide(file.path())};
+  command.arguments = {zdx_test::BytesOf(file.path())};
   const zdx_test::Outcome outcome = zdx_test::RunCommand(command);
   return outcome.out.substr(0, outcome.out.find(' '));
 }

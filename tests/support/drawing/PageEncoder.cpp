@@ -1,7 +1,6 @@
 #include "support/drawing/PageEncoder.h"
 
-#include <iconv.h>
-
+#include <charconv>
 #include <cstdint>
 #include <stdexcept>
 
@@ -51,41 +50,21 @@ void AppendEscape(std::string& text, std::uint32_t point) {
   AppendUnit(text, 0xDC00 + ((point - kFirstBeyondUnit) & 0x3FF));
 }
 
+// 0, which is no code page, for any other text.
+int PageNumber(std::string_view codePage) {
+  int number = 0;
+  if (!codePage.starts_with(kPagePrefix)) return 0;
+  codePage.remove_prefix(kPagePrefix.size());
+  const char* const end = codePage.data() + codePage.size();
+  return std::from_chars(codePage.data(), end, number).ptr == end ? number : 0;
+}
+
 }  // namespace
-
-struct PageEncoder::Page {
-  explicit Page(const std::string& name) : converter(iconv_open(name.c_str(), "UTF-8")) {
-    if (reinterpret_cast<std::intptr_t>(converter) == -1) {
-      throw std::invalid_argument("no such code page: " + name);
-    }
-  }
-  ~Page() { iconv_close(converter); }
-  Page(const Page&) = delete;
-  Page& operator=(const Page&) = delete;
-
-  // The page's bytes for one character, empty if it has none.
-  std::string Find(std::string_view character) const {
-    std::string copy(character);
-    char bytes[8];
-    char* from = copy.data();
-    char* to = bytes;
-    std::size_t fromLeft = copy.size();
-    std::size_t toLeft = sizeof bytes;
-    iconv(converter, nullptr, nullptr, nullptr, nullptr);
-    if (iconv(converter, &from, &fromLeft, &to, &toLeft) != 0) return {};
-    return std::string(bytes, to);
-  }
-
-  iconv_t converter;
-};
 
 PageEncoder::PageEncoder() = default;
 
-PageEncoder::PageEncoder(std::string_view codePage) {
-  if (!codePage.starts_with(kPagePrefix)) {
-    throw std::invalid_argument("no such code page: " + std::string(codePage));
-  }
-  page_ = std::make_unique<Page>("CP" + std::string(codePage.substr(kPagePrefix.size())));
+PageEncoder::PageEncoder(std::string_view codePage) : page_(PageBytes::Make(PageNumber(codePage))) {
+  if (!page_) throw std::invalid_argument("no such code page: " + std::string(codePage));
 }
 
 PageEncoder::~PageEncoder() = default;

@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "support/drawing/PageBytes.h"
+
 namespace drawing {
 
 // Turns UTF-8 texts into the bytes that a file of some encoding holds for them.
@@ -23,10 +25,10 @@ class PageEncoder {
   std::string Encode(std::string_view utf8) const;
 
  private:
-  struct Page;
   void AppendCharacter(std::string& text, std::string_view character) const;
 
-  std::unique_ptr<Page> page_;
+  // Null for UTF-8.
+  std::unique_ptr<PageBytes> page_;
 };
 
 }  // namespace drawing

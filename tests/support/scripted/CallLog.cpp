@@ -1,12 +1,9 @@
 #include "support/scripted/CallLog.h"
 
 #include <algorithm>
+#include <ostream>
 
 #include "ZDXEngine/Utf8.h"
-
-#if !defined(_WIN32)
-#include <unistd.h>
-#endif
 
 namespace scripted {
 namespace {
@@ -42,17 +39,7 @@ Outcome CallLog::Record(std::string_view receiver, std::string_view operation,
 }
 
 void CallLog::Mirror(const Call& call) const {
-#if defined(_WIN32)
-  (void)call;
-#else
-  if (descriptor_ < 0) return;
-  const std::string line = call.operation + "\t" + call.text + "\n";
-  for (std::size_t done = 0; done < line.size();) {
-    const ssize_t written = write(descriptor_, line.data() + done, line.size() - done);
-    if (written <= 0) return;
-    done += static_cast<std::size_t>(written);
-  }
-#endif
+  if (mirror_ != nullptr) *mirror_ << call.operation << '\t' << call.text << '\n' << std::flush;
 }
 
 std::vector<std::string> Texts(const std::vector<Call>& calls) {

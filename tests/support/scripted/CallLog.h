@@ -3,6 +3,7 @@
 
 #include <concepts>
 #include <initializer_list>
+#include <iosfwd>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -52,15 +53,16 @@ class CallLog {
   const std::vector<Call>& Calls() const { return calls_; }
   void ForgetScripts() { scripts_.clear(); }
   void Forget() { calls_.clear(); }
-  // From now on each call is also written to the file descriptor, at once.
-  void MirrorTo(int descriptor) { descriptor_ = descriptor; }
+  // From now on each call is also written to `mirror`, at once: its operation, a tab and its text
+  // on a line.
+  void MirrorTo(std::ostream& mirror) { mirror_ = &mirror; }
 
  private:
   void Mirror(const Call& call) const;
 
   std::vector<Call> calls_;
   std::vector<Script> scripts_;
-  int descriptor_ = -1;
+  std::ostream* mirror_ = nullptr;
 };
 
 // The texts of `calls`; with `operations`, of those alone.

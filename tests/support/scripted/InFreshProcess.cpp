@@ -1,47 +1,68 @@
 #include "support/scripted/InFreshProcess.h"
 
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <cerrno>
-#include <cstdio>
 #include <cstdlib>
+#include <fstream>
 #include <stdexcept>
+
+#include "support/Paths.h"
+#include "support/Process.h"
+#include "support/Scratch.h"
 
 namespace scripted {
 namespace {
 
-// Static, so that the leak checker sees at exit that the child's world is still in use.
-World* worldOfThisProcess = nullptr;
+// What tells the child which of the test's calls it is for, and where its log goes.
+constexpr const char* kCallVariable = "ZDX_FRESH_PROCESS_CALL";
+constexpr const char* kLogVariable = "ZDX_FRESH_PROCESS_LOG";
+// The log's first line, which a child writes that came to its call.
+constexpr std::string_view kBegin = "begin\n";
 
-[[noreturn]] void RunChild(const std::function<void(World&)>& body, int descriptor) {
-  worldOfThisProcess = new World;
-  worldOfThisProcess->MirrorTo(descriptor);
+// Counts the calls of each test, from 1.
+class CallCounter : public testing::EmptyTestEventListener {
+ public:
+  static int Next() {
+    static CallCounter* const counter = [] {
+      auto* const made = new CallCounter;
+      testing::UnitTest::GetInstance()->listeners().Append(made);
+      return made;
+    }();
+    return ++counter->count_;
+  }
+  void OnTestEnd(const testing::TestInfo& /*test*/) override { count_ = 0; }
+
+ private:
+  int count_ = 0;
+};
+
+// What the exit handlers use still, so never ends.  Static, so that the leak checker sees that it
+// is in use.
+struct Child {
+  World world;
+  std::ofstream log;
+};
+Child* child = nullptr;
+
+[[noreturn]] void RunChild(const std::function<void(World&)>& body) {
+  child = new Child;
+  child->log.open(zdx_test::PathOf(zdx_test::EnvironmentVariable(kLogVariable)), std::ios::binary);
+  child->log << kBegin << std::flush;
+  child->world.MirrorTo(child->log);
   int code = 0;
   try {
-    body(*worldOfThisProcess);
+    body(child->world);
   } catch (...) {
     code = kBodyThrew;
   }
   std::exit(code);
 }
 
-std::string ReadAll(int descriptor) {
-  std::string bytes;
-  char piece[4096];
-  for (;;) {
-    const ssize_t got = read(descriptor, piece, sizeof piece);
-    if (got < 0 && errno == EINTR) continue;
-    if (got <= 0) return bytes;
-    bytes.append(piece, static_cast<std::size_t>(got));
-  }
-}
-
 // A line is an operation, a tab and the call's text.
 std::vector<Call> Parse(const std::string& bytes) {
+  if (!bytes.starts_with(kBegin)) throw std::runtime_error("the child didn't come to its call");
   std::vector<Call> calls;
-  for (std::size_t start = 0; start < bytes.size();) {
+  for (std::size_t start = kBegin.size(); start < bytes.size();) {
     const std::size_t tab = bytes.find('\t', start);
     const std::size_t end = bytes.find('\n', start);
     if (tab == std::string::npos || end == std::string::npos || tab > end) {
@@ -53,47 +74,40 @@ std::vector<Call> Parse(const std::string& bytes) {
   return calls;
 }
 
-// How the child ended, as waitpid tells it.
-int WaitFor(pid_t child) {
-  int status = 0;
-  while (waitpid(child, &status, 0) < 0) {
-    if (errno != EINTR) throw std::runtime_error("the child is lost");
-  }
-  return status;
-}
-
-std::string Ending(int status) {
-  if (WIFSIGNALED(status)) return "was ended by signal " + std::to_string(WTERMSIG(status));
-  if (WEXITSTATUS(status) == kBodyThrew) return "threw";
-  return "exited with " + std::to_string(WEXITSTATUS(status));
+std::string Ending(const zdx_test::Outcome& outcome) {
+  if (!outcome.endedBy.empty()) return "was ended by " + outcome.endedBy;
+  if (outcome.exitCode == kBodyThrew) return "threw";
+  return "exited with " + std::to_string(outcome.exitCode);
 }
 
 std::string LastOf(const std::vector<Call>& log) {
   return log.empty() ? "its start" : log.back().text;
 }
 
+zdx_test::Outcome RunChildFor(int call, const std::filesystem::path& log) {
+  const testing::TestInfo& test = *testing::UnitTest::GetInstance()->current_test_info();
+  zdx_test::Command command;
+  command.program = zdx_test::ThisProgram();
+  command.arguments = {std::string("--gtest_filter=") + test.test_suite_name() + "." + test.name()};
+  command.environment = {std::string(kCallVariable) + "=" + std::to_string(call),
+                         std::string(kLogVariable) + "=" + zdx_test::BytesOf(log)};
+  return zdx_test::RunCommand(command);
+}
+
 enum class MayDie { kNo, kYes };
 
 Afterlife Run(const std::function<void(World& world)>& body, MayDie mayDie) {
-  int ends[2];
-  if (pipe(ends) != 0) throw std::runtime_error("no pipe");
-  // What is still buffered would otherwise be written by both.
-  std::fflush(nullptr);
-  const pid_t child = fork();
-  if (child < 0) throw std::runtime_error("no process");
-  if (child == 0) {
-    close(ends[0]);
-    RunChild(body, ends[1]);
+  const int call = CallCounter::Next();
+  if (const std::string own = zdx_test::EnvironmentVariable(kCallVariable); !own.empty()) {
+    if (own == std::to_string(call)) RunChild(body);
+    return {};
   }
-  close(ends[1]);
-  const std::string bytes = ReadAll(ends[0]);
-  close(ends[0]);
-  const int status = WaitFor(child);
-  Afterlife afterlife;
-  afterlife.exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-  afterlife.log = Parse(bytes);
+  const zdx_test::ScratchFile log("", ".log");
+  const zdx_test::Outcome outcome = RunChildFor(call, log.path());
+  const Afterlife afterlife = {outcome.exitCode, Parse(zdx_test::ContentsOf(log.path()))};
   if (mayDie == MayDie::kNo && afterlife.exitCode != 0) {
-    ADD_FAILURE() << "the child " << Ending(status) << ", after " << LastOf(afterlife.log);
+    ADD_FAILURE() << "the child " << Ending(outcome) << ", after " << LastOf(afterlife.log) << "\n"
+                  << outcome.err;
   }
   return afterlife;
 }

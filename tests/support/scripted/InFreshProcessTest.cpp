@@ -2,7 +2,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
-#include <unistd.h>
 
 #include <csignal>
 #include <cstdlib>
@@ -20,12 +19,12 @@ namespace {
 
 void NoteAndDie(World& world) {
   world.Note("alive");
-  std::signal(SIGTRAP, SIG_DFL);
-  std::raise(SIGTRAP);
+  std::signal(SIGABRT, SIG_DFL);
+  std::abort();
 }
 
-void LeaveWith3AtExit(World& /*world*/) {
-  std::atexit([] { _exit(3); });
+void LeaveWith4AtExit(World& /*world*/) {
+  std::atexit([] { std::_Exit(4); });
 }
 
 TEST(FreshProcess, AChildThatEndsWellIsNoFailure) {
@@ -34,8 +33,25 @@ TEST(FreshProcess, AChildThatEndsWellIsNoFailure) {
   EXPECT_EQ(after.exitCode, 0);
 }
 
-TEST(FreshProcess, AChildEndedByASignalFailsTheTest) {
-  EXPECT_NONFATAL_FAILURE(InFreshProcess(NoteAndDie), "by signal 5, after note(alive)");
+TEST(FreshProcess, EachCallOfATestHasAChildOfItsOwn) {
+  for (const char* words : {"one", "two"}) {
+    const Afterlife after = InFreshProcess([&](World& world) { world.Note(words); });
+    EXPECT_THAT(after.Calls(), ElementsAre("note(" + std::string(words) + ")"));
+  }
+}
+
+TEST(FreshProcess, ExitHandlersAreHeard) {
+  static World* worldAtExit = nullptr;
+  const Afterlife after = InFreshProcess([](World& world) {
+    worldAtExit = &world;
+    std::atexit([] { worldAtExit->Note("exit"); });
+    world.Note("alive");
+  });
+  EXPECT_THAT(after.Calls(), ElementsAre("note(alive)", "note(exit)"));
+}
+
+TEST(FreshProcess, AChildThatIsEndedFailsTheTest) {
+  EXPECT_NONFATAL_FAILURE(InFreshProcess(NoteAndDie), ", after note(alive)");
 }
 
 TEST(FreshProcess, ABodyThatThrowsFailsTheTest) {
@@ -44,7 +60,7 @@ TEST(FreshProcess, ABodyThatThrowsFailsTheTest) {
 }
 
 TEST(FreshProcess, AnExitHandlerThatLeavesWithAnotherCodeFailsTheTest) {
-  EXPECT_NONFATAL_FAILURE(InFreshProcess(LeaveWith3AtExit), "exited with 3");
+  EXPECT_NONFATAL_FAILURE(InFreshProcess(LeaveWith4AtExit), "exited with 4");
 }
 
 TEST(FreshProcess, AChildThatMayDieFailsNothingAndItsCallsAreKept) {

@@ -76,7 +76,7 @@ class World {
   void ForgetCalls() { log_.Forget(); }
   // Puts a mark of the test's own among the calls, as an operation "note".
   void Note(const std::string& words) { log_.Record("", "note", words); }
-  void MirrorTo(int descriptor) { log_.MirrorTo(descriptor); }
+  void MirrorTo(std::ostream& mirror) { log_.MirrorTo(mirror); }
 
   // How often the walker library was bound.
   int TimesBound() const { return timesBound_; }

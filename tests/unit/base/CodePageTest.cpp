@@ -46,6 +46,26 @@ TEST(CodePage, LenientlyAStrayByteCostsOnlyItself) {
             WideFromUtf8("面") + static_cast<wchar_t>(0x90));
 }
 
+TEST(CodePage, ALongTextKeepsEveryCharacter) {
+  // More than is converted at a time, with characters of one byte and of two.
+  std::string bytes;
+  std::string expected;
+  for (int i = 0; i < 3000; ++i) {
+    bytes += "a\x96\xCA";
+    expected += "a面";
+  }
+  EXPECT_EQ(CodePageDecoder(932).Decode(bytes), WideFromUtf8(expected));
+  EXPECT_EQ(CodePageDecoder(932).DecodeLeniently(bytes + '\x90'),
+            WideFromUtf8(expected) + static_cast<wchar_t>(0x90));
+}
+
+TEST(CodePage, ALongTextOfStrayBytesKeepsThemAll) {
+  // A cost that grows with the square of the length would never come to an end.
+  constexpr std::size_t kLength = 2'000'000;
+  EXPECT_EQ(CodePageDecoder(932).DecodeLeniently(std::string(kLength, '\xFF')),
+            std::wstring(kLength, static_cast<wchar_t>(0xFF)));
+}
+
 TEST(CodePage, ALetterThatWaitsForAnAccentIsNotLostAtTheEnd) {
   EXPECT_EQ(CodePageDecoder(1258).Decode("\xD0\x61"), WideFromUtf8("Đa"));
   EXPECT_EQ(CodePageDecoder(1255).Decode("\xF9\xEC\xE0"), WideFromUtf8("שלא"));

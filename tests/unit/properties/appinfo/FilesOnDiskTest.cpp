@@ -1,16 +1,13 @@
 // The header reader on files on disk, through the system's own calls.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
-#include <filesystem>
-#include <fstream>
-
-#include "ZDXEngine/Utf8.h"
-#include "backends/posix/PosixFiles.h"
+#include "backends/System.h"
 #include "properties/appinfo/AppInfoReader.h"
 #include "properties/appinfo/DwgHeader.h"
+#include "support/Paths.h"
+#include "support/Process.h"
+#include "support/Scratch.h"
 #include "support/appinfo/AppInfoFile.h"
 #include "unit/properties/appinfo/Heard.h"
 
@@ -27,34 +24,25 @@ namespace {
 
 constexpr std::uint32_t kOffset = 0x80;
 
-// How many files this process has open.
-std::ptrdiff_t OpenFiles() {
-  return std::distance(std::filesystem::directory_iterator("/proc/self/fd"),
-                       std::filesystem::directory_iterator());
-}
-
 class FilesOnDisk : public testing::Test {
  protected:
-  FilesOnDisk() : previous_(os::InstallFileProvider(&files_)), open_(OpenFiles()) {
-    std::filesystem::create_directories(folder_);
-  }
+  FilesOnDisk()
+      : previous_(os::InstallFileProvider(files_.get())), open_(zdx_test::CountOpenFiles()) {}
   ~FilesOnDisk() override {
-    EXPECT_EQ(OpenFiles(), open_);
+    EXPECT_EQ(zdx_test::CountOpenFiles(), open_);
     os::InstallFileProvider(previous_);
-    std::filesystem::remove_all(folder_);
   }
 
   bool Read(const std::string& bytes, const std::string& name = "a.dwg") {
-    std::ofstream(folder_ + "/" + name, std::ios::binary) << bytes;
-    return ReadAt(folder_ + "/" + name);
+    return ReadAt(folder_.Write(name, bytes));
   }
-  bool ReadAt(const std::string& path) {
-    const std::wstring wide = ZDXEngine::WideFromUtf8(path);
+  bool ReadAt(const std::filesystem::path& path) {
+    const std::wstring wide = zdx_test::NameOf(path);
     kind = ZDXEngine::LocateAppInfo(wide, offset);
     heard = {};
     return ZDXEngine::ReadAppInfo(wide, heard);
   }
-  const std::string& Folder() const { return folder_; }
+  const std::filesystem::path& Folder() const { return folder_.path(); }
 
   std::uint32_t offset = 0;
   ZDXEngine::DwgHeaderKind kind = ZDXEngine::kDwgHeaderNone;
@@ -62,10 +50,10 @@ class FilesOnDisk : public testing::Test {
   const Block block = {.entries = {{kOtherId, u"one"}, {kSummaryId, u"two"}}};
 
  private:
-  zdx::PosixFiles files_;
+  std::unique_ptr<os::FileProvider> files_ = zdx::MakeSystemFiles();
   os::FileProvider* previous_;
-  std::ptrdiff_t open_;
-  std::string folder_ = testing::TempDir() + "/appinfo-" + std::to_string(getpid());
+  std::size_t open_;
+  zdx_test::ScratchFolder folder_;
 };
 
 TEST_F(FilesOnDisk, EarlyMagicsHaveAKindAndNoBlock) {
@@ -153,7 +141,7 @@ TEST_F(FilesOnDisk, AnEmptyFileAndOneOfAMagicAloneHaveNone) {
 
 TEST_F(FilesOnDisk, AFolderAndAMissingFileHaveNone) {
   EXPECT_FALSE(ReadAt(Folder()));
-  EXPECT_FALSE(ReadAt(Folder() + "/missing.dwg"));
+  EXPECT_FALSE(ReadAt(Folder() / "missing.dwg"));
   EXPECT_THAT(heard.words, IsEmpty());
 }
 

@@ -10,9 +10,11 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
 #include <string_view>
 #include <system_error>
+#include <thread>
 
 namespace zdx_test {
 
@@ -117,7 +119,7 @@ std::vector<char*> Pointers(std::vector<std::string>& texts) {
 }
 
 pid_t Start(const Command& command, posix_spawn_file_actions_t* actions) {
-  std::vector<std::string> arguments = {command.program.string()};
+  std::vector<std::string> arguments = {command.program.native()};
   arguments.insert(arguments.end(), command.arguments.begin(), command.arguments.end());
   std::vector<std::string> environment = Environment(command.environment);
   pid_t process = -1;
@@ -125,6 +127,22 @@ pid_t Start(const Command& command, posix_spawn_file_actions_t* actions) {
                     Pointers(arguments).data(), Pointers(environment).data()),
         arguments.front().c_str());
   return process;
+}
+
+// How the process ended, as waitpid tells it; ends it first if it takes too long.
+int WaitFor(pid_t process, std::chrono::seconds limit, bool& late) {
+  const auto last = std::chrono::steady_clock::now() + limit;
+  for (;;) {
+    int status = 0;
+    const pid_t ended = waitpid(process, &status, late ? 0 : WNOHANG);
+    if (ended == process) return status;
+    if (ended < 0 && errno != EINTR) Check(errno, "waitpid");
+    if (!late && std::chrono::steady_clock::now() > last) {
+      late = true;
+      kill(process, SIGKILL);
+    }
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
+  }
 }
 
 }  // namespace
@@ -140,17 +158,31 @@ Outcome RunCommand(const Command& command) {
     Check(posix_spawn_file_actions_addchdir_np(actions.Get(), command.workingFolder.c_str()),
           "working folder");
   }
-  const pid_t process = Start(command, actions.Get());
-  int status = 0;
-  while (waitpid(process, &status, 0) < 0) {
-    if (errno != EINTR) Check(errno, "waitpid");
-  }
+  bool late = false;
+  const int status = WaitFor(Start(command, actions.Get()), command.limit, late);
   Outcome outcome;
-  if (WIFEXITED(status)) outcome.exitCode = WEXITSTATUS(status);
-  if (WIFSIGNALED(status)) outcome.signal = WTERMSIG(status);
+  if (late) {
+    outcome.endedBy = "its limit";
+  } else if (WIFSIGNALED(status)) {
+    outcome.endedBy = "signal " + std::to_string(WTERMSIG(status));
+  } else {
+    outcome.exitCode = WEXITSTATUS(status);
+  }
   outcome.out = out.Text();
   outcome.err = err.Text();
   return outcome;
+}
+
+std::filesystem::path ThisProgram() { return std::filesystem::read_symlink("/proc/self/exe"); }
+
+std::size_t CountOpenFiles() {
+  const auto files = std::filesystem::directory_iterator("/proc/self/fd");
+  return static_cast<std::size_t>(std::distance(begin(files), end(files)));
+}
+
+std::string EnvironmentVariable(const std::string& name) {
+  const char* const value = std::getenv(name.c_str());
+  return value == nullptr ? "" : value;
 }
 
 }  // namespace zdx_test
