@@ -17,7 +17,7 @@ constexpr std::size_t kMostBytes = 1 << 20;
 constexpr DWORD kKeptAttributes = FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM |
                                   FILE_ATTRIBUTE_ARCHIVE | FILE_ATTRIBUTE_NOT_CONTENT_INDEXED;
 
-std::optional<WriteError> ErrorOf(DWORD number) { return WriteError{FailureOf(number), number}; }
+WriteError ErrorOf(DWORD number) { return {FailureOf(number), number}; }
 
 // A file that somebody has open can't be told from one that may not be replaced by what moving
 // says.
