@@ -23,11 +23,7 @@ void Print(const std::wstring& path, FilePropertyMgr::FilePropertiesSet selectio
   }
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
-  if (argc != 2) return 64;
-  const std::wstring path = ZDXEngine::WideFromUtf8(argv[1]);
+int PrintAll(const std::wstring& path) {
   service::SetupHostApplication();
   service::ValidateHostApplication(1033);
   service::InitHostApplication();
@@ -46,3 +42,13 @@ int main(int argc, char** argv) {
   service::UnInitializeHostApplication();
   return exitCode;
 }
+
+}  // namespace
+
+#if defined(_WIN32)
+int wmain(int argc, wchar_t** argv) { return argc == 2 ? PrintAll(argv[1]) : 64; }
+#else
+int main(int argc, char** argv) {
+  return argc == 2 ? PrintAll(ZDXEngine::WideFromUtf8(argv[1])) : 64;
+}
+#endif
