@@ -13,6 +13,8 @@
 
 namespace zdx_test {
 
+inline constexpr bool kOnWindows = std::filesystem::path::preferred_separator == '\\';
+
 // Runs the tool in a folder of its own, which goes away with the test.
 class CliTest : public ::testing::Test {
  protected:
