@@ -16,9 +16,12 @@ namespace {
 constexpr std::size_t kMostUnits = 8192;
 constexpr std::size_t kMostBytes = 1 << 20;
 
+// Whether the stream takes characters.  Its mode isn't asked for: a shell may have opened the
+// console for writing alone, and then the mode can't be read.
 bool IsConsole(HANDLE stream) {
-  DWORD mode = 0;
-  return GetConsoleMode(stream, &mode) != FALSE;
+  DWORD written = 0;
+  return GetFileType(stream) == FILE_TYPE_CHAR &&
+         WriteConsoleW(stream, L"", 0, &written, nullptr) != FALSE;
 }
 
 bool WriteCharacters(HANDLE console, std::wstring_view text) {
