@@ -3,24 +3,31 @@
 SHELL := /bin/bash
 MAKEFLAGS += --no-print-directory
 .DEFAULT_GOAL := help
-.PHONY: help demo test lint format-check bench clean
+.PHONY: help demo test test-windows package-windows windows-tools lint format-check bench clean
 
 JOBS ?= $(shell nproc)
 
 BUILD_PACKAGES := g++ cmake make libcli11-dev libpng-dev nlohmann-json3-dev
 TEST_PACKAGES := $(BUILD_PACKAGES) libgtest-dev googletest libgmock-dev graphicsmagick netpbm
+WINDOWS_PACKAGES := g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine64 wine64-preloader googletest \
+  cmake make libcli11-dev nlohmann-json3-dev dpkg-dev debian-archive-keyring
 LINT_PACKAGES := $(TEST_PACKAGES) clang-format-14 clang-tidy-14 libbenchmark-dev
 BENCH_PACKAGES := $(BUILD_PACKAGES) libbenchmark-dev
 
 SOURCE_FOLDERS := $(wildcard include src tools tests examples benchmarks)
 SOURCES = $(shell find $(SOURCE_FOLDERS) -name '*.h' -o -name '*.cpp')
 
+# Configure, build and test a preset.
+check = cmake --preset $(1) && cmake --build --preset $(1) -j$(JOBS) && ctest --preset $(1) -j$(JOBS)
+
 help:
-	@echo 'make demo    build the tool and show what it tells of the example drawings'
-	@echo 'make test    build and run all tests, plainly and with sanitizers'
-	@echo 'make lint    check the form of the sources, and run clang-tidy'
-	@echo 'make bench   measure the tool on large drawings'
-	@echo 'make clean   remove everything that was built'
+	@echo 'make demo             build the tool and show what it tells of the example drawings'
+	@echo 'make test             build and run all tests: plainly, with sanitizers, and for Windows'
+	@echo 'make test-windows     cross-build for Windows, and run all tests by Wine'
+	@echo 'make package-windows  make build/ZDXEngine-VERSION-windows-x86_64.zip, and try it'
+	@echo 'make lint             check the form of the sources, and run clang-tidy'
+	@echo 'make bench            measure the tool on large drawings'
+	@echo 'make clean            remove everything that was built'
 	@echo 'JOBS=N limits the builds and tests to N at a time.'
 
 demo:
@@ -42,11 +49,26 @@ test:
 	@.ci/packages $(TEST_PACKAGES)
 	@if command -v clang-format-14 > /dev/null; then $(MAKE) format-check; \
 	  else echo 'The form of the sources is not checked: clang-format-14 is not here.'; fi
-	@for preset in dev asan; do \
-	  echo "== $$preset"; \
-	  cmake --preset $$preset && cmake --build --preset $$preset -j$(JOBS) && \
-	    ctest --preset $$preset -j$(JOBS) || exit 1; \
-	done
+	@echo '== dev'
+	@$(call check,dev)
+	@echo '== asan'
+	@$(call check,asan)
+	@if $(MAKE) windows-tools 2> build/windows-tools.log; then $(MAKE) test-windows; \
+	  else echo "Windows isn't tested: $$(grep -v '^make' build/windows-tools.log | tail -n 1)"; fi
+
+test-windows: windows-tools
+	@.ci/windows-libraries $(JOBS)
+	@echo '== windows'
+	@$(call check,windows); status=$$?; .ci/wine --stop; exit $$status
+
+package-windows: windows-tools
+	@.ci/windows-libraries $(JOBS)
+	@.ci/package-windows $(JOBS)
+
+# All that has to be fetched.
+windows-tools:
+	@.ci/packages $(WINDOWS_PACKAGES)
+	@.ci/debian-source libpng1.6 build/windows-sources
 
 format-check:
 	@clang-format-14 --dry-run -Werror $(SOURCES)

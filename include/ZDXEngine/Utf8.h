@@ -1,8 +1,12 @@
 // Wide text to UTF-8 and back, for clients and for the engine alike.
 //
-// A wide text holds UTF-32 where wchar_t has four bytes and UTF-16 where it has two.  A byte 0xNN
-// that isn't part of valid UTF-8 becomes the lone surrogate U+DCNN, and that surrogate becomes the
-// byte again: so any file name makes the trip both ways.
+// A wide text holds UTF-32 where wchar_t has four bytes and UTF-16 where it has two.  Any file name
+// of the system makes the trip to the other form and back:
+// - Where wchar_t has four bytes names are bytes.  A byte 0xNN that isn't part of valid UTF-8
+// becomes
+//   the lone surrogate U+DCNN, and that surrogate becomes the byte again.
+// - Where it has two names are 16-bit units.  A lone surrogate becomes the three bytes of its own
+//   number, and these bytes become the surrogate again.
 #pragma once
 
 #include <cstddef>
@@ -16,6 +20,9 @@ namespace ZDXEngine {
 namespace utf8_detail {
 
 inline constexpr char32_t kReplacement = 0xFFFD;
+inline constexpr bool kNamesAreUnits = sizeof(wchar_t) == 2;
+
+constexpr bool IsSurrogate(char32_t point) { return point >= 0xD800 && point <= 0xDFFF; }
 
 // The length of the valid sequence at `at`, with its code point in `point`; 0 if it isn't valid.
 inline std::size_t SequenceAt(std::string_view bytes, std::size_t at, char32_t& point) {
@@ -42,12 +49,26 @@ inline std::size_t SequenceAt(std::string_view bytes, std::size_t at, char32_t& 
     if ((byte(i) & 0xC0u) != 0x80u) return 0;
     point = (point << 6) | (byte(i) & 0x3Fu);
   }
-  const bool surrogate = point >= 0xD800 && point <= 0xDFFF;
-  return point < least || point > 0x10FFFF || surrogate ? 0 : length;
+  return point < least || point > 0x10FFFF || IsSurrogate(point) ? 0 : length;
+}
+
+// The length of what BytesFromWide makes of a lone surrogate, if it stands at `at` and names are
+// 16-bit units; else 0.
+inline std::size_t LoneSurrogateAt(std::string_view bytes, std::size_t at, char32_t& point) {
+  if constexpr (kNamesAreUnits) {
+    const auto byte = [&](std::size_t i) { return static_cast<std::uint8_t>(bytes[at + i]); };
+    if (bytes.size() - at < 3 || byte(0) != 0xED || byte(1) < 0xA0 || byte(1) > 0xBF ||
+        (byte(2) & 0xC0u) != 0x80u) {
+      return 0;
+    }
+    point = 0xD000u | (byte(1) & 0x3Fu) << 6 | (byte(2) & 0x3Fu);
+    return 3;
+  }
+  return 0;
 }
 
 inline void AppendWide(std::wstring& text, char32_t point) {
-  if constexpr (sizeof(wchar_t) == 2) {
+  if constexpr (kNamesAreUnits) {
     if (point >= 0x10000) {
       point -= 0x10000;
       text.push_back(static_cast<wchar_t>(0xD800 + (point >> 10)));
@@ -95,7 +116,7 @@ std::string Encode(std::wstring_view text, Lone onLoneSurrogate) {
   bytes.reserve(text.size());
   for (std::size_t at = 0; at < text.size();) {
     const char32_t point = NextPoint(text, at);
-    if ((point >= 0xD800 && point <= 0xDFFF) || point > 0x10FFFF) {
+    if (IsSurrogate(point) || point > 0x10FFFF) {
       onLoneSurrogate(bytes, point);
     } else {
       AppendUtf8(bytes, point);
@@ -106,13 +127,15 @@ std::string Encode(std::wstring_view text, Lone onLoneSurrogate) {
 
 }  // namespace utf8_detail
 
-// The wide form of `bytes`.  Never fails: a byte outside valid UTF-8 becomes U+DC00 + byte.
+// The wide form of `bytes`.  Never fails: a byte outside valid UTF-8 becomes U+DC00 + byte, unless
+// it belongs to what BytesFromWide makes of a lone surrogate where wchar_t has two bytes.
 inline std::wstring WideFromUtf8(std::string_view bytes) {
   std::wstring text;
   text.reserve(bytes.size());
   for (std::size_t at = 0; at < bytes.size();) {
     char32_t point = 0;
-    const std::size_t length = utf8_detail::SequenceAt(bytes, at, point);
+    std::size_t length = utf8_detail::SequenceAt(bytes, at, point);
+    if (length == 0) length = utf8_detail::LoneSurrogateAt(bytes, at, point);
     if (length == 0) point = 0xDC00u + static_cast<std::uint8_t>(bytes[at]);
     utf8_detail::AppendWide(text, point);
     at += length == 0 ? 1 : length;
@@ -120,12 +143,13 @@ inline std::wstring WideFromUtf8(std::string_view bytes) {
   return text;
 }
 
-// The exact inverse of WideFromUtf8: the bytes of a file name.  A lone surrogate that stands for no
-// byte is written as the three bytes of its own number, as other programs on such systems do.  A
-// number above U+10FFFF, which is no character, becomes U+FFFD.
+// The inverse of WideFromUtf8, exact for a name's bytes where wchar_t has four bytes, and for its
+// units where it has two: WideFromUtf8 of the result is `text` then.  A lone surrogate that stands
+// for no byte is written as the three bytes of its own number, as other programs on such systems
+// do. A number above U+10FFFF, which is no character, becomes U+FFFD.
 inline std::string BytesFromWide(std::wstring_view text) {
   return utf8_detail::Encode(text, [](std::string& bytes, char32_t point) {
-    if (point >= 0xDC80 && point <= 0xDCFF) {
+    if (!utf8_detail::kNamesAreUnits && point >= 0xDC80 && point <= 0xDCFF) {
       bytes.push_back(static_cast<char>(point - 0xDC00));
     } else {
       utf8_detail::AppendUtf8(bytes, point > 0x10FFFF ? utf8_detail::kReplacement : point);

@@ -17,6 +17,8 @@ namespace zdx_test {
 inline constexpr int kFileFailed = 2;
 inline constexpr int kOutputFailed = 74;
 
+inline constexpr bool kOnWindows = std::filesystem::path::preferred_separator == '\\';
+
 // Runs the tool in a folder of its own, which goes away with the test.
 class CliTest : public ::testing::Test {
  protected:

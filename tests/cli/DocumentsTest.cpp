@@ -30,7 +30,8 @@ std::optional<Command> OwnCommand(const std::string& line) {
   std::istringstream words(line);
   std::filesystem::path program;
   words >> program;
-  const auto built = std::filesystem::path(ZDX_PROGRAM).parent_path() / program.filename();
+  auto built = std::filesystem::path(ZDX_PROGRAM).parent_path() / program.filename();
+  built += std::filesystem::path(ZDX_PROGRAM).extension();
   if (!std::filesystem::exists(built)) return std::nullopt;
   Command command;
   command.program = built;

@@ -2,11 +2,10 @@
 #include <png.h>
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 
 #include "cli/CliTest.h"
 #include "cli/SmallDrawing.h"
+#include "support/Paths.h"
 #include "support/pictures/Pictures.h"
 
 namespace zdx_test {
@@ -36,15 +35,12 @@ class Thumb : public CliTest {
     return Read(output);
   }
 
-  std::string Read(const std::string& name) const {
-    std::ifstream file(Folder() / name, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
+  std::string Read(const std::string& name) const { return ContentsOf(Folder() / PathOf(name)); }
 
   std::vector<std::string> FilesInTheFolder() const {
     std::vector<std::string> names;
     for (const auto& entry : std::filesystem::directory_iterator(Folder())) {
-      names.push_back(entry.path().filename().string());
+      names.push_back(BytesOf(entry.path().filename()));
     }
     std::sort(names.begin(), names.end());
     return names;
@@ -193,6 +189,28 @@ TEST_F(Thumb, APlaceThatCannotBeWrittenIsToldAndNothingIsLeft) {
     EXPECT_THAT(outcome.err, StartsWith("zdx: "s + output + ": "));
     EXPECT_THAT(FilesInTheFolder(), ElementsAre("folder.png", "plan.dxf"));
   }
+}
+
+TEST_F(Thumb, APictureThatIsProtectedIsNotReplacedOnWindows) {
+  if (!kOnWindows) GTEST_SKIP() << "who may write the folder may replace its files here";
+  Write("out.png", "old");
+  using std::filesystem::perms;
+  constexpr auto kWrite = perms::owner_write | perms::group_write | perms::others_write;
+  std::filesystem::permissions(Folder() / "out.png", kWrite, std::filesystem::perm_options::remove);
+  SmallDrawing drawing;
+  drawing.picture = pictures::SmallBitmap();
+  Write("plan.dxf", DxfText(drawing));
+  const Outcome outcome = Zdx({"thumb", "plan.dxf", "-O", "out.png"});
+  EXPECT_EQ(outcome.exitCode, kOutputFailed);
+  EXPECT_THAT(outcome.err, StartsWith("zdx: out.png: "));
+  EXPECT_EQ(Read("out.png"), "old");
+  EXPECT_THAT(FilesInTheFolder(), ElementsAre("out.png", "plan.dxf"));
+  // Or the folder couldn't be removed.
+  std::filesystem::permissions(Folder() / "out.png", kWrite, std::filesystem::perm_options::add);
+}
+
+TEST_F(Thumb, APictureOfANameOfAnyScriptIsWritten) {
+  EXPECT_THAT(Written(pictures::SmallBitmap(), "\xD1\x87\xE5\x9B\xB3.png"), StartsWith("\x89PNG"));
 }
 
 TEST_F(Thumb, InfoTellsThePicturesSize) {

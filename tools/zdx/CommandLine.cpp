@@ -2,10 +2,12 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <iterator>
 #include <string_view>
 #include <vector>
 
 #include "ReadableText.h"
+#include "SystemNames.h"
 #include "ZDXEngine/Utf8.h"
 
 namespace zdx {
@@ -37,9 +39,9 @@ std::string Unmarked(std::string argument) {
 }
 
 // The parser takes them from the back.
-std::vector<std::string> ReversedArguments(int count, const char* const* arguments) {
+std::vector<std::string> ReversedArguments(const std::vector<std::string>& arguments) {
   std::vector<std::string> reversed;
-  for (int i = count - 1; i > 0; --i) reversed.push_back(Marked(arguments[i]));
+  std::transform(arguments.rbegin(), arguments.rend(), std::back_inserter(reversed), Marked);
   return reversed;
 }
 
@@ -94,9 +96,18 @@ CLI::App* AddThumb(CLI::App& app, Words& words) {
   return thumb;
 }
 
-ThumbOptions UnderstoodThumb(const Words& words) {
-  return {Unmarked(words.file), Unmarked(words.picture),
-          PictureKindOf(words.picture).value_or(PictureKind::kPng)};
+// `sentence` may quote any bytes of the command line.
+WrongUsage Refusal(std::string sentence) {
+  std::erase(sentence, kMark);
+  return {"zdx: " + ReadableText(ZDXEngine::WideFromUtf8(sentence)) +
+          "\nRun 'zdx --help' or 'zdx COMMAND --help' to see what can be asked for.\n"};
+}
+
+Request UnderstoodThumb(const Words& words) {
+  const std::vector<std::string> files = FilesMeantBy(Unmarked(words.file));
+  if (files.size() > 1) return Refusal("FILE: '" + words.file + "' stands for several files");
+  return ThumbOptions{files.front(), Unmarked(words.picture),
+                      PictureKindOf(words.picture).value_or(PictureKind::kPng)};
 }
 
 InfoOptions UnderstoodInfo(const Words& words) {
@@ -104,23 +115,18 @@ InfoOptions UnderstoodInfo(const Words& words) {
   options.format = words.format == "json" ? OutputFormat::kJson : OutputFormat::kText;
   std::string unknown;
   options.selection = ParseSelection(words.selection, unknown).value_or(options.selection);
-  std::transform(words.files.begin(), words.files.end(), std::back_inserter(options.files),
-                 Unmarked);
+  for (const std::string& word : words.files) {
+    std::ranges::move(FilesMeantBy(Unmarked(word)), std::back_inserter(options.files));
+  }
   return options;
-}
-
-// The parser's sentence may quote any bytes of the command line.
-WrongUsage Refusal(const CLI::ParseError& error) {
-  std::string quoted = error.what();
-  std::erase(quoted, kMark);
-  return {"zdx: " + ReadableText(ZDXEngine::WideFromUtf8(quoted)) +
-          "\nRun 'zdx --help' or 'zdx COMMAND --help' to see what can be asked for.\n"};
 }
 
 }  // namespace
 
-Request ParseCommandLine(int count, const char* const* arguments) {
+Request ParseCommandLine(const std::vector<std::string>& arguments) {
   CLI::App app("Tells what CAD drawings say about themselves.", "zdx");
+  // A name may begin with a slash on every system.
+  app.allow_windows_style_options(false);
   app.set_version_flag("--version", "zdx " ZDX_VERSION);
   // Not more than one, or a file with a command's name would count as a second command.
   app.require_subcommand(0, 1);
@@ -129,13 +135,13 @@ Request ParseCommandLine(int count, const char* const* arguments) {
   AddInfo(app, words);
   const CLI::App* const thumb = AddThumb(app, words);
   try {
-    app.parse(ReversedArguments(count, arguments));
+    app.parse(ReversedArguments(arguments));
   } catch (const CLI::CallForHelp&) {
     return PrintAndLeave{app.help()};
   } catch (const CLI::CallForVersion& version) {
     return PrintAndLeave{std::string(version.what()) + "\n"};
   } catch (const CLI::ParseError& error) {
-    return Refusal(error);
+    return Refusal(error.what());
   }
   if (app.get_subcommands().empty()) return WrongUsage{app.help()};
   if (app.got_subcommand(thumb)) return UnderstoodThumb(words);

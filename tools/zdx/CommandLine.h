@@ -3,6 +3,7 @@
 
 #include <string>
 #include <variant>
+#include <vector>
 
 #include "InfoCommand.h"
 #include "ThumbCommand.h"
@@ -22,7 +23,7 @@ struct WrongUsage {
 
 using Request = std::variant<InfoOptions, ThumbOptions, PrintAndLeave, WrongUsage>;
 
-// Reads the arguments of main.
-Request ParseCommandLine(int count, const char* const* arguments);
+// Reads what stands behind the program's name.
+Request ParseCommandLine(const std::vector<std::string>& arguments);
 
 }  // namespace zdx

@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 #include "PropertyNames.h"
 #include "PropertyValue.h"
+#include "SystemNames.h"
 #include "ZDXEngine/Utf8.h"
 
 namespace zdx {
@@ -16,14 +18,28 @@ using ZDXEngine::FilePropertyMgr;
 
 constexpr std::wstring_view kExtensions[] = {L".dwg", L".dws", L".dwt", L".dxf"};
 
+// A drawing's name as it was given, and as the engine gets it.
+struct Names {
+  explicit Names(const std::wstring& path) : given(path), called(CallablePath(path)) {}
+  std::wstring given;
+  std::wstring called;
+};
+
 // A failure may come before anything was opened, and the engine still tells of the file before
 // then.
-Diagnostics DiagnosticsOf(const std::wstring& path) {
+Diagnostics DiagnosticsOf(const Names& names) {
   Diagnostics diagnostics = Diagnostics::LastOpening();
-  if (diagnostics.path == path) return diagnostics;
-  Diagnostics none;
-  none.path = path;
-  return none;
+  if (diagnostics.path != names.called) diagnostics = {};
+  diagnostics.path = names.given;
+  return diagnostics;
+}
+
+// The engine's sentence with the name as it was given.
+std::string WithGivenName(std::string sentence, const Names& names) {
+  const std::string called = ZDXEngine::Utf8FromWide(names.called);
+  const std::size_t at = names.called == names.given ? std::string::npos : sentence.find(called);
+  if (at == std::string::npos) return sentence;
+  return sentence.replace(at, called.size(), ZDXEngine::Utf8FromWide(names.given));
 }
 
 std::wstring DrawingTypeIn(const std::vector<ZDXEngine::_PropData>& properties) {
@@ -36,14 +52,14 @@ std::wstring DrawingTypeIn(const std::vector<ZDXEngine::_PropData>& properties) 
   return {};
 }
 
-DrawingReport ReadReport(const std::wstring& path, Selection selection) {
+DrawingReport ReadReport(const Names& names, Selection selection) {
   std::vector<ZDXEngine::BlockFilterParam> noFilters;
   DrawingReport report;
   report.properties = FilePropertyMgr::Instance().GetProperties(
-      path, noFilters, With(selection, FilePropertyMgr::DrawingFlavour));
+      names.called, noFilters, With(selection, FilePropertyMgr::DrawingFlavour));
   report.drawingType = DrawingTypeIn(report.properties);
   report.drawingTypeSelected = Includes(selection, FilePropertyMgr::DrawingFlavour);
-  report.diagnostics = DiagnosticsOf(path);
+  report.diagnostics = DiagnosticsOf(names);
   return report;
 }
 
@@ -63,11 +79,13 @@ bool HasDrawingExtension(const std::wstring& path) {
 }  // namespace
 
 std::variant<DrawingReport, Failure> ReadDrawing(const std::wstring& path, Selection selection) {
+  const Names names(path);
   try {
-    return ReadReport(path, selection);
+    return ReadReport(names, selection);
   } catch (...) {
     Failure failure = DescribeCurrentException();
-    const Diagnostics diagnostics = DiagnosticsOf(path);
+    failure.message = WithGivenName(std::move(failure.message), names);
+    const Diagnostics diagnostics = DiagnosticsOf(names);
     if (!diagnostics.errors.empty()) {
       failure.reason = ZDXEngine::Utf8FromWide(diagnostics.errors.front().text);
       failure.place = diagnostics.errors.front().place;

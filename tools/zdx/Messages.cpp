@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <cstdio>
 
 #include "ReadableText.h"
+#include "StandardStreams.h"
 
 namespace zdx {
 
@@ -28,8 +28,8 @@ void Complain(std::string_view text) {
   // In one piece, so that lines of several processes don't mix.
   std::string line = "zdx: ";
   line.append(text).push_back('\n');
-  std::fwrite(line.data(), 1, line.size(), stderr);
-  std::fflush(stderr);
+  // There is nobody to tell a failure to.
+  Write(Stream::kError, line);
 }
 
 void ComplainAboutFailure(const std::wstring& path, const Failure& failure) {

@@ -1,5 +1,4 @@
 // The command-line tool: it only translates between a person or a program and the engine.
-#include <cstdio>
 #include <exception>
 
 #include "CommandLine.h"
@@ -9,6 +8,7 @@
 #include "Messages.h"
 #include "ReadableText.h"
 #include "StandardStreams.h"
+#include "SystemNames.h"
 #include "ThumbCommand.h"
 
 namespace {
@@ -20,7 +20,7 @@ struct Follow {
     return zdx::WriteOutput(print.text) ? zdx::kAllFilesRead : zdx::kOutputFailed;
   }
   int operator()(const zdx::WrongUsage& refusal) const {
-    std::fputs(refusal.text.c_str(), stderr);
+    zdx::Write(zdx::Stream::kError, refusal.text);
     return zdx::kWrongUsage;
   }
 };
@@ -30,7 +30,7 @@ struct Follow {
 int main(int argc, char** argv) {
   zdx::PrepareStandardStreams();
   try {
-    return std::visit(Follow{}, zdx::ParseCommandLine(argc, argv));
+    return std::visit(Follow{}, zdx::ParseCommandLine(zdx::ProgramArguments(argc, argv)));
   } catch (const std::exception&) {
     zdx::Complain(zdx::ReadableText(zdx::DescribeCurrentException().message));
   } catch (...) {

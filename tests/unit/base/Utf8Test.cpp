@@ -13,7 +13,8 @@ TEST(Utf8, CharactersOutsideTheBasicPlaneSurviveBothWays) {
   EXPECT_EQ(Utf8FromWide(text), bytes);
 }
 
-TEST(Utf8, EveryByteSurvivesTheTripBothWays) {
+TEST(Utf8, EveryByteSurvivesTheTripBothWaysWhereNamesAreBytes) {
+  if (sizeof(wchar_t) == 2) GTEST_SKIP() << "names are 16-bit units here";
   std::string all;
   for (int byte = 1; byte < 256; ++byte) all.push_back(static_cast<char>(byte));
   EXPECT_EQ(BytesFromWide(WideFromUtf8(all)), all);
@@ -23,14 +24,36 @@ TEST(Utf8, AnInvalidByteBecomesALoneSurrogate) {
   EXPECT_EQ(WideFromUtf8("\xFF"), std::wstring(1, static_cast<wchar_t>(0xDCFF)));
 }
 
-TEST(Utf8, OverlongAndSurrogateSequencesAreInvalidBytes) {
-  EXPECT_EQ(WideFromUtf8("\xC0\xAF").size(), 2u);
-  EXPECT_EQ(WideFromUtf8("\xED\xA0\x80").size(), 3u);
+TEST(Utf8, EveryUnitSurvivesTheTripBothWaysWhereNamesAreUnits) {
+  if (sizeof(wchar_t) != 2) GTEST_SKIP() << "names are bytes here";
+  std::wstring all;
+  // Downwards, so that no two surrogates make a pair: the low ones stand before the high ones.
+  for (unsigned unit = 0xFFFF; unit > 0; --unit) all.push_back(static_cast<wchar_t>(unit));
+  EXPECT_EQ(WideFromUtf8(BytesFromWide(all)), all);
+}
+
+TEST(Utf8, AnOverlongSequenceIsInvalidBytes) {
+  EXPECT_EQ(WideFromUtf8("\xC0\xAF"),
+            (std::wstring{static_cast<wchar_t>(0xDCC0), static_cast<wchar_t>(0xDCAF)}));
+}
+
+TEST(Utf8, TheBytesOfASurrogateAreOneWhereNamesAreUnitsAndElseInvalid) {
+  EXPECT_EQ(WideFromUtf8("\xED\xA0\x80").size(), sizeof(wchar_t) == 2 ? 1u : 3u);
+  EXPECT_EQ(WideFromUtf8("\xED\x9F\xBF"), std::wstring(1, static_cast<wchar_t>(0xD7FF)));
   EXPECT_EQ(BytesFromWide(WideFromUtf8("\xED\xA0\x80")), "\xED\xA0\x80");
 }
 
+TEST(Utf8, TheBytesOfASurrogateAreNoValidSequence) {
+  char32_t point = 0;
+  EXPECT_EQ(utf8_detail::SequenceAt("\xED\xA0\x80", 0, point), 0u);
+}
+
 TEST(Utf8, ASequenceCutByTheEndIsInvalidBytes) {
-  EXPECT_EQ(BytesFromWide(WideFromUtf8("\xE5\x9B")), "\xE5\x9B");
+  for (const char* const cut : {"\xE5\x9B", "\xED\xA0", "\xED"}) {
+    const std::wstring text = WideFromUtf8(cut);
+    EXPECT_EQ(text.size(), std::char_traits<char>::length(cut));
+    EXPECT_EQ(text[0], static_cast<wchar_t>(0xDC00 + static_cast<unsigned char>(cut[0])));
+  }
 }
 
 TEST(Utf8, TextForDisplayIsAlwaysValid) {

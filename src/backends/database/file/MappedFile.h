@@ -6,10 +6,9 @@
 #include <string_view>
 #include <variant>
 
-namespace zdx::file {
+#include "backends/database/file/Failure.h"
 
-// Why a file can't be mapped; the first is told apart by callers.
-enum class OpenFailure { kNotFound, kNotAFile, kNoAccess, kOther };
+namespace zdx::file {
 
 // The bytes of a file, mapped for reading and never changed.  An empty file has no bytes and is
 // mapped all the same.  Another program that shortens the file while it is mapped makes the lost
@@ -17,7 +16,7 @@ enum class OpenFailure { kNotFound, kNotAFile, kNoAccess, kOther };
 class MappedFile {
  public:
   // Maps the file at `path`, whose wide form is turned into a file name as Utf8.h tells.
-  static std::variant<MappedFile, OpenFailure> Open(const std::wstring& path);
+  static std::variant<MappedFile, Failure> Open(const std::wstring& path);
 
   MappedFile() = default;
   ~MappedFile();

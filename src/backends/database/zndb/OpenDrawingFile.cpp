@@ -17,13 +17,15 @@ struct FailureRow {
   const wchar_t* reason;
 };
 
-FailureRow RowOf(file::OpenFailure failure) {
+FailureRow RowOf(file::Failure failure) {
   switch (failure) {
-    case file::OpenFailure::kNotFound:
+    case file::Failure::kNotFound:
       return {Zent::kFileNotFound, L"There is no such file."};
-    case file::OpenFailure::kNotAFile:
+    case file::Failure::kNotAFile:
       return {Zent::kFileAccess, L"This isn't a file."};
-    case file::OpenFailure::kNoAccess:
+    case file::Failure::kInUse:
+      return {Zent::kFileAccess, L"Another program has the file open and doesn't share it."};
+    case file::Failure::kNoAccess:
       return {Zent::kFileAccess, L"The file may not be read."};
     default:
       return {Zent::kFileAccess, L"The system can't open the file."};
@@ -73,7 +75,7 @@ OpenedDrawing OpenDxf(file::MappedFile file, const std::shared_ptr<model::Report
 OpenedDrawing OpenDrawingFile(const std::wstring& path, Wanted wanted,
                               const std::shared_ptr<model::Report>& report) {
   auto opened = file::MappedFile::Open(path);
-  if (const auto* failure = std::get_if<file::OpenFailure>(&opened)) {
+  if (const auto* failure = std::get_if<file::Failure>(&opened)) {
     const FailureRow row = RowOf(*failure);
     return Fail(*report, row.status, {row.reason, {}, {}, {}});
   }

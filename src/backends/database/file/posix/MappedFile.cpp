@@ -13,19 +13,7 @@
 namespace zdx::file {
 namespace {
 
-OpenFailure FailureOf(int error) {
-  switch (error) {
-    case ENOENT:
-    case ENOTDIR:
-    case ENAMETOOLONG:
-      return OpenFailure::kNotFound;
-    case EACCES:
-    case EPERM:
-      return OpenFailure::kNoAccess;
-    default:
-      return OpenFailure::kOther;
-  }
-}
+Failure Last() { return FailureOf(static_cast<std::uint32_t>(errno)); }
 
 // Closes a descriptor at the end of its scope; a mapping outlives it.
 class Descriptor {
@@ -44,22 +32,22 @@ class Descriptor {
 
 }  // namespace
 
-std::variant<MappedFile, OpenFailure> MappedFile::Open(const std::wstring& path) {
+std::variant<MappedFile, Failure> MappedFile::Open(const std::wstring& path) {
   const std::string name = ZDXEngine::BytesFromWide(path);
-  if (name.find('\0') != std::string::npos) return OpenFailure::kNotFound;
+  if (name.find('\0') != std::string::npos) return Failure::kNotFound;
   // Not blocking: opening a pipe that nobody writes to would wait for ever.
   const Descriptor descriptor(open(name.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-  if (descriptor.number() < 0) return FailureOf(errno);
+  if (descriptor.number() < 0) return Last();
   struct stat status = {};
-  if (fstat(descriptor.number(), &status) != 0) return FailureOf(errno);
-  if (!S_ISREG(status.st_mode)) return OpenFailure::kNotAFile;
+  if (fstat(descriptor.number(), &status) != 0) return Last();
+  if (!S_ISREG(status.st_mode)) return Failure::kNotAFile;
   MappedFile mapped;
   mapped.size_ = static_cast<std::size_t>(status.st_size);
   if (mapped.size_ == 0) return mapped;
   void* const data = mmap(nullptr, mapped.size_, PROT_READ, MAP_PRIVATE, descriptor.number(), 0);
   if (data == MAP_FAILED) {
     mapped.size_ = 0;
-    return FailureOf(errno);
+    return Last();
   }
   mapped.data_ = static_cast<const char*>(data);
   return mapped;

@@ -9,27 +9,6 @@
 namespace zdx::file {
 namespace {
 
-OpenFailure FailureOf(DWORD error) {
-  switch (error) {
-    case ERROR_FILE_NOT_FOUND:
-    case ERROR_PATH_NOT_FOUND:
-    case ERROR_INVALID_DRIVE:
-    case ERROR_INVALID_NAME:
-    case ERROR_BAD_NETPATH:
-    case ERROR_BAD_NET_NAME:
-    case ERROR_BAD_PATHNAME:
-    case ERROR_DIRECTORY:
-    case ERROR_FILENAME_EXCED_RANGE:
-      return OpenFailure::kNotFound;
-    case ERROR_ACCESS_DENIED:
-    case ERROR_SHARING_VIOLATION:
-    case ERROR_LOCK_VIOLATION:
-      return OpenFailure::kNoAccess;
-    default:
-      return OpenFailure::kOther;
-  }
-}
-
 // Closes a handle at the end of its scope; a mapping outlives it.
 class Handle {
  public:
@@ -52,17 +31,17 @@ bool IsFolder(const std::wstring& path) {
 
 }  // namespace
 
-std::variant<MappedFile, OpenFailure> MappedFile::Open(const std::wstring& path) {
-  if (path.find(L'\0') != std::wstring::npos) return OpenFailure::kNotFound;
+std::variant<MappedFile, Failure> MappedFile::Open(const std::wstring& path) {
+  if (path.find(L'\0') != std::wstring::npos) return Failure::kNotFound;
   // Others may write to the file, replace it or move it away meanwhile.
   const Handle file(CreateFileW(path.c_str(), GENERIC_READ,
                                 FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
                                 OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
   if (file.get() == nullptr) {
     const DWORD error = GetLastError();
-    return IsFolder(path) ? OpenFailure::kNotAFile : FailureOf(error);
+    return IsFolder(path) ? Failure::kNotAFile : FailureOf(error);
   }
-  if (GetFileType(file.get()) != FILE_TYPE_DISK) return OpenFailure::kNotAFile;
+  if (GetFileType(file.get()) != FILE_TYPE_DISK) return Failure::kNotAFile;
   LARGE_INTEGER size = {};
   if (GetFileSizeEx(file.get(), &size) == FALSE) return FailureOf(GetLastError());
   MappedFile mapped;

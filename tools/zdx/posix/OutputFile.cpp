@@ -1,13 +1,11 @@
 #include "OutputFile.h"
 
+#include <unistd.h>
+
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
-
-#if !defined(_WIN32)
-#include <unistd.h>
-#endif
 
 namespace zdx {
 
@@ -25,14 +23,7 @@ std::FILE* MakeBeside(const std::string& path, std::string& name) {
   return nullptr;
 }
 
-bool Flush(std::FILE* file) {
-  if (std::fflush(file) != 0) return false;
-#if !defined(_WIN32)
-  return fsync(fileno(file)) == 0;
-#else
-  return true;
-#endif
-}
+bool Flush(std::FILE* file) { return std::fflush(file) == 0 && fsync(fileno(file)) == 0; }
 
 }  // namespace
 
