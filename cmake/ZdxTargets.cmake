@@ -29,6 +29,14 @@ else()
   set(ZDX_SYSTEM posix)
 endif()
 
+# zdx_keep_apart(source...): leaves what calls Windows itself out of builds in groups, for its headers
+# define names that others use.
+function(zdx_keep_apart)
+  set(sources ${ARGN})
+  list(FILTER sources INCLUDE REGEX "(^|/)windows/")
+  set_source_files_properties(${sources} PROPERTIES SKIP_UNITY_BUILD_INCLUSION ON)
+endfunction()
+
 # zdx_quick_builds(): what the folder and those below add from here on is compiled fast rather than to
 # run fast, whatever the preset says.
 macro(zdx_quick_builds)
@@ -40,6 +48,7 @@ endmacro()
 function(zdx_layer name folder)
   file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${folder}/*.cpp
     ${PROJECT_SOURCE_DIR}/src/${folder}/${ZDX_SYSTEM}/*.cpp)
+  zdx_keep_apart(${sources})
   add_library(zdx_${name} STATIC ${sources})
   set_target_properties(zdx_${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)
   target_include_directories(zdx_${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
@@ -51,6 +60,7 @@ endfunction()
 # under the sanitizers the program is.
 function(zdx_test name)
   cmake_parse_arguments(arg "" "" "LINK" ${ARGN})
+  zdx_keep_apart(${arg_UNPARSED_ARGUMENTS})
   add_executable(${name} ${arg_UNPARSED_ARGUMENTS})
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
   target_compile_definitions(${name} PRIVATE ZDX_SOURCE_DIR="${PROJECT_SOURCE_DIR}")

@@ -41,6 +41,9 @@ struct Outcome {
   std::string err;
 };
 
+// Whether there is such a program of this system's.
+bool CanRun(const std::filesystem::path& program);
+
 // Runs the program to its end.  Throws std::system_error if it can't be started.
 Outcome RunCommand(const Command& command);
 

@@ -83,6 +83,9 @@ TEST(Process, IsEndedAtItsLimit) {
 
 TEST(Process, OfNoProgramIsAnError) {
   const ScratchFolder folder;
+  EXPECT_FALSE(CanRun(folder.path() / "nothing"));
+  EXPECT_FALSE(CanRun(folder.Write("text.exe", "no program")));
+  EXPECT_TRUE(CanRun(ThisProgram()));
   EXPECT_THROW(RunCommand({folder.path() / "nothing", {}, {}, {}}), std::system_error);
 }
 

@@ -101,13 +101,15 @@ TEST_P(MetafileAgreement, HoldsForAWholeBitmap) {
 
 TEST_P(MetafileAgreement, HoldsForAPartOfABitmap) { ExpectAgreement({2, 1, 3, 2}); }
 
+std::string NameOfCase(const testing::TestParamInfo<MetafileAgreement::ParamType>& info) {
+  const auto [bits, topDown, width, withPalette] = info.param;
+  return "Bits" + std::to_string(bits) + (topDown ? "TopDown" : "") + "Width" +
+         std::to_string(width) + (withPalette ? "Palette" : "");
+}
+
 INSTANTIATE_TEST_SUITE_P(Of, MetafileAgreement,
                          testing::Combine(testing::Values(1, 4, 8, 16, 24, 32), testing::Bool(),
                                           testing::Values(7, 32), testing::Bool()),
-                         [](const auto& info) {
-                           const auto& [bits, topDown, width, withPalette] = info.param;
-                           return "Bits" + std::to_string(bits) + (topDown ? "TopDown" : "") +
-                                  "Width" + std::to_string(width) + (withPalette ? "Palette" : "");
-                         });
+                         NameOfCase);
 
 }  // namespace

@@ -169,7 +169,7 @@ class Rendering : public testing::TestWithParam<std::tuple<int, bool>> {
 
 TEST_P(Rendering, ShowsThePixelsOfTheBitmap) {
   const char* const program = masked() ? kBitmapViewer : kMetafileViewer;
-  if (!std::filesystem::exists(program)) GTEST_SKIP() << program << " isn't here";
+  if (!zdx_test::CanRun(program)) GTEST_SKIP() << program << " isn't here";
   const Picture picture = Draw(bits(), std::get<1>(GetParam()));
   const std::string metafile = MetafileOf(picture);
   ASSERT_GT(metafile.size(), 18u + 22u + 6u);

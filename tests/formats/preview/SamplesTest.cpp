@@ -9,13 +9,11 @@
 #include <nlohmann/json.hpp>
 #include <variant>
 
-#include "ZDXEngine/Utf8.h"
 #include "backends/database/dwg/DwgDrawing.h"
 #include "formats/preview/Shown.h"
 #include "support/Paths.h"
-#include "support/Process.h"
 #include "support/Samples.h"
-#include "support/Scratch.h"
+#include "support/Sha256.h"
 
 namespace {
 
@@ -30,15 +28,6 @@ std::vector<zdx::model::StoredPicture> PicturesOf(const std::string& name) {
   return std::get<std::unique_ptr<zdx::model::Drawing>>(opened)->PreviewPictures();
 }
 
-std::string Sha256(const std::string& bytes) {
-  const zdx_test::ScratchFile file(bytes, ".picture");
-  zdx_test::Command command;
-  command.program = "/usr/bin/sha256sum";
-  command.arguments = {zdx_test::BytesOf(file.path())};
-  const zdx_test::Outcome outcome = zdx_test::RunCommand(command);
-  return outcome.out.substr(0, outcome.out.find(' '));
-}
-
 class PreviewSamples : public testing::TestWithParam<std::string> {};
 
 TEST_P(PreviewSamples, AreThoseOfTheDrawing) {
@@ -50,7 +39,7 @@ TEST_P(PreviewSamples, AreThoseOfTheDrawing) {
   for (std::size_t i = 0; i < pictures.size(); ++i) {
     EXPECT_EQ(pictures[i].kind, expected[i].at("kind") == "PNG" ? Kind::kPng : Kind::kBitmap);
     EXPECT_EQ(pictures[i].bytes.size(), expected[i].at("bytes").get<std::size_t>());
-    EXPECT_EQ(Sha256(pictures[i].bytes), expected[i].at("sha256"));
+    EXPECT_EQ(zdx_test::Sha256(pictures[i].bytes), expected[i].at("sha256"));
     const auto shown = preview_test::Show(pictures[i].kind, pictures[i].bytes);
     EXPECT_EQ(preview_test::RefusalOf(shown), L"");
     EXPECT_EQ(preview_test::DibOf(shown).head().biWidth, expected[i].at("width").get<int>());

@@ -147,6 +147,8 @@ int WaitFor(pid_t process, std::chrono::seconds limit, bool& late) {
 
 }  // namespace
 
+bool CanRun(const std::filesystem::path& program) { return access(program.c_str(), X_OK) == 0; }
+
 Outcome RunCommand(const Command& command) {
   const Capture out;
   const Capture err;

@@ -168,6 +168,11 @@ std::string Hexadecimal(DWORD code) {
 
 }  // namespace
 
+bool CanRun(const std::filesystem::path& program) {
+  DWORD type = 0;
+  return GetBinaryTypeW(program.c_str(), &type) != FALSE;
+}
+
 Outcome RunCommand(const Command& command) {
   const Capture out;
   const Capture err;
