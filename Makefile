@@ -86,4 +86,5 @@ bench:
 	@benchmarks/run.sh
 
 clean:
+	@.ci/wine --stop
 	rm -rf build
