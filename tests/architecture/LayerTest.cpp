@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "architecture/LayerRules.h"
+#include "architecture/ProjectSources.h"
 #include "support/Paths.h"
 #include "support/Scratch.h"
 
@@ -84,22 +85,8 @@ TEST(LayerRules, ATableLineWithoutAColonIsRefused) {
   EXPECT_THROW(LayerRules::Parse("base errors\n"), std::invalid_argument);
 }
 
-const fs::path kProject = ZDX_SOURCE_DIR;
-
 LayerRules ProjectRules() {
   return LayerRules::Parse(zdx_test::ContentsOf(kProject / "cmake/layers.txt"));
-}
-
-// The C++ files below `folder`, relative to the project.
-std::vector<std::string> SourcesBelow(const std::string& folder) {
-  std::vector<std::string> paths;
-  for (const auto& entry : fs::recursive_directory_iterator(kProject / folder)) {
-    const fs::path extension = entry.path().extension();
-    if (entry.is_regular_file() && (extension == ".h" || extension == ".cpp")) {
-      paths.push_back(entry.path().lexically_relative(kProject).generic_string());
-    }
-  }
-  return paths;
 }
 
 class ProjectFolder : public ::testing::TestWithParam<const char*> {};

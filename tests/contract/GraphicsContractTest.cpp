@@ -12,10 +12,14 @@
 
 #include "backends/System.h"
 #include "backends/posix/graphics/PosixGraphics.h"
+#include "contract/Bitmaps.h"
 
 namespace {
 
 using namespace std::string_literals;
+using contract::Info;
+using contract::Palette;
+using contract::RowSize;
 using testing::Each;
 
 struct Subject {
@@ -37,34 +41,6 @@ std::vector<Subject> Subjects() {
   }
   return subjects;
 }
-
-// A bitmap's description with room for a full colour table.
-struct Info {
-  os::BITMAPINFOHEADER head{};
-  os::RGBQUAD colours[256]{};
-
-  Info(std::int32_t width, std::int32_t height, std::uint16_t bits) {
-    head.biSize = sizeof head;
-    head.biWidth = width;
-    head.biHeight = height;
-    head.biPlanes = 1;
-    head.biBitCount = bits;
-  }
-  const os::BITMAPINFO* get() const { return reinterpret_cast<const os::BITMAPINFO*>(&head); }
-};
-
-std::size_t RowSize(int width, int bits) {
-  return (static_cast<std::size_t>(width) * static_cast<std::size_t>(bits) + 31) / 32 * 4;
-}
-
-struct Palette {
-  std::uint16_t version = os::kPaletteVersion;
-  std::uint16_t count = 0;
-  os::PALETTEENTRY entries[256]{};
-
-  explicit Palette(std::uint16_t entryCount) : count(entryCount) {}
-  const os::LOGPALETTE* get() const { return reinterpret_cast<const os::LOGPALETTE*>(this); }
-};
 
 class Graphics : public testing::TestWithParam<Subject> {
  protected:
@@ -295,11 +271,10 @@ TEST_P(Graphics, WithoutABufferTheSizeOfWhatIsToldIsGiven) {
   EXPECT_EQ(os->GetObjectW(Make(Info(4, 2, 24)), 0, nullptr), 32);
 }
 
-TEST_P(Graphics, ASelectedBitmapIsDeletedOnlyAfterItsContext) {
+TEST_P(Graphics, ABitmapOutlivesItsContextAndIsDeletedOnce) {
   const os::HBITMAP bitmap = Make(Info(4, 2, 24));
   const os::HDC context = os->CreateCompatibleDC(nullptr);
   ASSERT_NE(os->SelectObject(context, bitmap), nullptr);
-  EXPECT_EQ(os->DeleteObject(bitmap), 0);
   EXPECT_NE(os->DeleteDC(context), 0);
   EXPECT_NE(os->DeleteObject(bitmap), 0);
   EXPECT_EQ(os->DeleteObject(bitmap), 0);
@@ -343,16 +318,19 @@ TEST_P(Graphics, ABitmapIsSelectedIntoOneContextAtATime) {
 }
 
 TEST_P(Graphics, ANewContextsUnitsArePixels) {
-  const os::HDC context = os->CreateMetaFileW(nullptr);
-  os::POINT points[] = {{640, 480}, {-1, 70000}};
-  EXPECT_NE(os->DPtoLP(context, points, 2), 0);
-  EXPECT_EQ(points[0].x, 640);
-  EXPECT_EQ(points[0].y, 480);
-  EXPECT_EQ(points[1].x, -1);
-  EXPECT_EQ(points[1].y, 70000);
-  EXPECT_EQ(os->GetMapMode(context), os::kMapModeText);
+  const os::HDC metafile = os->CreateMetaFileW(nullptr);
   const os::HDC memory = os->CreateCompatibleDC(nullptr);
+  for (const os::HDC context : {metafile, memory}) {
+    os::POINT points[] = {{640, 480}, {-1, 70000}};
+    const int done = os->DPtoLP(context, points, 2);
+    if (context == memory) EXPECT_NE(done, 0);
+    EXPECT_EQ(points[0].x, 640);
+    EXPECT_EQ(points[0].y, 480);
+    EXPECT_EQ(points[1].x, -1);
+    EXPECT_EQ(points[1].y, 70000);
+  }
   EXPECT_EQ(os->SetMapMode(memory, os::kMapModeText), os::kMapModeText);
+  os->SetMapMode(memory, os->GetMapMode(metafile));
   EXPECT_EQ(os->GetMapMode(memory), os::kMapModeText);
 }
 
@@ -451,13 +429,6 @@ TEST_P(Graphics, AHandleOfAnotherKindIsRefused) {
   EXPECT_EQ(os->DeleteMetaFile(reinterpret_cast<os::HMETAFILE>(bitmap)), 0);
 }
 
-TEST_P(Graphics, APaletteOfNoUseIsRefused) {
-  EXPECT_EQ(os->CreatePalette(Palette(0).get()), nullptr);
-  Palette other(2);
-  other.version = 0x0200;
-  EXPECT_EQ(os->CreatePalette(other.get()), nullptr);
-}
-
 INSTANTIATE_TEST_SUITE_P(Of, Graphics, testing::ValuesIn(Subjects()),
                          [](const auto& info) { return std::string(info.param.name); });
 
@@ -485,6 +456,31 @@ TEST_F(PosixGraphics, APaletteThatIsDeletedIsNoLongerAContexts) {
   const os::HPALETTE stock = os.SelectPalette(metafile, given, 1);
   EXPECT_NE(os.DeleteObject(given), 0);
   EXPECT_EQ(os.SelectPalette(metafile, os.CreatePalette(palette.get()), 1), stock);
+}
+
+TEST_F(PosixGraphics, ASelectedBitmapIsNotDeleted) {
+  const Info info(4, 2, 24);
+  const os::HBITMAP bitmap =
+      os.CreateDIBSection(nullptr, info.get(), os::kRgbColors, nullptr, nullptr, 0);
+  const os::HDC context = os.CreateCompatibleDC(nullptr);
+  ASSERT_NE(os.SelectObject(context, bitmap), nullptr);
+  EXPECT_EQ(os.DeleteObject(bitmap), 0);
+  EXPECT_NE(os.DeleteDC(context), 0);
+  EXPECT_NE(os.DeleteObject(bitmap), 0);
+}
+
+TEST_F(PosixGraphics, AMetafilesUnitsArePixelsToo) {
+  const os::HDC metafile = os.CreateMetaFileW(nullptr);
+  os::POINT point = {640, 480};
+  EXPECT_NE(os.DPtoLP(metafile, &point, 1), 0);
+  EXPECT_EQ(os.GetMapMode(metafile), os::kMapModeText);
+}
+
+TEST_F(PosixGraphics, APaletteOfNoUseIsRefused) {
+  EXPECT_EQ(os.CreatePalette(Palette(0).get()), nullptr);
+  Palette other(2);
+  other.version = 0x0200;
+  EXPECT_EQ(os.CreatePalette(other.get()), nullptr);
 }
 
 TEST_F(PosixGraphics, AnyMapModeButPixelsIsRefused) {

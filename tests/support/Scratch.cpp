@@ -21,6 +21,14 @@ ScratchFolder::~ScratchFolder() {
   std::filesystem::remove_all(path_, ignored);
 }
 
+bool ScratchFolder::Takes(std::string_view name) const {
+  const std::filesystem::path path = path_ / PathOf(name);
+  const bool isMade = std::ofstream(path).is_open();
+  std::error_code ignored;
+  std::filesystem::remove(path, ignored);
+  return isMade;
+}
+
 std::filesystem::path ScratchFolder::Write(std::string_view name, std::string_view bytes) const {
   std::filesystem::path path = path_ / PathOf(name);
   std::ofstream file(path, std::ios::binary);

@@ -16,7 +16,9 @@ class ScratchFolder {
   ScratchFolder& operator=(const ScratchFolder&) = delete;
 
   const std::filesystem::path& path() const { return path_; }
-  // Writes a file of that name (see PathOf) and gives its path.
+  // Whether a file can have that name (see PathOf) here.
+  bool Takes(std::string_view name) const;
+  // Writes a file of that name and gives its path.
   std::filesystem::path Write(std::string_view name, std::string_view bytes) const;
 
  private:

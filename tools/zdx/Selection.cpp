@@ -15,7 +15,7 @@ struct NamedBit {
   Selection bit;
 };
 
-constexpr std::array kNames = {
+constexpr std::array kSetNames = {
     NamedBit{"summary", Manager::SummaryInfo},    NamedBit{"custom", Manager::CustomSummary},
     NamedBit{"thumbnail", Manager::Thumbnail},    NamedBit{"creator", Manager::CreatorInfo},
     NamedBit{"flavour", Manager::DrawingFlavour}, NamedBit{"settings", Manager::DatabaseSettings},
@@ -36,9 +36,9 @@ std::optional<Selection> ParseSelection(std::string_view list, std::string& unkn
   for (std::size_t at = 0; at <= list.size();) {
     const std::size_t end = std::min(list.find(',', at), list.size());
     const std::string_view name = list.substr(at, end - at);
-    const auto known = std::find_if(kNames.begin(), kNames.end(),
+    const auto known = std::find_if(kSetNames.begin(), kSetNames.end(),
                                     [&](const NamedBit& entry) { return entry.name == name; });
-    if (known == kNames.end()) {
+    if (known == kSetNames.end()) {
       unknown = name;
       return std::nullopt;
     }
@@ -51,7 +51,7 @@ std::optional<Selection> ParseSelection(std::string_view list, std::string& unkn
 
 std::string SelectionNames() {
   std::string names;
-  for (const NamedBit& entry : kNames) {
+  for (const NamedBit& entry : kSetNames) {
     if (!names.empty()) names += ", ";
     names += entry.name;
   }

@@ -52,7 +52,7 @@ struct GroupedName {
 };
 
 // The engine's own properties by name.
-constexpr GroupedName kNames[] = {
+constexpr GroupedName kGroupedNames[] = {
     {L"Layer Name", kLayers},
     {L"LineType Name", kLineTypes},
     {kLineTypeComments, kLineTypes},
@@ -108,9 +108,9 @@ std::size_t GroupOf(const ZDXEngine::_PropData& property) {
       break;
   }
   const auto* const known =
-      std::find_if(std::begin(kNames), std::end(kNames),
+      std::find_if(std::begin(kGroupedNames), std::end(kGroupedNames),
                    [&](const GroupedName& entry) { return property.name == entry.name; });
-  return known == std::end(kNames) ? kOther : known->group;
+  return known == std::end(kGroupedNames) ? kOther : known->group;
 }
 
 bool IsSecondOfPair(const ZDXEngine::_PropData& property) {

@@ -8,7 +8,6 @@ namespace zdx {
 class WindowsProvider : public os::Provider {
  public:
   void VariantInit(VARIANT* variant) override;
-  // A target that can't be cleared is left empty.
   HRESULT VariantCopy(VARIANT* target, const VARIANT* source) override;
   HRESULT VariantClear(VARIANT* variant) override;
   BSTR SysAllocString(const wchar_t* text) override;

@@ -99,13 +99,14 @@ int ReleaseDC(void* window, HDC context);
 HDC CreateCompatibleDC(HDC context);
 // Makes `object` the one that `context` draws with or on.  The one before, or null on failure.
 HGDIOBJ SelectObject(HDC context, HGDIOBJ object);
-// The mode by which logical units become pixels; 0 on failure.
+// The mode by which logical units become pixels; 0 on failure, which a metafile's context may be.
 int GetMapMode(HDC context);
 // The mode before; 0 on failure.
 int SetMapMode(HDC context, int mode);
 // Writes the BITMAP of a bitmap to `buffer` and returns its size; 0 on failure.
 int GetObjectW(HGDIOBJ object, int size, void* buffer);
-// Turns pixels into logical units, in place.  Nonzero on success.
+// Turns pixels into logical units, in place.  Nonzero on success; on failure, which a metafile's
+// context may be, the points stay.
 int DPtoLP(HDC context, POINT* points, int count);
 // Makes `palette` the context's.  The one before, or null on failure; null is refused.
 HPALETTE SelectPalette(HDC context, HPALETTE palette, int forceBackground);
@@ -122,7 +123,8 @@ HMETAFILE CloseMetaFile(HDC context);
 // Copies the metafile's bytes, up to `size`, to `buffer`, and returns how many; with a null
 // `buffer` the size of them all.  0 on failure.
 std::uint32_t GetMetaFileBitsEx(HMETAFILE metafile, std::uint32_t size, void* buffer);
-// Each nonzero on success.  Null is refused, and so is a bitmap that is selected.
+// Each nonzero on success.  Null is refused; a bitmap that is selected may be, or it lives until it
+// is selected no longer.
 int DeleteMetaFile(HMETAFILE metafile);
 int DeleteObject(HGDIOBJ object);
 

@@ -13,7 +13,8 @@ using ModuleHandle = void*;
 // Makes `variant` empty without looking at what it held.
 void VariantInit(VARIANT* variant);
 // Clears `target` and makes it a copy of `source`, which keeps its value: texts and arrays are
-// duplicated.  S_OK, or a failure that leaves `target` empty: E_OUTOFMEMORY, DISP_E_BADVARTYPE.
+// duplicated, and a null text may become an empty one.  S_OK, or a failure, which leaves a target
+// empty that was empty: E_OUTOFMEMORY, DISP_E_BADVARTYPE.
 HRESULT VariantCopy(VARIANT* target, const VARIANT* source);
 // Releases what `variant` holds and makes it empty.
 HRESULT VariantClear(VARIANT* variant);

@@ -32,4 +32,6 @@ TEST_F(PosixFiles, APositionFromElsewhereIsRefused) {
   files.CloseHandle(file);
 }
 
+TEST_F(PosixFiles, NoHandleIsNotClosed) { EXPECT_EQ(files.CloseHandle(os::kInvalidHandle), 0); }
+
 }  // namespace

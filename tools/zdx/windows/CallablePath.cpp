@@ -7,7 +7,7 @@ namespace zdx {
 namespace {
 
 // Plain calls take 259 units; a name beside the file, with a few more at its end, must do as well.
-constexpr std::size_t kMostUnits = 247;
+constexpr std::size_t kMostPlainUnits = 247;
 
 // Paths that the system takes as they stand, whatever their length.
 bool IsVerbatim(const std::wstring& path) {
@@ -34,7 +34,7 @@ std::wstring Resolved(const std::wstring& path) {
 std::wstring CallablePath(const std::wstring& path) {
   if (path.empty() || IsVerbatim(path)) return path;
   const std::wstring full = Resolved(path);
-  if (full.size() <= kMostUnits || IsVerbatim(full)) return path;
+  if (full.size() <= kMostPlainUnits || IsVerbatim(full)) return path;
   if (full.starts_with(L"\\\\")) return L"\\\\?\\UNC\\" + full.substr(2);
   return L"\\\\?\\" + full;
 }

@@ -13,8 +13,8 @@ namespace zdx {
 namespace {
 
 // Consoles have refused more than some 32,000 units at once.
-constexpr std::size_t kMostUnits = 8192;
-constexpr std::size_t kMostBytes = 1 << 20;
+constexpr std::size_t kMostUnitsAtOnce = 8192;
+constexpr std::size_t kMostBytesAtOnce = 1 << 20;
 
 // Whether the stream takes characters.  Its mode isn't asked for: a shell may have opened the
 // console for writing alone, and then the mode can't be read.
@@ -26,7 +26,7 @@ bool IsConsole(HANDLE stream) {
 
 bool WriteCharacters(HANDLE console, std::wstring_view text) {
   while (!text.empty()) {
-    const auto size = static_cast<DWORD>(FirstPiece(text, kMostUnits));
+    const auto size = static_cast<DWORD>(FirstPiece(text, kMostUnitsAtOnce));
     DWORD written = 0;
     if (WriteConsoleW(console, text.data(), size, &written, nullptr) == FALSE) return false;
     text.remove_prefix(std::clamp<DWORD>(written, 1, size));
@@ -36,9 +36,9 @@ bool WriteCharacters(HANDLE console, std::wstring_view text) {
 
 bool WriteBytes(HANDLE file, std::string_view text) {
   while (!text.empty()) {
-    const auto size = static_cast<DWORD>(std::min(text.size(), kMostBytes));
+    const auto size = static_cast<DWORD>(std::min(text.size(), kMostBytesAtOnce));
     DWORD written = 0;
-    if (WriteFile(file, text.data(), size, &written, nullptr) == FALSE) return false;
+    if (::WriteFile(file, text.data(), size, &written, nullptr) == FALSE) return false;
     if (written == 0) {
       SetLastError(ERROR_WRITE_FAULT);
       return false;

@@ -7,7 +7,7 @@
 #include "unit/properties/Outages.h"
 #include "unit/properties/Shown.h"
 
-using namespace ZDXEngine;  // NOLINT: format ids and records throughout
+using namespace ZDXEngine;  // NOLINT: records throughout
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
@@ -36,27 +36,27 @@ class Adding : public scripted::ScriptedTest {
 };
 
 TEST_F(Adding, ASummaryPropertyIsNamedByItsNumberWhateverItsName) {
-  EXPECT_EQ(NameOf(L"Title", FMTID_SummaryInformation, 2), L"2");
+  EXPECT_EQ(NameOf(L"Title", ZDXEngine::FMTID_SummaryInformation, 2), L"2");
 }
 
 TEST_F(Adding, ADocumentSummaryPropertyIsNamedByItsNumberWhateverItsName) {
-  EXPECT_EQ(NameOf(L"Category", FMTID_DocSummaryInformation, 15), L"15");
+  EXPECT_EQ(NameOf(L"Category", ZDXEngine::FMTID_DocSummaryInformation, 15), L"15");
 }
 
 TEST_F(Adding, ASummaryPropertyWithoutANameIsNamedByItsNumber) {
-  EXPECT_EQ(NameOf(L"", FMTID_SummaryInformation, 9), L"9");
+  EXPECT_EQ(NameOf(L"", ZDXEngine::FMTID_SummaryInformation, 9), L"9");
 }
 
 TEST_F(Adding, AnEnginePropertyIsNamedByItsName) {
-  EXPECT_EQ(NameOf(L"DWG Type", FMTID_Storage, 0x13), L"DWG Type");
+  EXPECT_EQ(NameOf(L"DWG Type", ZDXEngine::FMTID_Storage, 0x13), L"DWG Type");
 }
 
 TEST_F(Adding, AnEnginePropertyWithoutANameIsNamedByItsNumber) {
-  EXPECT_EQ(NameOf(L"", FMTID_Storage, 0x13), L"19");
+  EXPECT_EQ(NameOf(L"", ZDXEngine::FMTID_Storage, 0x13), L"19");
 }
 
 TEST_F(Adding, ACustomPropertyIsNamedByItsName) {
-  EXPECT_EQ(NameOf(L"Client", FMTID_UserDefinedProperties, 0x13), L"Client");
+  EXPECT_EQ(NameOf(L"Client", ZDXEngine::FMTID_UserDefinedProperties, 0x13), L"Client");
 }
 
 TEST_F(Adding, APropertyOfAnyOtherSetIsNamedByItsName) {
@@ -65,10 +65,10 @@ TEST_F(Adding, APropertyOfAnyOtherSetIsNamedByItsName) {
 }
 
 TEST_F(Adding, TheSetIsStoredAsTheTextOfItsId) {
-  NameOf(L"a", FMTID_SummaryInformation, 2);
-  NameOf(L"a", FMTID_DocSummaryInformation, 2);
-  NameOf(L"a", FMTID_UserDefinedProperties, 2);
-  NameOf(L"a", FMTID_Storage, 2);
+  NameOf(L"a", ZDXEngine::FMTID_SummaryInformation, 2);
+  NameOf(L"a", ZDXEngine::FMTID_DocSummaryInformation, 2);
+  NameOf(L"a", ZDXEngine::FMTID_UserDefinedProperties, 2);
+  NameOf(L"a", ZDXEngine::FMTID_Storage, 2);
   EXPECT_EQ(properties[0].formatId, expected::kSummarySet);
   EXPECT_EQ(properties[1].formatId, expected::kDocSummarySet);
   EXPECT_EQ(properties[2].formatId, expected::kCustomSet);
@@ -78,33 +78,33 @@ TEST_F(Adding, TheSetIsStoredAsTheTextOfItsId) {
 TEST_F(Adding, TheTypeCodeIsStoredAsItIsGiven) {
   VARIANT value{};
   value.vt = VT_R8;
-  AddProperty(properties, value, kTypeNumber, L"a", FMTID_Storage, 0x13);
+  AddProperty(properties, value, kTypeNumber, L"a", ZDXEngine::FMTID_Storage, 0x13);
   EXPECT_EQ(properties.back().typeCode, 1);
   EXPECT_EQ(properties.back().value.vt, VT_R8);
 }
 
 TEST_F(Adding, TheCallersVariantIsEmptyAfterwards) {
   VARIANT value = TextOf(L"Walls");
-  AddProperty(properties, value, kTypeText, L"Layer Name", FMTID_Storage, 0x13);
+  AddProperty(properties, value, kTypeText, L"Layer Name", ZDXEngine::FMTID_Storage, 0x13);
   EXPECT_EQ(value.vt, VT_EMPTY);
 }
 
 TEST_F(Adding, TheRecordGoesInBehindTheOthers) {
-  NameOf(L"a", FMTID_Storage, 0x13);
-  NameOf(L"b", FMTID_Storage, 0x13);
+  NameOf(L"a", ZDXEngine::FMTID_Storage, 0x13);
+  NameOf(L"b", ZDXEngine::FMTID_Storage, 0x13);
   EXPECT_THAT(expected::Shown(properties), ElementsAre("a=x", "b=x"));
 }
 
 TEST_F(Adding, TheSameNameMayComeTwice) {
-  NameOf(L"a", FMTID_Storage, 0x13);
-  NameOf(L"a", FMTID_Storage, 0x13);
+  NameOf(L"a", ZDXEngine::FMTID_Storage, 0x13);
+  NameOf(L"a", ZDXEngine::FMTID_Storage, 0x13);
   EXPECT_THAT(properties, SizeIs(2));
 }
 
 TEST_F(Adding, TheValueIsCopiedIntoARecordAndTheRecordIntoTheList) {
   VARIANT value = TextOf(L"Walls");
   world.ForgetCalls();
-  AddProperty(properties, value, kTypeText, L"Layer Name", FMTID_Storage, 0x13);
+  AddProperty(properties, value, kTypeText, L"Layer Name", ZDXEngine::FMTID_Storage, 0x13);
   std::vector<std::string> calls =
       world.Calls({"VariantInit", "VariantCopy", "VariantClear", "SysAllocString"});
   // Clearing what is empty already changes nothing.
@@ -115,11 +115,12 @@ TEST_F(Adding, TheValueIsCopiedIntoARecordAndTheRecordIntoTheList) {
 }
 
 TEST_F(Adding, AValueThatCannotBeCopiedLeavesTheListAsItWas) {
-  NameOf(L"a", FMTID_Storage, 0x13);
+  NameOf(L"a", ZDXEngine::FMTID_Storage, 0x13);
   for (const int nth : {1, 2}) {
     VARIANT value = TextOf(L"Walls");
     world.Fail("VariantCopy", E_OUTOFMEMORY, nth);
-    EXPECT_THROW(AddProperty(properties, value, kTypeText, L"b", FMTID_Storage, 0x13), _com_error)
+    EXPECT_THROW(AddProperty(properties, value, kTypeText, L"b", ZDXEngine::FMTID_Storage, 0x13),
+                 _com_error)
         << nth;
     EXPECT_THAT(expected::Shown(properties), ElementsAre("a=x")) << nth;
     os::VariantClear(&value);
@@ -130,7 +131,7 @@ TEST_F(Adding, TheComErrorIsThatOfTheFailedCopy) {
   VARIANT value{};
   world.Fail("VariantCopy", DISP_E_BADVARTYPE);
   try {
-    AddProperty(properties, value, kTypeText, L"b", FMTID_Storage, 0x13);
+    AddProperty(properties, value, kTypeText, L"b", ZDXEngine::FMTID_Storage, 0x13);
     FAIL() << "nothing was thrown";
   } catch (const _com_error& error) {
     EXPECT_EQ(error.Error(), DISP_E_BADVARTYPE);
@@ -138,29 +139,30 @@ TEST_F(Adding, TheComErrorIsThatOfTheFailedCopy) {
 }
 
 TEST_F(Adding, ATextIsAddedWithTheTypeCodeOfTexts) {
-  AddTextProperty(properties, L"Walls", L"Layer Name", FMTID_Storage, 0x13);
+  AddTextProperty(properties, L"Walls", L"Layer Name", ZDXEngine::FMTID_Storage, 0x13);
   EXPECT_THAT(expected::Shown(properties), ElementsAre("Layer Name=Walls"));
   EXPECT_EQ(properties.back().typeCode, 2);
 }
 
 TEST_F(Adding, ANullTextIsAddedAsANullText) {
-  AddTextProperty(properties, nullptr, L"Title", FMTID_Storage, 0x13);
+  AddTextProperty(properties, nullptr, L"Title", ZDXEngine::FMTID_Storage, 0x13);
   EXPECT_THAT(expected::Shown(properties), ElementsAre("Title=(null)"));
 }
 
 TEST_F(Adding, AnEmptyTextIsAddedAsAnEmptyText) {
-  AddTextProperty(properties, L"", L"Title", FMTID_Storage, 0x13);
+  AddTextProperty(properties, L"", L"Title", ZDXEngine::FMTID_Storage, 0x13);
   EXPECT_THAT(expected::Shown(properties), ElementsAre("Title="));
 }
 
 TEST(AddingText, WithoutMemoryRaisesTheComErrorAndLeaksNothing) {
-  outages::FailEachAllocation([](scripted::World&) {},
-                              [] {
-                                std::vector<_PropData> properties;
-                                AddTextProperty(properties, L"a", L"A", FMTID_Storage, 0x13);
-                                AddTextProperty(properties, L"b", L"B", FMTID_Storage, 0x13);
-                                AddTextProperty(properties, L"c", L"C", FMTID_Storage, 0x13);
-                              });
+  outages::FailEachAllocation(
+      [](scripted::World&) {},
+      [] {
+        std::vector<_PropData> properties;
+        AddTextProperty(properties, L"a", L"A", ZDXEngine::FMTID_Storage, 0x13);
+        AddTextProperty(properties, L"b", L"B", ZDXEngine::FMTID_Storage, 0x13);
+        AddTextProperty(properties, L"c", L"C", ZDXEngine::FMTID_Storage, 0x13);
+      });
 }
 
 }  // namespace
