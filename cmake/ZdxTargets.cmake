@@ -29,6 +29,12 @@ else()
   set(ZDX_SYSTEM posix)
 endif()
 
+# zdx_quick_builds(): what the folder and those below add from here on is compiled fast rather than to
+# run fast, whatever the preset says.
+macro(zdx_quick_builds)
+  add_compile_options(-O0)
+endmacro()
+
 # zdx_layer(NAME FOLDER target...): the static target zdx_NAME of the sources in src/FOLDER and in the
 # system's folder there, linked to the targets named.
 function(zdx_layer name folder)

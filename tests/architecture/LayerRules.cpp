@@ -1,6 +1,5 @@
 #include "architecture/LayerRules.h"
 
-#include <regex>
 #include <sstream>
 #include <stdexcept>
 #include <utility>
@@ -16,12 +15,15 @@ std::vector<std::string> Split(const std::string& path) {
 }
 
 std::vector<std::string> QuotedIncludes(std::string_view source) {
-  static const std::regex pattern("^[ \\t]*#[ \\t]*include[ \\t]*\"([^\"]+)\"");
   std::vector<std::string> names;
   std::istringstream stream{std::string(source)};
   for (std::string line; std::getline(stream, line);) {
-    std::smatch match;
-    if (std::regex_search(line, match, pattern)) names.push_back(match[1]);
+    const std::size_t begin = line.find('"');
+    const std::size_t end = begin == std::string::npos ? begin : line.find('"', begin + 1);
+    if (end == std::string::npos) continue;
+    std::string directive = line.substr(0, begin);
+    std::erase_if(directive, [](char character) { return character == ' ' || character == '\t'; });
+    if (directive == "#include") names.push_back(line.substr(begin + 1, end - begin - 1));
   }
   return names;
 }

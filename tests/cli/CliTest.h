@@ -13,6 +13,10 @@
 
 namespace zdx_test {
 
+// What the tool ends with.
+inline constexpr int kFileFailed = 2;
+inline constexpr int kOutputFailed = 74;
+
 inline constexpr bool kOnWindows = std::filesystem::path::preferred_separator == '\\';
 
 // Runs the tool in a folder of its own, which goes away with the test.

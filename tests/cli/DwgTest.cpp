@@ -15,7 +15,6 @@ using ::testing::MatchesRegex;
 using ::testing::SizeIs;
 using ::testing::StartsWith;
 
-constexpr int kFileFailed = 2;
 constexpr std::size_t kCodePageAt = 0x13;
 constexpr std::size_t kProtectionAt = 0x18;
 

@@ -16,8 +16,6 @@ using ::testing::Not;
 using ::testing::SizeIs;
 using ::testing::StartsWith;
 
-constexpr int kFileFailed = 2;
-
 class Failure : public CliTest {
  protected:
   // The "error" of the one document about a file that fails.

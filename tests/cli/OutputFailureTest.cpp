@@ -11,8 +11,6 @@ namespace {
 
 using ::testing::StartsWith;
 
-constexpr int kOutputFailed = 74;
-
 // What comes of an output that can't be written must not depend on why.
 class OutputFailure : public CliTest, public ::testing::WithParamInterface<OutputTo> {
  protected:

@@ -21,8 +21,6 @@ using ::testing::IsEmpty;
 using ::testing::StartsWith;
 
 constexpr int kNoPicture = 1;
-constexpr int kFileFailed = 2;
-constexpr int kOutputFailed = 74;
 
 class Thumb : public CliTest {
  protected:

@@ -41,27 +41,27 @@ std::string LargeBitmap() {
 
 using Kind = drawing::PreviewKind;
 
-struct Writing {
+struct PictureWriting {
   const char* name;
   const char* suffix;
   std::string (*make)(const drawing::DrawingSpec& spec);
 };
 
-constexpr Writing kText = {"Text", ".dxf",
-                           [](const drawing::DrawingSpec& spec) { return dxf::Make(spec); }};
-constexpr Writing kBinary = {"Binary", ".dxf", [](const drawing::DrawingSpec& spec) {
-                               return dxf::Make(spec, {.form = dxf::Form::Binary});
-                             }};
-constexpr Writing kDwg = {"Dwg", ".dwg",
-                          [](const drawing::DrawingSpec& spec) { return dwg::Make(spec); }};
+constexpr PictureWriting kText = {"Text", ".dxf",
+                                  [](const drawing::DrawingSpec& spec) { return dxf::Make(spec); }};
+constexpr PictureWriting kBinary = {"Binary", ".dxf", [](const drawing::DrawingSpec& spec) {
+                                      return dxf::Make(spec, {.form = dxf::Form::Binary});
+                                    }};
+constexpr PictureWriting kDwg = {"Dwg", ".dwg",
+                                 [](const drawing::DrawingSpec& spec) { return dwg::Make(spec); }};
 
-class Thumbnail : public testing::TestWithParam<std::tuple<const char*, Writing>> {
+class Thumbnail : public testing::TestWithParam<std::tuple<const char*, PictureWriting>> {
  protected:
   Reading Read(std::vector<drawing::PreviewSpec> previews) const {
     drawing::DrawingSpec spec;
     spec.version = std::get<0>(GetParam());
     spec.previews = std::move(previews);
-    const Writing& writing = std::get<1>(GetParam());
+    const PictureWriting& writing = std::get<1>(GetParam());
     return zdx_test::ReadBytes(writing.make(spec), writing.suffix);
   }
 };
@@ -82,22 +82,23 @@ TEST_P(Thumbnail, IsNotThereWithoutAPicture) {
   EXPECT_EQ(reading.diagnostics.warningCount, 0u);
 }
 
-std::string TestName(const testing::TestParamInfo<Thumbnail::ParamType>& info) {
+std::string PictureTestName(const testing::TestParamInfo<Thumbnail::ParamType>& info) {
   return std::string(std::get<0>(info.param)) + std::get<1>(info.param).name;
 }
 
 INSTANTIATE_TEST_SUITE_P(Dxf, Thumbnail,
                          testing::Combine(testing::Values("AC1009", "AC1015", "AC1018", "AC1032"),
                                           testing::Values(kText, kBinary)),
-                         TestName);
+                         PictureTestName);
 INSTANTIATE_TEST_SUITE_P(Dwg, Thumbnail,
                          testing::Combine(testing::Values("AC1014", "AC1015", "AC1018", "AC1021",
                                                           "AC1024", "AC1027", "AC1032"),
                                           testing::Values(kDwg)),
-                         TestName);
+                         PictureTestName);
 
 // What is told of a drawing of the newest version with one picture.
-std::vector<std::string> ThumbnailsOf(const Writing& writing, Kind kind, std::string picture) {
+std::vector<std::string> ThumbnailsOf(const PictureWriting& writing, Kind kind,
+                                      std::string picture) {
   drawing::DrawingSpec spec;
   spec.previews = {{kind, std::move(picture)}};
   return Thumbnails(zdx_test::ReadBytes(writing.make(spec), writing.suffix));
@@ -106,7 +107,7 @@ std::vector<std::string> ThumbnailsOf(const Writing& writing, Kind kind, std::st
 TEST(ThumbnailOfAPicture, WithATableHasItsPaletteToo) {
   const pictures::BitmapHead head{.width = 100, .height = 50, .bits = 8};
   const std::string picture = head.Bytes() + std::string(1024, '\7') + std::string(5000, '\1');
-  for (const Writing& writing : {kText, kDwg}) {
+  for (const PictureWriting& writing : {kText, kDwg}) {
     const std::vector<std::string> found = ThumbnailsOf(writing, Kind::Bitmap, picture);
     ASSERT_EQ(found.size(), 1u) << writing.name;
     EXPECT_EQ(found[0].size(), 12u + 7158u) << writing.name;

@@ -29,10 +29,17 @@ std::string NameOf(CodePageId page) {
   return "CP" + std::to_string(page);
 }
 
-// The converter of this page takes the backslash for the currency sign that old screens showed in
-// its place; drawings mean the backslash.
-constexpr CodePageId kJohab = 1361;
-constexpr wchar_t kWonSign = 0x20A9;
+// What the converters make of a character with which drawings write paths and codes.
+struct Mistaken {
+  CodePageId page;
+  wchar_t converted;
+  wchar_t meant;
+};
+
+constexpr Mistaken kMistaken[] = {
+    {1361, 0x20A9, L'\\'},  // the currency sign that old screens showed in its place
+    {864, 0x066A, L'%'},    // the Arabic percent sign
+};
 
 // Owns one conversion of the C library, from the page to UTF-8.
 class Iconv : public CodePageConverter {
@@ -68,7 +75,9 @@ class Iconv : public CodePageConverter {
     std::size_t room = sizeof utf8;
     const bool stopped = iconv(handle_, in, left, &out, &room) == static_cast<std::size_t>(-1);
     std::wstring piece = ZDXEngine::WideFromUtf8({utf8, static_cast<std::size_t>(out - utf8)});
-    if (page_ == kJohab) std::replace(piece.begin(), piece.end(), kWonSign, L'\\');
+    for (const Mistaken& row : kMistaken) {
+      if (row.page == page_) std::replace(piece.begin(), piece.end(), row.converted, row.meant);
+    }
     text += piece;
     return stopped;
   }

@@ -7,6 +7,22 @@
 namespace zdx {
 namespace {
 
+// Pages of a standard that gives 0x80 to 0x9F to control characters.
+constexpr UINT kFirstWithControls = 28591;
+constexpr UINT kLastWithControls = 28599;
+
+// The page in which private characters, up to this one, stand for what users may define.
+constexpr UINT kJapanese = 932;
+constexpr wchar_t kLastOfUsers = 0xE757;
+
+// The system makes control and private characters of bytes that a page gives no meaning.
+bool MeansNothing(wchar_t character, UINT page) {
+  const bool isUsers = page == kJapanese && character <= kLastOfUsers;
+  if (character >= 0xE000 && character <= 0xF8FF && !isUsers) return true;
+  const bool hasControls = page >= kFirstWithControls && page <= kLastWithControls;
+  return character >= 0x80 && character <= 0x9F && !hasControls;
+}
+
 // The system's own conversion; a character has one byte or two.
 class SystemConverter : public CodePageConverter {
  public:
@@ -38,12 +54,16 @@ class SystemConverter : public CodePageConverter {
     return size;
   }
 
+  // False if some of `bytes` mean nothing; `text` is as it was then.
   bool Append(std::string_view bytes, std::wstring& text) const {
     wchar_t piece[kPieceSize];
     const int length = MultiByteToWideChar(page_, MB_ERR_INVALID_CHARS, bytes.data(),
                                            static_cast<int>(bytes.size()), piece, kPieceSize);
+    if (length <= 0) return false;
+    const auto nothing = [this](wchar_t character) { return MeansNothing(character, page_); };
+    if (std::any_of(piece, piece + length, nothing)) return false;
     text.append(piece, static_cast<std::size_t>(length));
-    return length > 0;
+    return true;
   }
 
   std::size_t ByCharacter(std::string_view bytes, std::wstring& text) const {

@@ -5,29 +5,29 @@
 namespace os {
 namespace {
 
-constinit platform::ProviderSlot<FileProvider> slot;
+constinit platform::ProviderSlot<FileProvider> fileSlot;
 
 }  // namespace
 
-FileProvider* InstallFileProvider(FileProvider* provider) { return slot.Install(provider); }
+FileProvider* InstallFileProvider(FileProvider* provider) { return fileSlot.Install(provider); }
 
 FileHandle CreateFileW(const wchar_t* path, std::uint32_t access, std::uint32_t share,
                        void* security, std::uint32_t disposition, std::uint32_t attributes,
                        FileHandle templateFile) {
-  return slot.Get().CreateFileW(path, access, share, security, disposition, attributes,
-                                templateFile);
+  return fileSlot.Get().CreateFileW(path, access, share, security, disposition, attributes,
+                                    templateFile);
 }
 
 int ReadFile(FileHandle file, void* buffer, std::uint32_t size, std::uint32_t* count,
              void* overlapped) {
-  return slot.Get().ReadFile(file, buffer, size, count, overlapped);
+  return fileSlot.Get().ReadFile(file, buffer, size, count, overlapped);
 }
 
 std::uint32_t SetFilePointer(FileHandle file, std::int32_t distance, std::int32_t* distanceHigh,
                              std::uint32_t method) {
-  return slot.Get().SetFilePointer(file, distance, distanceHigh, method);
+  return fileSlot.Get().SetFilePointer(file, distance, distanceHigh, method);
 }
 
-int CloseHandle(FileHandle file) { return slot.Get().CloseHandle(file); }
+int CloseHandle(FileHandle file) { return fileSlot.Get().CloseHandle(file); }
 
 }  // namespace os

@@ -15,7 +15,7 @@ using namespace std::string_literals;
 using testing::ElementsAre;
 using testing::Pair;
 
-const std::string kSentinel(::dxf::kBinarySentinel);
+const std::string kBinaryStart(::dxf::kBinarySentinel);
 
 // The codes and values of the object's tags.
 std::vector<std::pair<int, std::string>> TagsOf(const TagStream& stream, std::size_t body,
@@ -139,7 +139,7 @@ TEST(TextTags, UnknownCodesAreTagsLikeOthers) {
 }
 
 // One tag of each kind, as a file with two-byte codes has them.
-const std::string kKinds = kSentinel + "\x00\x00LINE\0"s + "\x02\x00name\0"s +
+const std::string kKinds = kBinaryStart + "\x00\x00LINE\0"s + "\x02\x00name\0"s +
                            "\x0A\x00\x00\x00\x00\x00\x00\x00\xF0\x3F"s + "\x46\x00\x01\x02"s +
                            "\x5A\x00\x01\x02\x03\x04"s +
                            "\xA0\x00\x01\x02\x03\x04\x05\x06\x07\x08"s + "\x22\x01\x01"s +
@@ -157,7 +157,7 @@ TEST(BinaryTags, EachKindHasItsSize) {
 }
 
 TEST(BinaryTags, TheOldFormHasCodesOfOneByteAndAnEscapeForLongOnes) {
-  const std::string bytes = kSentinel + "\x00LINE\0"s + "\x08wall\0"s + "\xFF\xE8\x03text\0"s +
+  const std::string bytes = kBinaryStart + "\x00LINE\0"s + "\x08wall\0"s + "\xFF\xE8\x03text\0"s +
                             "\x00"
                             "EOF\0"s;
   const TagStream stream(bytes, Form::kBinaryOneByte);
@@ -167,7 +167,7 @@ TEST(BinaryTags, TheOldFormHasCodesOfOneByteAndAnEscapeForLongOnes) {
 }
 
 TEST(BinaryTags, EveryCutIsTheEndOrDamageNeverMore) {
-  for (std::size_t size = kSentinel.size(); size < kKinds.size(); ++size) {
+  for (std::size_t size = kBinaryStart.size(); size < kKinds.size(); ++size) {
     // A copy of exactly that size, so that a read past it is seen.
     const std::vector<char> cut(kKinds.begin(), kKinds.begin() + static_cast<std::ptrdiff_t>(size));
     const TagStream stream({cut.data(), cut.size()}, Form::kBinaryTwoByte);
@@ -178,7 +178,7 @@ TEST(BinaryTags, EveryCutIsTheEndOrDamageNeverMore) {
 }
 
 TEST(BinaryTags, ATextWithoutItsEndIsDamage) {
-  const std::string bytes = kSentinel + "\x02\x00name"s;
+  const std::string bytes = kBinaryStart + "\x02\x00name"s;
   const TagStream stream(bytes, Form::kBinaryTwoByte);
   std::size_t at = stream.Begin();
   Tag tag;
@@ -186,7 +186,7 @@ TEST(BinaryTags, ATextWithoutItsEndIsDamage) {
 }
 
 TEST(BinaryTags, BytesThatClaimMoreThanIsLeftAreDamage) {
-  const std::string bytes = kSentinel +
+  const std::string bytes = kBinaryStart +
                             "\x36\x01\xFF"
                             "ab"s;
   const TagStream stream(bytes, Form::kBinaryTwoByte);
@@ -197,7 +197,7 @@ TEST(BinaryTags, BytesThatClaimMoreThanIsLeftAreDamage) {
 
 TEST(BinaryTags, BehindACodeOfUnknownKindTheNextObjectIsFound) {
   const std::string bytes =
-      kSentinel + "\x00\x00LINE\0"s + "\x50\x00?????"s + "\x00\x00LAYER\0"s + "\x02\x00walls\0"s;
+      kBinaryStart + "\x00\x00LINE\0"s + "\x50\x00?????"s + "\x00\x00LAYER\0"s + "\x02\x00walls\0"s;
   const TagStream stream(bytes, Form::kBinaryTwoByte);
   EXPECT_THAT(TypesOf(stream), ElementsAre("LINE", "LAYER"));
 }
@@ -205,7 +205,7 @@ TEST(BinaryTags, BehindACodeOfUnknownKindTheNextObjectIsFound) {
 TEST(BinaryTags, DamageAtTheVeryEndFindsNothingMore) {
   for (const Form form : {Form::kBinaryOneByte, Form::kBinaryTwoByte}) {
     for (const std::string& tail : {"\x50"s, "\x50\x00"s, "\x50\x00\x00"s, "\x50\x00\x00\x00"s}) {
-      const std::string bytes = kSentinel + tail;
+      const std::string bytes = kBinaryStart + tail;
       EXPECT_THAT(TypesOf(TagStream(bytes, form)), ElementsAre());
     }
   }

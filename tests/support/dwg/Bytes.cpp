@@ -22,6 +22,8 @@ void AppendNumber(std::string& bytes, std::uint64_t number, std::size_t size) {
   }
 }
 
+void AppendByte(std::string& bytes, std::size_t number) { AppendNumber(bytes, number, 1); }
+
 void PutNumber(std::string& bytes, std::size_t at, std::uint64_t number, std::size_t size) {
   bytes.replace(at, size, NumberBytes(number, size));
 }

@@ -10,6 +10,7 @@ namespace dwg {
 // `number`'s low `size` bytes, low byte first.
 std::string NumberBytes(std::uint64_t number, std::size_t size);
 void AppendNumber(std::string& bytes, std::uint64_t number, std::size_t size);
+void AppendByte(std::string& bytes, std::size_t number);
 // Overwrites `size` bytes from `at` on.
 void PutNumber(std::string& bytes, std::size_t at, std::uint64_t number, std::size_t size);
 

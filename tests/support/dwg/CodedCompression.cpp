@@ -9,10 +9,10 @@ namespace dwg {
 namespace {
 
 constexpr std::size_t kBlock = 32;
-constexpr std::size_t kShortestRun = 8;
-constexpr std::size_t kLongestShortRun = 22;
-constexpr std::size_t kLongest = 0x100FF;
-constexpr std::size_t kFarthest = 0xFFFF;
+constexpr std::size_t kShortestCodedRun = 8;
+constexpr std::size_t kLongestShortCodedRun = 22;
+constexpr std::size_t kLongestCodedCopy = 0x100FF;
+constexpr std::size_t kFarthestCodedCopy = 0xFFFF;
 
 struct Piece {
   std::size_t size;
@@ -78,14 +78,10 @@ void AppendLiterals(std::string& stream, std::string_view literals) {
   stream += placed;
 }
 
-void AppendByte(std::string& stream, std::size_t value) {
-  stream += static_cast<char>(value & 0xFF);
-}
-
 void AppendRunLength(std::string& stream, std::size_t length) {
-  if (length <= kLongestShortRun) return AppendByte(stream, length - kShortestRun);
+  if (length <= kLongestShortCodedRun) return AppendByte(stream, length - kShortestCodedRun);
   AppendByte(stream, 0x0F);
-  std::size_t rest = length - kLongestShortRun - 1;
+  std::size_t rest = length - kLongestShortCodedRun - 1;
   AppendByte(stream, std::min<std::size_t>(rest, 0xFF));
   if (rest < 0xFF) return;
   for (rest -= 0xFF; rest >= 0xFFFF; rest -= 0xFFFF) AppendNumber(stream, 0xFFFF, 2);
@@ -94,7 +90,7 @@ void AppendRunLength(std::string& stream, std::size_t length) {
 
 // The run that a stream begins with.
 void AppendFirstRun(std::string& stream, std::string_view literals) {
-  if (literals.size() < kShortestRun) {
+  if (literals.size() < kShortestCodedRun) {
     stream.append("\x20\0\0", 3);
     AppendByte(stream, literals.size());
   } else {
@@ -137,12 +133,13 @@ void AppendCopy(std::string& stream, const Repeat& copy, std::size_t literals, b
 
 std::string CodedCompressed(std::string_view bytes, Squeeze squeeze) {
   std::vector<Repeat> repeats = {{bytes}};
-  if (squeeze == Squeeze::Repeats) repeats = FindRepeats(bytes, {3, kLongest, kFarthest, 1});
+  if (squeeze == Squeeze::Repeats)
+    repeats = FindRepeats(bytes, {3, kLongestCodedCopy, kFarthestCodedCopy, 1});
   std::string stream;
   AppendFirstRun(stream, repeats.front().literals);
   for (std::size_t i = 0; i + 1 < repeats.size(); ++i) {
     const std::string_view literals = repeats[i + 1].literals;
-    const bool isRun = literals.size() >= kShortestRun;
+    const bool isRun = literals.size() >= kShortestCodedRun;
     const bool isBehindCopy = i > 0 && repeats[i].literals.empty();
     AppendCopy(stream, repeats[i], isRun ? 0 : literals.size(), isBehindCopy);
     if (isRun) AppendRunLength(stream, literals.size());

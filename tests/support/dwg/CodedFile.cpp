@@ -36,7 +36,7 @@ constexpr KnownSection kHashes[] = {
     {kPreviewSection, 0x40AA0473},       {kAppInfoSection, 0x3FA0043E},
     {kAppInfoHistorySection, 0x96DE0737}};
 
-struct Page {
+struct CodedPage {
   std::size_t id;
   std::size_t size;
   std::size_t offset;
@@ -45,12 +45,12 @@ struct Page {
   std::string stored;
 };
 
-struct Section {
+struct CodedSection {
   std::string name;
   std::size_t size = 0;
   std::size_t pageSize = kUsualPageSize;
   bool isCoded = true;
-  std::vector<Page> pages = {};
+  std::vector<CodedPage> pages = {};
 };
 
 std::string Shortest(const std::string& bytes, Squeeze squeeze) {
@@ -100,12 +100,12 @@ void AppendNumbers(std::string& bytes, std::initializer_list<std::uint64_t> numb
   for (const std::uint64_t number : numbers) AppendNumber(bytes, number, 8);
 }
 
-void AppendSection(std::string& map, const Section& section) {
+void AppendSection(std::string& map, const CodedSection& section) {
   const std::string name = section.name.empty() ? "" : Utf16(section.name) + std::string(2, '\0');
   AppendNumbers(map, {section.size, section.pageSize, 0, HashOf(section.name), name.size(), 0,
                       section.isCoded ? 4u : 1u, section.pages.size()});
   map += name;
-  for (const Page& page : section.pages) {
+  for (const CodedPage& page : section.pages) {
     AppendNumbers(map, {page.offset, RoundedUp(page.contents.size(), kReserveUnit), page.id,
                         page.contents.size(), page.stored.size(), CodedPageSum(page.contents),
                         CodedCrc64(page.stored)});
@@ -133,7 +133,7 @@ class CodedBody {
   explicit CodedBody(const Writing& writing) : writing_(writing) {}
 
   void AddCoded(const char* name, const std::string& bytes) {
-    Section section{name, bytes.size()};
+    CodedSection section{name, bytes.size()};
     if (name == std::string_view(kObjectsSection) && writing_.objectPageSize != 0) {
       section.pageSize = writing_.objectPageSize;
     }
@@ -148,7 +148,7 @@ class CodedBody {
 
   // As it is, in one page of a multiple of `unit`, with room for the bytes that would protect it.
   void AddPlain(const char* name, const std::string& bytes, std::size_t unit) {
-    Section section{name, bytes.size(), RoundedUp(bytes.size(), unit), false};
+    CodedSection section{name, bytes.size(), RoundedUp(bytes.size(), unit), false};
     const std::size_t parity =
         WordCount(section.pageSize, kDataWords) * (kWordSize - kDataWords.dataSize);
     AddPage(section, bytes, RoundedUp(section.pageSize + parity, kPageUnit), 0, bytes, bytes);
@@ -164,7 +164,7 @@ class CodedBody {
   std::string Finish(std::size_t mapPage);
 
  private:
-  void AddPage(Section& section, const std::string& page, std::size_t size, std::size_t offset,
+  void AddPage(CodedSection& section, const std::string& page, std::size_t size, std::size_t offset,
                const std::string& contents, const std::string& stored) {
     section.pages.push_back({sizes_.size() + 1, size, offset, contents, stored});
     bytes_ += Resized(page, size);
@@ -178,13 +178,13 @@ class CodedBody {
   std::string bytes_;
   // Of the pages behind the page maps, whose ids count from 1.
   std::vector<std::size_t> sizes_;
-  std::vector<Section> sections_;
+  std::vector<CodedSection> sections_;
 };
 
 std::string CodedBody::SectionMap() const {
   std::string map;
-  for (const Section& section : sections_) AppendSection(map, section);
-  AppendSection(map, Section());
+  for (const CodedSection& section : sections_) AppendSection(map, section);
+  AppendSection(map, CodedSection());
   return map;
 }
 

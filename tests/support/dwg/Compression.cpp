@@ -1,5 +1,6 @@
 #include "support/dwg/Compression.h"
 
+#include "support/dwg/Bytes.h"
 #include "support/dwg/Repeats.h"
 
 namespace dwg {
@@ -13,10 +14,6 @@ constexpr std::size_t kMiddle = 16384;
 // The farthest that one kind of instruction without a flag reaches.
 constexpr std::size_t kFarthest = 0x7FFF;
 constexpr std::size_t kLongest = 0x7000;
-
-void AppendByte(std::string& stream, std::size_t value) {
-  stream += static_cast<char>(value & 0xFF);
-}
 
 // A zero byte for each 255, then the rest, which is never zero.
 void AppendLong(std::string& stream, std::size_t length) {

@@ -4,8 +4,6 @@
 namespace dwg {
 namespace {
 
-constexpr int kLineWeightByBlock = -2;
-
 void PutOldStyle(const Drawing& drawing, Fields& fields) {
   const drawing::SettingsSpec& settings = drawing.spec.settings;
   PutOldDimensionModes(fields);

@@ -6,8 +6,6 @@
 namespace dwg {
 namespace {
 
-constexpr int kHexadecimal = 16;
-
 drawing::PageEncoder EncoderFor(const DrawingSpec& spec, Version version) {
   if (drawing::HasUnicodeTexts(version)) return drawing::PageEncoder();
   return drawing::PageEncoder(spec.codePage);

@@ -9,7 +9,6 @@
 namespace dwg {
 namespace {
 
-constexpr int kByLayer = 256;
 constexpr unsigned kLineWeightByLayer = 29;
 constexpr unsigned kClosed = 512;
 // Bits of a text whose values are the usual ones.

@@ -6,7 +6,6 @@ namespace {
 constexpr std::int64_t kColourByLayer = 0xC0000000;
 constexpr std::int64_t kColourByBlock = 0xC1000000;
 constexpr std::int64_t kColourOfIndex = 0xC3000000;
-constexpr int kByLayer = 256;
 constexpr std::size_t kLongLength = 0x8000;
 
 constexpr unsigned kNext = 6;

@@ -12,6 +12,16 @@ namespace dwg {
 
 using Handle = std::uint64_t;
 
+// The base of the digits that tell a handle.
+inline constexpr int kHexadecimal = 16;
+
+// A colour's index and a line weight that come from elsewhere.
+inline constexpr int kByLayer = 256;
+inline constexpr int kLineWeightByBlock = -2;
+
+// Where the corners of an area that holds nothing lie.
+inline constexpr double kFarAway = 1e20;
+
 // The codes of references.
 enum class Link : unsigned { SoftOwner = 2, HardOwner = 3, SoftPointer = 4, HardPointer = 5 };
 

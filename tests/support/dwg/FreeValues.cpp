@@ -7,8 +7,6 @@
 namespace dwg {
 namespace {
 
-constexpr int kHexadecimal = 16;
-
 enum class Kind { Text, Point, Real, Short, Long, LongLong, Byte, Chunk, Handle };
 
 struct CodeRange {

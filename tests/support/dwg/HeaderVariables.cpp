@@ -10,10 +10,7 @@
 namespace dwg {
 namespace {
 
-constexpr double kFarAway = 1e20;
-constexpr int kByLayer = 256;
 constexpr double kQuarter = std::numbers::pi / 2;
-constexpr int kLineWeightByBlock = -2;
 // Of metres.
 constexpr int kInsertUnits = 6;
 constexpr int kFlags = 10781;

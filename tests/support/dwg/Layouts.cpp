@@ -5,7 +5,6 @@ namespace dwg {
 namespace {
 
 constexpr int kModelFlags = 1024;
-constexpr double kFarAway = 1e20;
 constexpr double kPaperWidth = 420.0;
 constexpr double kPaperDepth = 297.0;
 

@@ -12,7 +12,7 @@ void AppendHighFirst(std::string& bytes, std::size_t number) {
 }
 
 // The size counts itself but not the check.
-std::string Page(const std::string& pairs) {
+std::string PageOf(const std::string& pairs) {
   std::string page;
   AppendHighFirst(page, pairs.size() + 2);
   page += pairs;
@@ -41,7 +41,7 @@ std::string ObjectMap(const std::map<Handle, std::size_t>& offsets, std::size_t 
     const auto offset = static_cast<std::int64_t>(place);
     std::string pair = Umc(handle - lastHandle) + Mc(offset - lastOffset);
     if (!pairs.empty() && 2 + pairs.size() + pair.size() > pageSize) {
-      map += Page(pairs);
+      map += PageOf(pairs);
       pairs.clear();
       pair = Umc(handle) + Mc(offset);
     }
@@ -49,8 +49,8 @@ std::string ObjectMap(const std::map<Handle, std::size_t>& offsets, std::size_t 
     lastHandle = handle;
     lastOffset = offset;
   }
-  if (!pairs.empty()) map += Page(pairs);
-  return map + Page({});
+  if (!pairs.empty()) map += PageOf(pairs);
+  return map + PageOf({});
 }
 
 }  // namespace dwg

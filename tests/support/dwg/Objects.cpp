@@ -5,7 +5,6 @@
 namespace dwg {
 namespace {
 
-constexpr int kHexadecimal = 16;
 // Of the marker and the cloning flag that a record's tags begin with in the other format.
 constexpr std::ptrdiff_t kRecordStart = 2;
 

@@ -6,8 +6,6 @@
 namespace dwg {
 namespace {
 
-constexpr int kHexadecimal = 16;
-constexpr int kByLayer = 256;
 constexpr int kLinetypeByLayer = 0x7FFF;
 constexpr double kQuarter = std::numbers::pi / 2;
 

@@ -8,10 +8,6 @@ namespace {
 
 constexpr std::size_t kFirstPage = 0x480;
 
-std::string RoundedUp(std::string bytes, std::size_t unit) {
-  return Padded(bytes, (bytes.size() + unit - 1) / unit * unit);
-}
-
 void Put(std::string& bytes, std::size_t at, std::uint64_t number) {
   bytes.replace(at, 8, Low64(number));
 }

@@ -25,6 +25,10 @@ std::string Padded(std::string bytes, std::size_t size) {
   return bytes;
 }
 
+std::string RoundedUp(std::string bytes, std::size_t unit) {
+  return Padded(bytes, (bytes.size() + unit - 1) / unit * unit);
+}
+
 std::string Damaged(std::string bytes, std::size_t at) {
   bytes.at(at) = static_cast<char>(bytes.at(at) ^ 0x5A);
   return bytes;

@@ -20,6 +20,8 @@ std::string High16(unsigned value);
 std::string Wide(std::string_view text);
 // `bytes` with zeros behind them, up to `size` bytes.
 std::string Padded(std::string bytes, std::size_t size);
+// Padded to a multiple of `unit`.
+std::string RoundedUp(std::string bytes, std::size_t unit);
 // `bytes` with the one at `at` changed.
 std::string Damaged(std::string bytes, std::size_t at);
 // Bytes that don't repeat soon, always the same.

@@ -40,10 +40,6 @@ std::string RunOf(const std::string& bytes) {
   return '\0' + Extension(bytes.size() - 18) + bytes;
 }
 
-std::string RoundedUp(std::string bytes, std::size_t unit) {
-  return Padded(bytes, (bytes.size() + unit - 1) / unit * unit);
-}
-
 std::string DataPage(const PagedPage& page, std::size_t section, std::size_t address) {
   const std::size_t size = (0x20 + page.stored.size() + 0x1F) / 0x20 * 0x20;
   std::string head = Low32(0x4163043B) + Low32(section) + Low32(page.stored.size()) + Low32(size) +

@@ -66,4 +66,6 @@ std::string Shown(const wchar_t* text) {
 std::string Shown(const std::wstring& text) { return ZDXEngine::Utf8FromWide(text); }
 std::string Shown(bool value) { return value ? "true" : "false"; }
 
+std::string Given(const void* pointer) { return pointer == nullptr ? "null" : "given"; }
+
 }  // namespace scripted

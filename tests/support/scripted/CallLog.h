@@ -76,6 +76,7 @@ std::string Shown(const std::wstring& text);
 std::string Shown(bool value);
 std::string Shown(std::integral auto value) { return std::to_string(value); }
 inline std::string Shown(const std::string& words) { return words; }
+std::string Given(const void* pointer);
 
 // "a, b, c".
 template <class First, class... Rest>

@@ -14,8 +14,6 @@ std::string Hex(std::uint32_t value) {
   return words.str();
 }
 
-std::string Given(const void* pointer) { return pointer == nullptr ? "null" : "given"; }
-
 }  // namespace
 
 os::FileHandle Files::CreateFileW(const wchar_t* path, std::uint32_t access, std::uint32_t share,

@@ -5,11 +5,6 @@
 #include <utility>
 
 namespace scripted {
-namespace {
-
-std::string Given(const void* pointer) { return pointer == nullptr ? "null" : "given"; }
-
-}  // namespace
 
 os::HBITMAP Graphics::NewBitmap() { return static_cast<os::HBITMAP>(New("bitmap")); }
 os::HPALETTE Graphics::NewPalette() { return static_cast<os::HPALETTE>(New("palette")); }

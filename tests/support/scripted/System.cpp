@@ -4,7 +4,8 @@
 #include <cstdlib>
 #include <cstring>
 #include <cwchar>
-#include <regex>
+#include <string>
+#include <string_view>
 
 namespace scripted {
 namespace {
@@ -42,18 +43,25 @@ std::string Words(const VARIANT& variant) {
   }
 }
 
+constexpr std::wstring_view kIdShape = L"{xxxxxxxx-xxxx-xxxx-xxxx-xxxxxxxxxxxx}";
+
 bool ScanId(const std::wstring& text, GUID& id) {
-  static const std::wregex shape(
-      L"\\{([0-9a-fA-F]{8})-([0-9a-fA-F]{4})-([0-9a-fA-F]{4})-"
-      L"([0-9a-fA-F]{4})-([0-9a-fA-F]{12})\\}");
-  std::wsmatch parts;
-  if (!std::regex_match(text, parts, shape)) return false;
-  id.Data1 = static_cast<std::uint32_t>(std::stoul(parts[1], nullptr, 16));
-  id.Data2 = static_cast<std::uint16_t>(std::stoul(parts[2], nullptr, 16));
-  id.Data3 = static_cast<std::uint16_t>(std::stoul(parts[3], nullptr, 16));
-  const std::wstring rest = parts[4].str() + parts[5].str();
+  if (text.size() != kIdShape.size()) return false;
+  std::string digits;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const bool isDigit =
+        std::wstring_view(L"0123456789abcdefABCDEF").find(text[i]) != std::wstring_view::npos;
+    if (kIdShape[i] == L'x' ? !isDigit : text[i] != kIdShape[i]) return false;
+    if (isDigit) digits.push_back(static_cast<char>(text[i]));
+  }
+  const auto number = [&digits](std::size_t at, std::size_t size) {
+    return std::stoul(digits.substr(at, size), nullptr, 16);
+  };
+  id.Data1 = static_cast<std::uint32_t>(number(0, 8));
+  id.Data2 = static_cast<std::uint16_t>(number(8, 4));
+  id.Data3 = static_cast<std::uint16_t>(number(12, 4));
   for (std::size_t i = 0; i < 8; ++i) {
-    id.Data4[i] = static_cast<std::uint8_t>(std::stoul(rest.substr(2 * i, 2), nullptr, 16));
+    id.Data4[i] = static_cast<std::uint8_t>(number(16 + 2 * i, 2));
   }
   return true;
 }

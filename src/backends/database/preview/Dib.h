@@ -13,6 +13,7 @@ namespace zdx::preview {
 
 // No picture that takes more bytes than this when it is unpacked is shown.
 inline constexpr std::uint64_t kMostUnpackedBytes = std::uint64_t{16} << 20;
+inline constexpr const wchar_t* kTooLarge = L"The picture is too large.";
 
 // Head, colour masks or colour table, and rows.  The head has 40 bytes and tells no compression, or
 // masks; biClrUsed is the size of the table.

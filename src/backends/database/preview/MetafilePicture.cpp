@@ -13,7 +13,7 @@ namespace {
 constexpr std::uint32_t kPlaceableKey = 0x9AC6CDD7;
 constexpr std::size_t kPlaceableHeadSize = 4 + 2 + 4 * 2 + 2 + 4 + 2;
 
-constexpr const wchar_t* kDamaged = L"The metafile is damaged.";
+constexpr const wchar_t* kDamagedMetafile = L"The metafile is damaged.";
 constexpr const wchar_t* kNoBitmap = L"The metafile draws no bitmap.";
 
 // How many bytes stand before the bitmap of such a record; nullopt if it never has one.
@@ -49,12 +49,12 @@ Showing ShowMetafile(std::string_view file) {
   const std::string_view bytes = WithoutPlaceableHead(file);
   if (bytes.size() < kMetafileHeaderSize ||
       LittleEndianAt<std::uint16_t>(bytes, 2) != kMetafileHeaderSize / 2) {
-    return kDamaged;
+    return kDamagedMetafile;
   }
   std::size_t at = kMetafileHeaderSize;
   while (bytes.size() - at >= kRecordHeadSize) {
     const std::uint64_t size = std::uint64_t{LittleEndianAt<std::uint32_t>(bytes, at)} * 2;
-    if (size < kRecordHeadSize || size > bytes.size() - at) return kDamaged;
+    if (size < kRecordHeadSize || size > bytes.size() - at) return kDamagedMetafile;
     const std::uint16_t function = LittleEndianAt<std::uint16_t>(bytes, at + 4);
     if (function == kEndOfMetafile) return kNoBitmap;
     const auto fields = FieldsOf(function);
@@ -65,7 +65,7 @@ Showing ShowMetafile(std::string_view file) {
     }
     at += static_cast<std::size_t>(size);
   }
-  return kDamaged;
+  return kDamagedMetafile;
 }
 
 }  // namespace zdx::preview

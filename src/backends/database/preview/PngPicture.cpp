@@ -10,8 +10,7 @@
 namespace zdx::preview {
 namespace {
 
-constexpr const wchar_t* kDamaged = L"The PNG picture is damaged.";
-constexpr const wchar_t* kTooLarge = L"The picture is too large.";
+constexpr const wchar_t* kDamagedPng = L"The PNG picture is damaged.";
 
 // In the first chunk, behind the signature of 8 bytes, length, name, width and height.
 constexpr std::size_t kDepthAt = 8 + 4 + 4 + 4 + 4;
@@ -36,7 +35,8 @@ class Image {
   Image& operator=(const Image&) = delete;
 
   Showing Show() {
-    if (!png_image_begin_read_from_memory(&image_, bytes_.data(), bytes_.size())) return kDamaged;
+    if (!png_image_begin_read_from_memory(&image_, bytes_.data(), bytes_.size()))
+      return kDamagedPng;
     // 16 bits mean the same scale of colours as 8 do.
     image_.flags |= PNG_IMAGE_FLAG_16BIT_sRGB;
     const std::uint64_t rowSize = std::uint64_t{image_.width} * 4;
@@ -71,7 +71,7 @@ class Image {
     image_.format = PNG_FORMAT_BGRA_COLORMAP;
     std::array<std::uint8_t, std::size_t{256}* 4> table = {};
     Dib pixels(Head(8, 0), {});
-    if (!Read(pixels.rows().data(), -RowSizeOf(8), table.data())) return kDamaged;
+    if (!Read(pixels.rows().data(), -RowSizeOf(8), table.data())) return kDamagedPng;
     std::string colours;
     for (std::size_t i = 0; i < table.size(); i += 4) {
       const unsigned opacity = i / 4 < image_.colormap_entries ? table[i + 3] : 255;
@@ -88,14 +88,14 @@ class Image {
   Showing ShowOpaque() {
     image_.format = PNG_FORMAT_BGR;
     Dib dib(Head(24, 0), {});
-    if (!Read(dib.rows().data(), -RowSizeOf(24), nullptr)) return kDamaged;
+    if (!Read(dib.rows().data(), -RowSizeOf(24), nullptr)) return kDamagedPng;
     return dib;
   }
 
   Showing ShowOnWhite() {
     image_.format = PNG_FORMAT_BGRA;
     std::vector<std::uint8_t> pixels(PNG_IMAGE_SIZE(image_));
-    if (!Read(pixels.data(), -RowSizeOf(32), nullptr)) return kDamaged;
+    if (!Read(pixels.data(), -RowSizeOf(32), nullptr)) return kDamagedPng;
     Dib dib(Head(24, 0), {});
     for (std::size_t y = 0; y < image_.height; ++y) {
       const std::uint8_t* from = pixels.data() + y * image_.width * 4;

@@ -16,7 +16,6 @@ using Packing = BitmapHead::Packing;
 constexpr const wchar_t* kOddMasks = L"The bitmap's colour masks can't be used.";
 constexpr const wchar_t* kRowsEnd = L"The bitmap's rows end too early.";
 constexpr const wchar_t* kOddRuns = L"The bitmap's packed rows are damaged.";
-constexpr const wchar_t* kTooLarge = L"The picture is too large.";
 
 os::BITMAPINFOHEADER HeadOf(const BitmapHead& head) {
   os::BITMAPINFOHEADER told{};

@@ -35,11 +35,11 @@ std::string File(const std::vector<Locator>& locators, std::uint32_t preview = 0
 
 const std::vector<Locator> kThree = {{0, 0x80, 0x10}, {1, 0x90, 0x20}, {2, 0xB0, 0x50}};
 
-Opened Open(const std::string& bytes) { return Opened(OpenFlat, bytes); }
+Opened OpenedFlat(const std::string& bytes) { return Opened(OpenFlat, bytes); }
 
 TEST(FlatContainer, SectionsStandWhereTheLocatorsSay) {
   const std::string bytes = File(kThree);
-  Opened file = Open(bytes);
+  Opened file = OpenedFlat(bytes);
   EXPECT_EQ(file.All(SectionId::kHeader), bytes.substr(0x80, 0x10));
   EXPECT_EQ(file.All(SectionId::kClasses), bytes.substr(0x90, 0x20));
   EXPECT_EQ(file.All(SectionId::kObjectMap), bytes.substr(0xB0, 0x50));
@@ -48,16 +48,16 @@ TEST(FlatContainer, SectionsStandWhereTheLocatorsSay) {
 
 TEST(FlatContainer, TheObjectsAreTheWholeFile) {
   const std::string bytes = File(kThree);
-  EXPECT_EQ(Open(bytes).All(SectionId::kObjects), bytes);
+  EXPECT_EQ(OpenedFlat(bytes).All(SectionId::kObjects), bytes);
 }
 
 TEST(FlatContainer, TellsWhereAByteStands) {
-  Opened file = Open(File(kThree));
+  Opened file = OpenedFlat(File(kThree));
   EXPECT_EQ(file.container().Find(SectionId::kClasses)->PlaceOf(3), 0x93u);
 }
 
 TEST(FlatContainer, BytesBehindASectionAreNotGiven) {
-  Opened file = Open(File(kThree));
+  Opened file = OpenedFlat(File(kThree));
   EXPECT_TRUE(file.Part(SectionId::kHeader, 0x10, 0));
   EXPECT_FALSE(file.Part(SectionId::kHeader, 0x0F, 2));
   EXPECT_FALSE(file.Part(SectionId::kHeader, 0x11, 0));
@@ -66,12 +66,12 @@ TEST(FlatContainer, BytesBehindASectionAreNotGiven) {
 
 TEST(FlatContainer, ThePreviewBeginsAtItsAddress) {
   const std::string bytes = File(kThree, 0xC0);
-  EXPECT_EQ(Open(bytes).Part(SectionId::kPreview, 0, 8), bytes.substr(0xC0, 8));
-  EXPECT_EQ(Open(File(kThree)).container().Find(SectionId::kPreview), nullptr);
+  EXPECT_EQ(OpenedFlat(bytes).Part(SectionId::kPreview, 0, 8), bytes.substr(0xC0, 8));
+  EXPECT_EQ(OpenedFlat(File(kThree)).container().Find(SectionId::kPreview), nullptr);
 }
 
 TEST(FlatContainer, APreviewOutsideOfTheFileIsTold) {
-  Opened file = Open(File(kThree, 0x100));
+  Opened file = OpenedFlat(File(kThree, 0x100));
   EXPECT_EQ(file.container().Find(SectionId::kPreview), nullptr);
   ASSERT_EQ(file.Warnings().size(), 1u);
   EXPECT_EQ(file.report().warnings[0].offset, 13u);
@@ -80,7 +80,7 @@ TEST(FlatContainer, APreviewOutsideOfTheFileIsTold) {
 TEST(FlatContainer, ASectionOutsideOfTheFileCostsOnlyItself) {
   for (const Locator& classes :
        {Locator{1, 0x90, 0x71}, Locator{1, 0x101, 0}, Locator{1, 0xFFFFFFFF, 0xFFFFFFFF}}) {
-    Opened file = Open(File({kThree[0], classes, kThree[2]}));
+    Opened file = OpenedFlat(File({kThree[0], classes, kThree[2]}));
     EXPECT_TRUE(file.All(SectionId::kHeader));
     EXPECT_EQ(file.container().Find(SectionId::kClasses), nullptr);
     EXPECT_TRUE(file.All(SectionId::kObjectMap));
@@ -90,19 +90,19 @@ TEST(FlatContainer, ASectionOutsideOfTheFileCostsOnlyItself) {
 }
 
 TEST(FlatContainer, SectionsOfOtherNumbersMayLieAnywhere) {
-  Opened file = Open(File({kThree[0], kThree[1], kThree[2], {3, 0, 0}, {5, 0xFFFF, 0xFFFF}}));
+  Opened file = OpenedFlat(File({kThree[0], kThree[1], kThree[2], {3, 0, 0}, {5, 0xFFFF, 0xFFFF}}));
   EXPECT_THAT(file.Warnings(), IsEmpty());
 }
 
 TEST(FlatContainer, AWrongCheckIsToldWithItsPlace) {
-  Opened file = Open(handmade::Damaged(File(kThree), 25 + 27));
+  Opened file = OpenedFlat(handmade::Damaged(File(kThree), 25 + 27));
   EXPECT_TRUE(file.All(SectionId::kHeader));
   EXPECT_THAT(file.Warnings(), ElementsAre(L"The checksum of the file's head is wrong."));
   EXPECT_EQ(file.report().warnings[0].offset, 25u + 27);
 }
 
 TEST(FlatContainer, AWrongMarkIsTold) {
-  Opened file = Open(handmade::Damaged(File(kThree), 25 + 27 + 2 + 5));
+  Opened file = OpenedFlat(handmade::Damaged(File(kThree), 25 + 27 + 2 + 5));
   EXPECT_THAT(file.Warnings(), ElementsAre(L"The mark behind the file's head is wrong."));
 }
 
@@ -110,16 +110,17 @@ TEST(FlatContainer, AListThatCannotBeRightIsARefusal) {
   std::string bytes = File(kThree);
   for (const std::uint32_t count : {0u, 33u, 0xFFFFFFFFu}) {
     bytes.replace(21, 4, Low32(count));
-    EXPECT_EQ(Open(bytes).Refusal(), L"The list of sections can't be right.");
+    EXPECT_EQ(OpenedFlat(bytes).Refusal(), L"The list of sections can't be right.");
   }
 }
 
 TEST(FlatContainer, AFileThatEndsWithinItsListIsARefusal) {
   const std::string bytes = File(kThree);
   for (std::size_t size = 28; size < 25 + 27 + 2; ++size) {
-    EXPECT_EQ(Open(bytes.substr(0, size)).Refusal(), L"The file ends within its list of sections.");
+    EXPECT_EQ(OpenedFlat(bytes.substr(0, size)).Refusal(),
+              L"The file ends within its list of sections.");
   }
-  EXPECT_EQ(Open(bytes.substr(0, 27)).Refusal(), L"The file ends within its head.");
+  EXPECT_EQ(OpenedFlat(bytes.substr(0, 27)).Refusal(), L"The file ends within its head.");
 }
 
 }  // namespace

@@ -24,35 +24,38 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 const std::string kPreview = Noise(0x60, 3);
-const std::string kFirst = Noise(0x80, 1);
-const std::string kSecond = Noise(0x80, 2);
+const std::string kFirstPaged = Noise(0x80, 1);
+const std::string kSecondPaged = Noise(0x80, 2);
 
 // A section of two compressed pages, and one that is stored plain.
 PagedSpec Spec() {
   PagedSpec spec;
-  spec.parts = {
-      {"AcDb:AcDbObjects", 0xC0, 0x80, true, {{OneRun(kFirst), 0}, {OneRun(kSecond), 0x80}}},
-      {"AcDb:Preview", 0x60, 0x80, false, {{Padded(kPreview, 0x80), 0}}}};
+  spec.parts = {{"AcDb:AcDbObjects",
+                 0xC0,
+                 0x80,
+                 true,
+                 {{OneRun(kFirstPaged), 0}, {OneRun(kSecondPaged), 0x80}}},
+                {"AcDb:Preview", 0x60, 0x80, false, {{Padded(kPreview, 0x80), 0}}}};
   return spec;
 }
 
-Opened Open(const std::string& bytes) { return Opened(OpenPaged, bytes); }
+Opened OpenedPaged(const std::string& bytes) { return Opened(OpenPaged, bytes); }
 
 TEST(PagedContainer, JoinsThePagesOfASection) {
-  Opened file = Open(MakePaged(Spec()).bytes);
-  EXPECT_EQ(file.All(SectionId::kObjects), kFirst + kSecond.substr(0, 0x40));
+  Opened file = OpenedPaged(MakePaged(Spec()).bytes);
+  EXPECT_EQ(file.All(SectionId::kObjects), kFirstPaged + kSecondPaged.substr(0, 0x40));
   EXPECT_EQ(file.All(SectionId::kPreview), kPreview);
   EXPECT_THAT(file.Warnings(), IsEmpty());
 }
 
 TEST(PagedContainer, ASectionThatTheMapDoesNotNameIsNotThere) {
-  Opened file = Open(MakePaged(Spec()).bytes);
+  Opened file = OpenedPaged(MakePaged(Spec()).bytes);
   EXPECT_EQ(file.container().Find(SectionId::kSummary), nullptr);
 }
 
 TEST(PagedContainer, TellsWhereAPlainByteAndWhereACompressedPageStands) {
   const PagedBytes made = MakePaged(Spec());
-  Opened file = Open(made.bytes);
+  Opened file = OpenedPaged(made.bytes);
   EXPECT_EQ(file.container().Find(SectionId::kPreview)->PlaceOf(5), made.pages[2] + 0x20 + 5);
   EXPECT_EQ(file.container().Find(SectionId::kObjects)->PlaceOf(0x85), made.pages[1]);
 }
@@ -60,8 +63,8 @@ TEST(PagedContainer, TellsWhereAPlainByteAndWhereACompressedPageStands) {
 TEST(PagedContainer, APageThatIsNotWrittenIsZeros) {
   PagedSpec spec = Spec();
   spec.parts[0].pages.erase(spec.parts[0].pages.begin());
-  Opened file = Open(MakePaged(spec).bytes);
-  EXPECT_EQ(file.All(SectionId::kObjects), std::string(0x80, '\0') + kSecond.substr(0, 0x40));
+  Opened file = OpenedPaged(MakePaged(spec).bytes);
+  EXPECT_EQ(file.All(SectionId::kObjects), std::string(0x80, '\0') + kSecondPaged.substr(0, 0x40));
   EXPECT_THAT(file.Warnings(), IsEmpty());
 }
 
@@ -69,7 +72,7 @@ TEST(PagedContainer, ASectionWithoutPagesIsZeros) {
   PagedSpec spec = Spec();
   spec.parts[0].pages.clear();
   spec.parts[0].size = 4;
-  EXPECT_EQ(Open(MakePaged(spec).bytes).All(SectionId::kObjects), std::string(4, '\0'));
+  EXPECT_EQ(OpenedPaged(MakePaged(spec).bytes).All(SectionId::kObjects), std::string(4, '\0'));
 }
 
 TEST(PagedContainer, GapsInThePageMapAreSteppedOver) {
@@ -79,13 +82,13 @@ TEST(PagedContainer, GapsInThePageMapAreSteppedOver) {
     map.replace(0, 8,
                 Low32(1) + Low32(0x80) + Low32(0xFFFFFFFF) + Low32(0x40) + Low64(0) + Low64(0));
   };
-  Opened file = Open(MakePaged(spec).bytes);
-  EXPECT_EQ(file.All(SectionId::kObjects), kFirst + kSecond.substr(0, 0x40));
+  Opened file = OpenedPaged(MakePaged(spec).bytes);
+  EXPECT_EQ(file.All(SectionId::kObjects), kFirstPaged + kSecondPaged.substr(0, 0x40));
 }
 
 TEST(PagedContainer, AWrongSumOfAPageIsToldWithItsPlaceAndThePageRead) {
   const PagedBytes made = MakePaged(Spec());
-  Opened file = Open(Damaged(made.bytes, made.pages[2] + 0x20));
+  Opened file = OpenedPaged(Damaged(made.bytes, made.pages[2] + 0x20));
   EXPECT_EQ(file.All(SectionId::kPreview), Damaged(kPreview, 0));
   EXPECT_THAT(file.Warnings(), ElementsAre(L"The checksum of a page is wrong."));
   EXPECT_EQ(file.report().warnings[0].offset, made.pages[2]);
@@ -93,7 +96,7 @@ TEST(PagedContainer, AWrongSumOfAPageIsToldWithItsPlaceAndThePageRead) {
 
 TEST(PagedContainer, AWrongSumOfAPagesHeadIsTold) {
   const PagedBytes made = MakePaged(Spec());
-  Opened file = Open(Damaged(made.bytes, made.pages[2] + 0x0C));
+  Opened file = OpenedPaged(Damaged(made.bytes, made.pages[2] + 0x0C));
   EXPECT_EQ(file.All(SectionId::kPreview), kPreview);
   EXPECT_THAT(file.Warnings(), ElementsAre(L"The checksum of a page's head is wrong."));
 }
@@ -103,8 +106,8 @@ TEST(PagedContainer, AWrongSumOfAPagesHeadIsTold) {
 TEST(PagedContainer, APageWithADamagedHeadIsReadAllTheSame) {
   const PagedBytes made = MakePaged(Spec());
   for (const std::size_t at : {0x00u, 0x04u, 0x10u}) {
-    Opened file = Open(Damaged(made.bytes, made.pages[0] + at));
-    EXPECT_EQ(file.Part(SectionId::kObjects, 0, 0x80), kFirst.substr(0, 0x80));
+    Opened file = OpenedPaged(Damaged(made.bytes, made.pages[0] + at));
+    EXPECT_EQ(file.Part(SectionId::kObjects, 0, 0x80), kFirstPaged.substr(0, 0x80));
     EXPECT_THAT(file.Warnings(), ElementsAre(L"The head of a page is damaged."));
     EXPECT_EQ(file.report().warnings[0].offset, made.pages[0]);
   }
@@ -112,24 +115,25 @@ TEST(PagedContainer, APageWithADamagedHeadIsReadAllTheSame) {
 
 TEST(PagedContainer, AnotherPageIsNotRead) {
   const PagedBytes made = MakePaged(Spec());
-  Opened file = Open(Damaged(Damaged(made.bytes, made.pages[0] + 0x04), made.pages[0] + 0x10));
+  Opened file =
+      OpenedPaged(Damaged(Damaged(made.bytes, made.pages[0] + 0x04), made.pages[0] + 0x10));
   EXPECT_EQ(file.Part(SectionId::kObjects, 0, 0x80), std::nullopt);
-  EXPECT_EQ(file.Part(SectionId::kObjects, 0x80, 0x40), kSecond.substr(0, 0x40));
+  EXPECT_EQ(file.Part(SectionId::kObjects, 0x80, 0x40), kSecondPaged.substr(0, 0x40));
   EXPECT_THAT(file.Warnings(), Contains(L"A page can't be read."));
 }
 
 // The section map tells it too.
 TEST(PagedContainer, AWrongStoredSizeInAPagesHeadCostsNothing) {
   const PagedBytes made = MakePaged(Spec());
-  Opened file = Open(Damaged(made.bytes, made.pages[0] + 0x0B));
-  EXPECT_EQ(file.Part(SectionId::kObjects, 0, 0x80), kFirst.substr(0, 0x80));
+  Opened file = OpenedPaged(Damaged(made.bytes, made.pages[0] + 0x0B));
+  EXPECT_EQ(file.Part(SectionId::kObjects, 0, 0x80), kFirstPaged.substr(0, 0x80));
   EXPECT_THAT(file.Warnings(), ElementsAre(L"The checksum of a page's head is wrong."));
 }
 
 TEST(PagedContainer, APageThatTheMapDoesNotPlaceIsTold) {
   PagedSpec spec = Spec();
   spec.parts[0].pages[0].id = 77;
-  Opened file = Open(MakePaged(spec).bytes);
+  Opened file = OpenedPaged(MakePaged(spec).bytes);
   EXPECT_EQ(file.Part(SectionId::kObjects, 0, 1), std::nullopt);
   EXPECT_THAT(file.Warnings(), ElementsAre(L"A page isn't in the file."));
 }
@@ -142,7 +146,7 @@ TEST(PagedContainer, DamagedCompressionKeepsWhatCameBefore) {
       "abcd"
       "\x21\x10\x00",
       8);
-  Opened file = Open(MakePaged(spec).bytes);
+  Opened file = OpenedPaged(MakePaged(spec).bytes);
   EXPECT_EQ(file.Part(SectionId::kObjects, 0, 4), "abcd");
   EXPECT_EQ(file.Part(SectionId::kObjects, 0, 5), std::nullopt);
   EXPECT_THAT(file.Warnings(), ElementsAre(L"The compressed data of a page are damaged."));
@@ -151,22 +155,22 @@ TEST(PagedContainer, DamagedCompressionKeepsWhatCameBefore) {
 TEST(PagedContainer, APageThatStaysShortGivesNothingBehindItsEnd) {
   PagedSpec spec = Spec();
   spec.parts[0].pages[0].stored = OneRun("abcd");
-  Opened file = Open(MakePaged(spec).bytes);
+  Opened file = OpenedPaged(MakePaged(spec).bytes);
   EXPECT_EQ(file.Part(SectionId::kObjects, 2, 2), "cd");
   EXPECT_EQ(file.Part(SectionId::kObjects, 0, 0x80), std::nullopt);
 }
 
 TEST(PagedContainer, AnUntouchedPageIsNotRead) {
   const PagedBytes made = MakePaged(Spec());
-  Opened file = Open(Damaged(made.bytes, made.pages[1]));
-  EXPECT_EQ(file.Part(SectionId::kObjects, 0, 0x80), kFirst);
+  Opened file = OpenedPaged(Damaged(made.bytes, made.pages[1]));
+  EXPECT_EQ(file.Part(SectionId::kObjects, 0, 0x80), kFirstPaged);
   EXPECT_THAT(file.Warnings(), IsEmpty());
 }
 
 TEST(PagedContainer, ADamagedHeaderIsReplacedByItsCopy) {
   const std::string bytes = MakePaged(Spec()).bytes;
   for (const std::size_t at : {0x80u, 0xD4u, 0xDCu, 0xE8u}) {
-    Opened file = Open(Damaged(bytes, at));
+    Opened file = OpenedPaged(Damaged(bytes, at));
     EXPECT_EQ(file.All(SectionId::kPreview), kPreview);
     EXPECT_THAT(file.Warnings(),
                 ElementsAre(L"The checksum of the file's header is wrong; its copy is used."));
@@ -176,7 +180,7 @@ TEST(PagedContainer, ADamagedHeaderIsReplacedByItsCopy) {
 
 TEST(PagedContainer, AHeaderWhoseCopyIsDamagedTooIsTakenAsItIs) {
   const std::string bytes = MakePaged(Spec()).bytes;
-  Opened file = Open(Damaged(Damaged(bytes, 0x80), bytes.size() - 0x6C));
+  Opened file = OpenedPaged(Damaged(Damaged(bytes, 0x80), bytes.size() - 0x6C));
   EXPECT_EQ(file.All(SectionId::kPreview), kPreview);
   EXPECT_THAT(file.Warnings(), ElementsAre(L"The checksum of the file's header is wrong."));
 }
@@ -184,7 +188,7 @@ TEST(PagedContainer, AHeaderWhoseCopyIsDamagedTooIsTakenAsItIs) {
 TEST(PagedContainer, AWrongSumOfAMapIsToldAndTheMapRead) {
   const PagedBytes made = MakePaged(Spec());
   for (const std::size_t at : {made.pageMapAt, made.sectionMapAt}) {
-    Opened file = Open(Damaged(made.bytes, at + 16));
+    Opened file = OpenedPaged(Damaged(made.bytes, at + 16));
     EXPECT_EQ(file.All(SectionId::kPreview), kPreview);
     ASSERT_EQ(file.Warnings().size(), 1u);
     EXPECT_EQ(file.report().warnings[0].offset, at);
@@ -193,10 +197,11 @@ TEST(PagedContainer, AWrongSumOfAMapIsToldAndTheMapRead) {
 
 TEST(PagedContainer, AMapOfAnotherTypeOrSizeIsARefusal) {
   const PagedBytes made = MakePaged(Spec());
-  EXPECT_EQ(Open(Damaged(made.bytes, made.pageMapAt)).Refusal(), L"The page map can't be read.");
-  EXPECT_EQ(Open(Damaged(made.bytes, made.pageMapAt + 11)).Refusal(),
+  EXPECT_EQ(OpenedPaged(Damaged(made.bytes, made.pageMapAt)).Refusal(),
             L"The page map can't be read.");
-  EXPECT_EQ(Open(Damaged(made.bytes, made.sectionMapAt)).Refusal(),
+  EXPECT_EQ(OpenedPaged(Damaged(made.bytes, made.pageMapAt + 11)).Refusal(),
+            L"The page map can't be read.");
+  EXPECT_EQ(OpenedPaged(Damaged(made.bytes, made.sectionMapAt)).Refusal(),
             L"The section map can't be read.");
 }
 
@@ -204,18 +209,18 @@ TEST(PagedContainer, APageMapOutsideOfTheFileIsARefusal) {
   PagedSpec spec = Spec();
   for (const std::uint64_t at : {std::uint64_t{0x100000}, ~std::uint64_t{0}, std::uint64_t{0}}) {
     spec.pageMapAt = at;
-    EXPECT_NE(Open(MakePaged(spec).bytes).Refusal(), L"");
+    EXPECT_NE(OpenedPaged(MakePaged(spec).bytes).Refusal(), L"");
   }
 }
 
 TEST(PagedContainer, ASectionMapWithoutAPageIsARefusal) {
   PagedSpec spec = Spec();
   spec.sectionMapId = 99;
-  EXPECT_EQ(Open(MakePaged(spec).bytes).Refusal(), L"The section map can't be read.");
+  EXPECT_EQ(OpenedPaged(MakePaged(spec).bytes).Refusal(), L"The section map can't be read.");
 }
 
 TEST(PagedContainer, AFileThatEndsWithinItsHeaderIsARefusal) {
-  EXPECT_EQ(Open(MakePaged(Spec()).bytes.substr(0, 0xE0)).Refusal(),
+  EXPECT_EQ(OpenedPaged(MakePaged(Spec()).bytes.substr(0, 0xE0)).Refusal(),
             L"The file's header can't be read.");
 }
 
@@ -223,14 +228,15 @@ TEST(PagedContainer, ASectionWithMorePagesThanTheMapHoldsKeepsThoseThatAreThere)
   PagedSpec spec = Spec();
   std::swap(spec.parts[0], spec.parts[1]);
   spec.parts[1].pageCount = 0xFFFFFFFF;
-  Opened file = Open(MakePaged(spec).bytes);
-  EXPECT_EQ(file.All(SectionId::kObjects), kFirst + kSecond.substr(0, 0x40));
+  Opened file = OpenedPaged(MakePaged(spec).bytes);
+  EXPECT_EQ(file.All(SectionId::kObjects), kFirstPaged + kSecondPaged.substr(0, 0x40));
 }
 
 TEST(PagedContainer, PagesMayStandInAnyOrder) {
   PagedSpec spec = Spec();
   std::swap(spec.parts[0].pages[0], spec.parts[0].pages[1]);
-  EXPECT_EQ(Open(MakePaged(spec).bytes).All(SectionId::kObjects), kFirst + kSecond.substr(0, 0x40));
+  EXPECT_EQ(OpenedPaged(MakePaged(spec).bytes).All(SectionId::kObjects),
+            kFirstPaged + kSecondPaged.substr(0, 0x40));
 }
 
 }  // namespace

@@ -14,11 +14,11 @@ using handmade::Low32;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr Format k1015 = {model::kVersion1015, 0};
-constexpr Format k1018 = {model::kVersion1018, 0};
-constexpr Format k1021 = {model::kVersion1021, 0};
+constexpr Format kClassesOf1015 = {model::kVersion1015, 0};
+constexpr Format kClassesOf1018 = {model::kVersion1018, 0};
+constexpr Format kClassesOf1021 = {model::kVersion1021, 0};
 
-std::string Framed(const Bits& fields) {
+std::string FramedClasses(const Bits& fields) {
   std::string bytes("\x8D\xA1\xC4\xB8\xC4\xA9\xF8\xC5\xC0\xDC\xF4\x5F\xE7\xCF\xB6\x8A", 16);
   bytes += Low32(fields.Bytes().size()) + fields.Bytes();
   return bytes + Low16(handmade::SlowCrc16(bytes.substr(16)));
@@ -67,7 +67,7 @@ class ClassTableTest : public testing::Test {
 };
 
 TEST_F(ClassTableTest, BelowAC1018ClassesComeUntilTheEnd) {
-  const ClassTable table = Read(Framed(OldClasses(k1015)), k1015);
+  const ClassTable table = Read(FramedClasses(OldClasses(kClassesOf1015)), kClassesOf1015);
   ASSERT_NE(table.Find(501), nullptr);
   EXPECT_EQ(table.Find(500)->className, "Wall");
   EXPECT_TRUE(table.Find(500)->isEntity);
@@ -78,16 +78,16 @@ TEST_F(ClassTableTest, BelowAC1018ClassesComeUntilTheEnd) {
 }
 
 TEST_F(ClassTableTest, FromAC1018TheHighestNumberStandsBeforeThem) {
-  Bits fields = OldClasses(k1018);
+  Bits fields = OldClasses(kClassesOf1018);
   // More bytes than fill the last one.
-  const ClassTable table = Read(Framed(fields.RL(0)), k1018);
+  const ClassTable table = Read(FramedClasses(fields.RL(0)), kClassesOf1018);
   ASSERT_NE(table.Find(501), nullptr);
   EXPECT_EQ(table.Find(501)->className, "List");
   EXPECT_THAT(TextsOf(report), IsEmpty());
 }
 
 TEST_F(ClassTableTest, FromAC1021TextsStandApart) {
-  const ClassTable table = Read(Framed(NewClasses()), k1021);
+  const ClassTable table = Read(FramedClasses(NewClasses()), kClassesOf1021);
   ASSERT_NE(table.Find(501), nullptr);
   EXPECT_EQ(table.Find(500)->className, handmade::Wide("Wall"));
   EXPECT_TRUE(table.Find(500)->isEntity);
@@ -96,7 +96,8 @@ TEST_F(ClassTableTest, FromAC1021TextsStandApart) {
 }
 
 TEST_F(ClassTableTest, AHighestNumberBelow500IsAnEmptyTable) {
-  EXPECT_EQ(Read(Framed(Bits().BS(499).RC(0).RC(0).B(true)), k1018).Find(500), nullptr);
+  EXPECT_EQ(Read(FramedClasses(Bits().BS(499).RC(0).RC(0).B(true)), kClassesOf1018).Find(500),
+            nullptr);
   EXPECT_THAT(TextsOf(report), IsEmpty());
 }
 
@@ -104,7 +105,7 @@ TEST_F(ClassTableTest, ATableThatEndsEarlyKeepsItsClasses) {
   Bits fields = Bits().BS(0xFFFF).RC(0).RC(0).B(true);
   fields.BS(500).BS(0).T("app").T("Wall").T("WALL").B(false).BS(0x1F2);
   fields.BL(3).BL(22).BL(0).BL(0).BL(0).BS(501);
-  const ClassTable table = Read(Framed(fields), k1018);
+  const ClassTable table = Read(FramedClasses(fields), kClassesOf1018);
   ASSERT_NE(table.Find(500), nullptr);
   EXPECT_EQ(table.Find(501), nullptr);
   EXPECT_THAT(TextsOf(report), ElementsAre(L"The list of classes ends early."));
@@ -116,7 +117,7 @@ TEST_F(ClassTableTest, OfARepeatedNumberTheFirstCounts) {
   for (const char* name : {"First", "Second"}) {
     fields.BS(500).BS(0).T("app").T(name).T("X").B(false).BS(0x1F3);
   }
-  EXPECT_EQ(Read(Framed(fields), k1015).Find(500)->className, "First");
+  EXPECT_EQ(Read(FramedClasses(fields), kClassesOf1015).Find(500)->className, "First");
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ using handmade::High16;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr std::uint64_t kPlace = 0x1000;
+constexpr std::uint64_t kMapPlace = 0x1000;
 
 // A page: its size with itself, the entries, the check.
 std::string Page(const std::string& entries) {
@@ -24,14 +24,14 @@ std::string Page(const std::string& entries) {
 const std::string kEnd = Page("");
 
 // Handles 5 and 7 at 100 and 36: steps 5 and 2, and 100 (two bytes for a positive 100) and -64.
-const std::string kFirst = Page("\x05\xE4\x00\x02\xC0\x40"s);
+const std::string kFirstPage = Page("\x05\xE4\x00\x02\xC0\x40"s);
 // Handle 0x90 at 10.
-const std::string kSecond = Page("\x90\x01\x0A");
+const std::string kSecondPage = Page("\x90\x01\x0A");
 
 class ObjectMapTest : public testing::Test {
  protected:
   ObjectMap& Of(const std::string& bytes) {
-    section.emplace(bytes, kPlace);
+    section.emplace(bytes, kMapPlace);
     return map.emplace(*section, report);
   }
 
@@ -41,14 +41,14 @@ class ObjectMapTest : public testing::Test {
 };
 
 TEST_F(ObjectMapTest, AnEntryIsTheStepFromTheOneBefore) {
-  ObjectMap& found = Of(kFirst + kEnd);
+  ObjectMap& found = Of(kFirstPage + kEnd);
   EXPECT_EQ(found.Find(5), 100u);
   EXPECT_EQ(found.Find(7), 36u);
   EXPECT_THAT(TextsOf(report), IsEmpty());
 }
 
 TEST_F(ObjectMapTest, APageBeginsAnewFromZero) {
-  ObjectMap& found = Of(kFirst + kSecond + kEnd);
+  ObjectMap& found = Of(kFirstPage + kSecondPage + kEnd);
   EXPECT_EQ(found.Find(0x90), 10u);
   EXPECT_EQ(found.Find(7), 36u);
   EXPECT_EQ(found.Find(5), 100u);
@@ -56,7 +56,7 @@ TEST_F(ObjectMapTest, APageBeginsAnewFromZero) {
 }
 
 TEST_F(ObjectMapTest, HandlesThatAreNotThereAreNotFound) {
-  ObjectMap& found = Of(kFirst + kSecond + kEnd);
+  ObjectMap& found = Of(kFirstPage + kSecondPage + kEnd);
   for (const model::Handle handle : {0u, 4u, 6u, 8u, 0x8Fu, 0x91u, 0xFFFFFFFFu}) {
     EXPECT_EQ(found.Find(handle), std::nullopt) << handle;
   }
@@ -90,7 +90,7 @@ TEST_F(ObjectMapTest, EveryHandleOfLongPagesIsFound) {
 }
 
 TEST_F(ObjectMapTest, PagesOutOfOrderAreReadAndTold) {
-  ObjectMap& found = Of(kSecond + kFirst + kEnd);
+  ObjectMap& found = Of(kSecondPage + kFirstPage + kEnd);
   EXPECT_EQ(found.Find(5), 100u);
   EXPECT_EQ(found.Find(7), 36u);
   EXPECT_EQ(found.Find(0x90), 10u);
@@ -99,26 +99,26 @@ TEST_F(ObjectMapTest, PagesOutOfOrderAreReadAndTold) {
 }
 
 TEST_F(ObjectMapTest, AWrongCheckIsToldWithItsPlaceAndThePageRead) {
-  const std::string damaged = handmade::Damaged(kSecond, kSecond.size() - 1);
-  ObjectMap& found = Of(kFirst + damaged + kEnd);
+  const std::string damaged = handmade::Damaged(kSecondPage, kSecondPage.size() - 1);
+  ObjectMap& found = Of(kFirstPage + damaged + kEnd);
   EXPECT_EQ(found.Find(5), 100u);
   EXPECT_THAT(TextsOf(report), IsEmpty());
   EXPECT_EQ(found.Find(0x90), 10u);
   ASSERT_THAT(TextsOf(report), ElementsAre(L"The checksum of a page of the object map is wrong."));
-  EXPECT_EQ(report.warnings[0].offset, kPlace + kFirst.size());
+  EXPECT_EQ(report.warnings[0].offset, kMapPlace + kFirstPage.size());
 }
 
 TEST_F(ObjectMapTest, AMapThatEndsEarlyKeepsItsPages) {
   for (const std::string& rest : {""s, "\0"s, "\0\1"s, "\0\0"s, "\x07\xF0 too short"s}) {
     report = {};
-    ObjectMap& found = Of(kFirst + rest);
+    ObjectMap& found = Of(kFirstPage + rest);
     EXPECT_EQ(found.Find(7), 36u);
     EXPECT_THAT(TextsOf(report), ElementsAre(L"The object map ends early."));
   }
 }
 
 TEST_F(ObjectMapTest, AnEntryThatIsCutEndsItsPage) {
-  ObjectMap& found = Of(Page("\x05\xE4\x00\x02\xC0"s) + kSecond + kEnd);
+  ObjectMap& found = Of(Page("\x05\xE4\x00\x02\xC0"s) + kSecondPage + kEnd);
   EXPECT_EQ(found.Find(5), 100u);
   EXPECT_EQ(found.Find(7), std::nullopt);
   EXPECT_EQ(found.Find(0x90), 10u);

@@ -15,7 +15,7 @@ constexpr Format k1015 = {model::kVersion1015, 0};
 constexpr Format k1024 = {model::kVersion1024, 0};
 
 // Size, contents, check; from AC1024 on the size of the handles behind the size.
-std::string Framed(const Bits& contents, const std::string& handleSize = "") {
+std::string FramedRecord(const Bits& contents, const std::string& handleSize = "") {
   const std::string body = contents.Bytes();
   const std::string bytes = Low16(body.size()) + handleSize + body;
   return bytes + Low16(handmade::SlowCrc16(bytes));
@@ -38,7 +38,7 @@ std::string Make(Format format, unsigned type, const Parts& parts) {
     const std::size_t bits = before.size() + parts.handles.size();
     const std::size_t filler = (8 - bits % 8) % 8;
     const std::string handleSize(1, static_cast<char>(parts.handles.size() + filler));
-    return Framed(before.Append(parts.handles), handleSize);
+    return FramedRecord(before.Append(parts.handles), handleSize);
   }
   before.BS(type);
   // Where the handles begin.
@@ -49,7 +49,7 @@ std::string Make(Format format, unsigned type, const Parts& parts) {
     const std::size_t at = before.size() + 16 + rest.size() + 32 + parts.fields.size();
     before.H(0, 0x2A).Append(rest).RL(static_cast<std::uint32_t>(at));
   }
-  return Framed(before.Append(parts.fields).Append(parts.handles));
+  return FramedRecord(before.Append(parts.fields).Append(parts.handles));
 }
 
 void ExpectFields(Record& record, bool isEntity) {
@@ -140,16 +140,16 @@ TEST(Record, ASizeOfHundredsOfMegabytesIsNotWhole) {
 }
 
 TEST(Record, HandlesThatBeginBehindTheRecordAreNotWhole) {
-  std::string bytes = Framed(Bits().BS(51).RL(0xFFFFFFFF).H(0, 0x2A).BS(0).RC(1));
+  std::string bytes = FramedRecord(Bits().BS(51).RL(0xFFFFFFFF).H(0, 0x2A).BS(0).RC(1));
   PlainSection section(bytes);
   EXPECT_FALSE(Record(section, 0, k1015).Whole());
-  bytes = Framed(Bits().Plain("00").RC(51).H(0, 0x2A).BS(0).RC(1), "\x7F");
+  bytes = FramedRecord(Bits().Plain("00").RC(51).H(0, 0x2A).BS(0).RC(1), "\x7F");
   PlainSection newer(bytes);
   EXPECT_FALSE(Record(newer, 0, k1024).Whole());
 }
 
 TEST(Record, HandlesThatBeginBeforeTheFieldsLeaveNoFields) {
-  PlainSection section(Framed(Bits().BS(51).RL(10).H(0, 0x2A).BS(0).RC(1)));
+  PlainSection section(FramedRecord(Bits().BS(51).RL(10).H(0, 0x2A).BS(0).RC(1)));
   Record record(section, 0, k1015);
   EXPECT_EQ(record.Fields(false), std::nullopt);
 }

@@ -14,8 +14,8 @@ using handmade::Low32;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr std::uint64_t kPlace = 0x700;
-const std::string kMark(16, 'M');
+constexpr std::uint64_t kBlockPlace = 0x700;
+const std::string kBlockMark(16, 'M');
 
 constexpr Format kPlain = {model::kVersion1018, 6};
 constexpr Format kWithPlace = {model::kVersion1021, 20};
@@ -24,8 +24,8 @@ constexpr Format kLongSize = {model::kVersion1024, 4};
 constexpr Format kAlwaysLong = {model::kVersion1032, 0};
 
 // Mark, size, fields, check, inverted mark.
-std::string Framed(const std::string& fields, bool hasLongSize) {
-  std::string bytes = kMark + Low32(fields.size()) + (hasLongSize ? Low32(0) : "") + fields;
+std::string FramedBlock(const std::string& fields, bool hasLongSize) {
+  std::string bytes = kBlockMark + Low32(fields.size()) + (hasLongSize ? Low32(0) : "") + fields;
   bytes += Low16(handmade::SlowCrc16(bytes.substr(16)));
   return bytes + std::string(16, static_cast<char>(~'M'));
 }
@@ -41,8 +41,8 @@ std::string FieldsWithPlace() {
 class SectionBlockTest : public testing::Test {
  protected:
   SectionBlock& Read(const std::string& bytes, Format format) {
-    section.emplace(bytes, kPlace);
-    return block.emplace(*section, format, kMark, L"things", report);
+    section.emplace(bytes, kBlockPlace);
+    return block.emplace(*section, format, kBlockMark, L"things", report);
   }
 
   model::Report report;
@@ -52,7 +52,7 @@ class SectionBlockTest : public testing::Test {
 
 TEST_F(SectionBlockTest, BelowAC1021AllFieldsStandInOneRun) {
   Streams* const streams =
-      Read(Framed(Bits().RC(7).T("x").H(5, 9).Bytes(), false), kPlain).Fields();
+      Read(FramedBlock(Bits().RC(7).T("x").H(5, 9).Bytes(), false), kPlain).Fields();
   ASSERT_NE(streams, nullptr);
   EXPECT_EQ(streams->Data().RC(), 7);
   EXPECT_EQ(streams->Text(), "x");
@@ -62,7 +62,7 @@ TEST_F(SectionBlockTest, BelowAC1021AllFieldsStandInOneRun) {
 
 TEST_F(SectionBlockTest, FromAC1021TheFieldsBeginWithThePlaceOfTheHandles) {
   for (const Format format : {kWithPlace, kShortSize}) {
-    Streams* const streams = Read(Framed(FieldsWithPlace(), false), format).Fields();
+    Streams* const streams = Read(FramedBlock(FieldsWithPlace(), false), format).Fields();
     ASSERT_NE(streams, nullptr);
     EXPECT_EQ(streams->Data().RC(), 0x42);
     EXPECT_EQ(streams->Handle().value, 0x1Fu);
@@ -73,7 +73,7 @@ TEST_F(SectionBlockTest, FromAC1021TheFieldsBeginWithThePlaceOfTheHandles) {
 
 TEST_F(SectionBlockTest, LaterReleasesHaveASizeOfEightBytes) {
   for (const Format format : {kLongSize, kAlwaysLong}) {
-    Streams* const streams = Read(Framed(FieldsWithPlace(), true), format).Fields();
+    Streams* const streams = Read(FramedBlock(FieldsWithPlace(), true), format).Fields();
     ASSERT_NE(streams, nullptr);
     EXPECT_EQ(streams->Data().RC(), 0x42);
     EXPECT_EQ(streams->Handle().value, 0x1Fu);
@@ -82,17 +82,17 @@ TEST_F(SectionBlockTest, LaterReleasesHaveASizeOfEightBytes) {
 }
 
 TEST_F(SectionBlockTest, AWrongCheckOrMarkIsToldAndTheFieldsRead) {
-  const std::string bytes = Framed("abc", false);
+  const std::string bytes = FramedBlock("abc", false);
   EXPECT_EQ(Read(handmade::Damaged(bytes, 16 + 4 + 3), kPlain).Fields()->Data().RC(), 'a');
   EXPECT_THAT(TextsOf(report), ElementsAre(L"The checksum of the things is wrong."));
-  EXPECT_EQ(report.warnings[0].offset, kPlace);
+  EXPECT_EQ(report.warnings[0].offset, kBlockPlace);
   report = {};
   EXPECT_EQ(Read(handmade::Damaged(bytes, 3), kPlain).Fields()->Data().RC(), 'a');
   EXPECT_THAT(TextsOf(report), ElementsAre(L"The mark before the things is wrong."));
 }
 
 TEST_F(SectionBlockTest, CutWithinItsHeadHasNoFields) {
-  const std::string bytes = Framed("abc", false);
+  const std::string bytes = FramedBlock("abc", false);
   for (std::size_t size = 0; size < 16 + 4 + 2; ++size) {
     report = {};
     EXPECT_EQ(Read(bytes.substr(0, size), kPlain).Fields(), nullptr) << size;
@@ -101,7 +101,7 @@ TEST_F(SectionBlockTest, CutWithinItsHeadHasNoFields) {
 }
 
 TEST_F(SectionBlockTest, ASizeThatCanNotBeRightIsToldAndTheFieldsRead) {
-  std::string bytes = Framed("abc", false);
+  std::string bytes = FramedBlock("abc", false);
   bytes.replace(16, 4, Low32(0xFFFFFFFF));
   Streams* const streams = Read(bytes, kPlain).Fields();
   ASSERT_NE(streams, nullptr);
@@ -110,11 +110,11 @@ TEST_F(SectionBlockTest, ASizeThatCanNotBeRightIsToldAndTheFieldsRead) {
 }
 
 TEST_F(SectionBlockTest, WithoutRoomForThePlaceOfTheHandlesItHasNoFields) {
-  EXPECT_EQ(Read(Framed("abc", false), kWithPlace).Fields(), nullptr);
+  EXPECT_EQ(Read(FramedBlock("abc", false), kWithPlace).Fields(), nullptr);
 }
 
 TEST_F(SectionBlockTest, HandlesBehindTheEndAreBad) {
-  Streams* const streams = Read(Framed(Low32(0xFFFFFFFF) + "abc", false), kWithPlace).Fields();
+  Streams* const streams = Read(FramedBlock(Low32(0xFFFFFFFF) + "abc", false), kWithPlace).Fields();
   ASSERT_NE(streams, nullptr);
   streams->Handle();
   EXPECT_FALSE(streams->Good());

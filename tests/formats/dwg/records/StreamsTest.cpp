@@ -9,8 +9,8 @@ namespace {
 using handmade::Bits;
 using handmade::Wide;
 
-constexpr Format kOld = {model::kVersion1018, 0};
-constexpr Format kNew = {model::kVersion1021, 0};
+constexpr Format kTogether = {model::kVersion1018, 0};
+constexpr Format kApart = {model::kVersion1021, 0};
 
 // Streams of a record that begins with `data`, whose handles are `handles`.
 Streams OfRecord(Format format, std::string& bytes, const Bits& data, const Bits& handles) {
@@ -22,7 +22,7 @@ Streams OfRecord(Format format, std::string& bytes, const Bits& data, const Bits
 
 TEST(Streams, BelowAC1021TextsStandAmongTheDataAndHandlesApart) {
   std::string bytes;
-  Streams streams = OfRecord(kOld, bytes, Bits().B(true).T("name").RC(7), Bits().H(5, 0x1F));
+  Streams streams = OfRecord(kTogether, bytes, Bits().B(true).T("name").RC(7), Bits().H(5, 0x1F));
   EXPECT_TRUE(streams.Data().B());
   EXPECT_EQ(streams.Text(), "name");
   EXPECT_EQ(streams.Data().RC(), 7);
@@ -32,7 +32,8 @@ TEST(Streams, BelowAC1021TextsStandAmongTheDataAndHandlesApart) {
 
 TEST(Streams, BelowAC1021OneZeroAtATextsEndIsNotPartOfIt) {
   std::string bytes;
-  Streams streams = OfRecord(kOld, bytes, Bits().T(std::string("a\0", 2)).T("b").T(""), Bits());
+  Streams streams =
+      OfRecord(kTogether, bytes, Bits().T(std::string("a\0", 2)).T("b").T(""), Bits());
   EXPECT_EQ(streams.Text(), "a");
   EXPECT_EQ(streams.Text(), "b");
   EXPECT_EQ(streams.Text(), "");
@@ -53,7 +54,7 @@ TEST(Streams, FromAC1021TextsStandBeforeTheirLengthAndAFlag) {
   Bits data = Bits().RC(7);
   data.Append(texts).RS(static_cast<unsigned>(texts.size())).B(true);
   std::string bytes;
-  Streams streams = OfRecord(kNew, bytes, data, Bits().H(5, 0x1F));
+  Streams streams = OfRecord(kApart, bytes, data, Bits().H(5, 0x1F));
   EXPECT_EQ(streams.Text(), Wide("ab"));
   EXPECT_EQ(streams.Text(), "");
   EXPECT_EQ(streams.Data().RC(), 7);
@@ -74,7 +75,7 @@ TEST(Streams, LongTextsHaveTwoWordsOfLength) {
   data.RS(static_cast<unsigned>(texts.size() >> 15));
   data.RS(static_cast<unsigned>(0x8000 | (texts.size() & 0x7FFF))).B(true);
   std::string bytes;
-  Streams streams = OfRecord(kNew, bytes, data, Bits().H(5, 1));
+  Streams streams = OfRecord(kApart, bytes, data, Bits().H(5, 1));
   EXPECT_EQ(streams.Text(), Wide(text));
   EXPECT_EQ(streams.Data().RC(), 7);
   EXPECT_EQ(streams.Data().Left(), 0u);
@@ -83,7 +84,7 @@ TEST(Streams, LongTextsHaveTwoWordsOfLength) {
 
 TEST(Streams, WithoutTheFlagAllTextsAreEmpty) {
   std::string bytes;
-  Streams streams = OfRecord(kNew, bytes, Bits().RC(7).B(false), Bits().H(5, 1));
+  Streams streams = OfRecord(kApart, bytes, Bits().RC(7).B(false), Bits().H(5, 1));
   EXPECT_EQ(streams.Text(), "");
   EXPECT_EQ(streams.Text(), "");
   EXPECT_EQ(streams.Data().RC(), 7);
@@ -93,7 +94,7 @@ TEST(Streams, WithoutTheFlagAllTextsAreEmpty) {
 TEST(Streams, TextsLongerThanTheRecordAreNone) {
   for (const unsigned length : {100u, 0x7FFFu, 0xFFFFu}) {
     std::string bytes;
-    Streams streams = OfRecord(kNew, bytes, Bits().RC(7).RS(length).B(true), Bits().H(5, 1));
+    Streams streams = OfRecord(kApart, bytes, Bits().RC(7).RS(length).B(true), Bits().H(5, 1));
     EXPECT_EQ(streams.Text(), "");
     EXPECT_EQ(streams.Data().RC(), 7);
   }
@@ -101,7 +102,7 @@ TEST(Streams, TextsLongerThanTheRecordAreNone) {
 
 TEST(Streams, AFlagWithoutRoomForALengthIsNoText) {
   std::string bytes;
-  Streams streams = OfRecord(kNew, bytes, Bits().RC(7).B(true), Bits().H(5, 1));
+  Streams streams = OfRecord(kApart, bytes, Bits().RC(7).B(true), Bits().H(5, 1));
   EXPECT_EQ(streams.Text(), "");
 }
 
@@ -110,20 +111,20 @@ TEST(Streams, ATextThatRunsOverItsRunIsBad) {
   Bits data = Bits().RC(7);
   data.Append(texts).RS(static_cast<unsigned>(texts.size())).B(true);
   std::string bytes;
-  Streams streams = OfRecord(kNew, bytes, data, Bits().H(5, 1));
+  Streams streams = OfRecord(kApart, bytes, data, Bits().H(5, 1));
   streams.Text();
   EXPECT_FALSE(streams.Good());
 }
 
 TEST(Streams, DataDoNotRunIntoTheHandles) {
   std::string bytes;
-  Streams streams = OfRecord(kOld, bytes, Bits().RC(7), Bits().H(5, 0x1F));
+  Streams streams = OfRecord(kTogether, bytes, Bits().RC(7), Bits().H(5, 0x1F));
   streams.Data().RS();
   EXPECT_FALSE(streams.Good());
 }
 
 TEST(Streams, HandlesBehindTheEndAreBad) {
-  Streams streams = Streams::OfRecord(kNew, "abc", 0, 1000, 2000);
+  Streams streams = Streams::OfRecord(kApart, "abc", 0, 1000, 2000);
   streams.Handle();
   EXPECT_FALSE(streams.Good());
   EXPECT_EQ(streams.Text(), "");

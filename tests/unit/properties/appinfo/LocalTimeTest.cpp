@@ -3,12 +3,12 @@
 
 #include <array>
 #include <cstdlib>
-#include <ctime>
 #include <limits>
 #include <string>
 
 #include "ZDXEngine/Automation.h"
 #include "properties/appinfo/LocalTime.h"
+#include "support/TimeZone.h"
 
 using ZDXEngine::MakeLocalTime;
 
@@ -34,22 +34,8 @@ HRESULT Failure(const Fields& fields) {
 // Tests run in a time zone of their own.
 class LocalTime : public testing::Test {
  protected:
-  LocalTime() { SetZone("UTC0"); }
-  ~LocalTime() override { SetZone(had_ ? before_.c_str() : nullptr); }
-  // Null for the system's own.
-  static void SetZone(const char* zone) {
-#if defined(_WIN32)
-    _putenv_s("TZ", zone == nullptr ? "" : zone);
-    _tzset();
-#else
-    if (zone == nullptr) {
-      unsetenv("TZ");
-    } else {
-      setenv("TZ", zone, 1);
-    }
-    tzset();
-#endif
-  }
+  LocalTime() { zdx_test::SetTimeZone("UTC0"); }
+  ~LocalTime() override { zdx_test::SetTimeZone(had_ ? before_.c_str() : nullptr); }
 
  private:
   bool had_ = std::getenv("TZ") != nullptr;
@@ -66,12 +52,12 @@ TEST_F(LocalTime, IsSecondsSinceTheBeginOf1970) {
 TEST_F(LocalTime, GoesBeyondThirtyTwoBits) { EXPECT_EQ(Time({2040, 1, 1, 0, 0, 0}), 2208988800); }
 
 TEST_F(LocalTime, IsOfTheSystemsZone) {
-  SetZone("XXX5");
+  zdx_test::SetTimeZone("XXX5");
   EXPECT_EQ(Time({1970, 1, 1, 0, 0, 0}), 5 * 3600);
 }
 
 TEST_F(LocalTime, KnowsSummerTimeByItself) {
-  SetZone("AAA0BBB,M3.5.0,M10.5.0");
+  zdx_test::SetTimeZone("AAA0BBB,M3.5.0,M10.5.0");
   EXPECT_EQ(Time({2021, 1, 15, 12, 0, 0}), 1610712000);
   EXPECT_EQ(Time({2021, 7, 15, 12, 0, 0}), 1626346800);
 }
@@ -99,7 +85,7 @@ TEST_F(LocalTime, ADayBeyondItsMonthIsOneOfTheNext) {
 }
 
 TEST_F(LocalTime, RefusesAMomentBeforeTheBegin) {
-  SetZone("XXX-1");
+  zdx_test::SetTimeZone("XXX-1");
   EXPECT_EQ(Failure({1970, 1, 1, 0, 59, 59}), E_INVALIDARG);  // 1 second before
   EXPECT_EQ(Failure({1970, 1, 1, 0, 0, 0}), E_INVALIDARG);    // 1 hour before
   EXPECT_EQ(Failure({1970, 1, 1, 1, 0, 0}), S_OK);

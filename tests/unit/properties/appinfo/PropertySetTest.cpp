@@ -49,20 +49,21 @@ class PropertySet : public scripted::ScriptedTest {
   PROPVARIANT value = {};
 };
 
-constexpr wchar_t kName[] = L"<prop id=\"258\"><string>X</string></prop>";
-constexpr wchar_t kVersion[] = L"<prop id=\"259\"><string>Y</string></prop>";
+constexpr wchar_t kNameProperty[] = L"<prop id=\"258\"><string>X</string></prop>";
+constexpr wchar_t kVersionProperty[] = L"<prop id=\"259\"><string>Y</string></prop>";
 
-TEST_F(PropertySet, AValueIsFoundByItsNumber) { EXPECT_EQ(String(kHead + kName), L"X"); }
+TEST_F(PropertySet, AValueIsFoundByItsNumber) { EXPECT_EQ(String(kHead + kNameProperty), L"X"); }
 
 TEST_F(PropertySet, BothOrdersOfTwoPropertiesGiveTheSame) {
-  for (const std::wstring& text : {kHead + kName + kVersion, kHead + kVersion + kName}) {
+  for (const std::wstring& text :
+       {kHead + kNameProperty + kVersionProperty, kHead + kVersionProperty + kNameProperty}) {
     EXPECT_EQ(String(text, ByNumber(258)), L"X");
     EXPECT_EQ(String(text, ByNumber(259)), L"Y");
   }
 }
 
 TEST_F(PropertySet, OfTwoPropertiesOfOneNumberTheFirstIsFound) {
-  EXPECT_EQ(String(kHead + kName + L"<prop id=\"258\"><string>Z</string></prop>"), L"X");
+  EXPECT_EQ(String(kHead + kNameProperty + L"<prop id=\"258\"><string>Z</string></prop>"), L"X");
 }
 
 TEST_F(PropertySet, TheNumberIsDecimalAndWhole) {
@@ -102,7 +103,8 @@ TEST_F(PropertySet, AValueIsFoundByItsName) {
 
 TEST_F(PropertySet, EveryKindButOneLooksByName) {
   wchar_t name[] = L"258";
-  const std::wstring text = kHead + L"<prop id_str=\"258\"><string>N</string></prop>" + kName;
+  const std::wstring text =
+      kHead + L"<prop id_str=\"258\"><string>N</string></prop>" + kNameProperty;
   for (const std::uint32_t kind : {0u, 2u, 0xFFFFFFFFu}) {
     EXPECT_EQ(String(text, ByName(name, kind)), L"N") << kind;
   }
@@ -155,37 +157,39 @@ TEST_F(PropertySet, AnElementAtTheVeryEndIsEmpty) {
 
 TEST_F(PropertySet, ADateIsReachedOnlyIfItIsAskedFor) {
   const std::wstring text =
-      kHead + L"<prop id=\"10\"><datetime>2020-01-01T00:00:00</datetime></prop>" + kName;
+      kHead + L"<prop id=\"10\"><datetime>2020-01-01T00:00:00</datetime></prop>" + kNameProperty;
   EXPECT_EQ(String(text), L"X");
   EXPECT_THROW(Read(text, ByNumber(10)), ATL::CAtlException);
 }
 
 TEST_F(PropertySet, TheHeadMustNameTheSummarySet) {
-  EXPECT_EQ(String(kOtherHead + kName), L"(none)");
+  EXPECT_EQ(String(kOtherHead + kNameProperty), L"(none)");
 }
 
 TEST_F(PropertySet, TheHeadsIdIsOfAnyCase) {
-  EXPECT_EQ(
-      String(L"<prop_set fmt_id=\"{f29f85e0-4ff9-1068-ab91-08002b27b3d9}\">" + std::wstring(kName)),
-      L"X");
+  EXPECT_EQ(String(L"<prop_set fmt_id=\"{f29f85e0-4ff9-1068-ab91-08002b27b3d9}\">" +
+                   std::wstring(kNameProperty)),
+            L"X");
 }
 
 TEST_F(PropertySet, AHeadThatNamesNothingFindsNothing) {
-  EXPECT_EQ(String(L"<prop_set fmt_id=\"rubbish\">" + std::wstring(kName)), L"(none)");
+  EXPECT_EQ(String(L"<prop_set fmt_id=\"rubbish\">" + std::wstring(kNameProperty)), L"(none)");
 }
 
 TEST_F(PropertySet, AHeadThatCannotBeConvertedFindsNothing) {
   world.Fail("CLSIDFromString", 1);
-  EXPECT_EQ(String(kHead + kName), L"(none)");
+  EXPECT_EQ(String(kHead + kNameProperty), L"(none)");
 }
 
 TEST_F(PropertySet, WhatStandsAroundTheHeadIsPassedOver) {
   EXPECT_EQ(String(L"rubbish <prop_set fmt_id=\"{F29F85E0-4FF9-1068-AB91-08002B27B3D9}\" x=\"1\" " +
-                   std::wstring(kName)),
+                   std::wstring(kNameProperty)),
             L"X");
 }
 
-TEST_F(PropertySet, APropertyMayStandBeforeTheHead) { EXPECT_EQ(String(kName + kHead), L"X"); }
+TEST_F(PropertySet, APropertyMayStandBeforeTheHead) {
+  EXPECT_EQ(String(kNameProperty + kHead), L"X");
+}
 
 class FormatId : public PropertySet {
  protected:
@@ -270,8 +274,8 @@ TEST_F(SummarySet, ThatIsMissingLeavesTheResultAlone) {
 }
 
 TEST_F(SummarySet, IsWhereAValueIsLookedFor) {
-  sets[kOtherId] = kHead + kVersion;
-  sets[kSummaryId] = kHead + kName;
+  sets[kOtherId] = kHead + kVersionProperty;
+  sets[kSummaryId] = kHead + kNameProperty;
   EXPECT_TRUE(ZDXEngine::FindPropertyValue(sets, ByNumber(258), value));
   EXPECT_STREQ(value.pwszVal, L"X");
   PROPVARIANT none = {};
@@ -279,7 +283,7 @@ TEST_F(SummarySet, IsWhereAValueIsLookedFor) {
 }
 
 TEST_F(SummarySet, ThatIsMissingHasNoValue) {
-  sets[kOtherId] = kHead + kName;
+  sets[kOtherId] = kHead + kNameProperty;
   EXPECT_FALSE(ZDXEngine::FindPropertyValue(sets, ByNumber(258), value));
 }
 

@@ -17,21 +17,21 @@ namespace zdx::dwg {
 namespace {
 
 // An entry of the page map: size, number.
-constexpr std::size_t kPageEntrySize = std::size_t{2} * 8;
+constexpr std::size_t kCodedPageEntrySize = std::size_t{2} * 8;
 
 // An entry of the section map: eight words, the name, and seven words for each page.
 constexpr std::size_t kNameSizeAt = std::size_t{4} * 8;
 constexpr std::size_t kEncodingAt = std::size_t{6} * 8;
-constexpr std::size_t kPageCountAt = std::size_t{7} * 8;
+constexpr std::size_t kCodedPageCountAt = std::size_t{7} * 8;
 constexpr std::size_t kSectionHeadSize = std::size_t{8} * 8;
-constexpr std::size_t kSectionPageSize = std::size_t{7} * 8;
+constexpr std::size_t kCodedSectionPageSize = std::size_t{7} * 8;
 
 constexpr std::uint64_t kWithParity = 4;
 
 // Sums of sizes from the file stay far from wrapping.
 constexpr std::uint64_t kMostSize = std::uint64_t{1} << 40;
 
-struct SectionEntry {
+struct CodedSectionEntry {
   std::uint64_t size = 0;
   bool withParity = false;
   std::vector<SectionPage> pages;
@@ -62,8 +62,8 @@ class CodedContainer : public Container {
   std::optional<Content> MapAt(const CodedMap& map, std::uint64_t address, bool mends);
   void ReadPageMap(std::string_view map);
   void ReadSectionMap(std::string_view map);
-  std::vector<SectionPage> ReadPages(std::string_view list, const SectionEntry& section);
-  std::optional<PageBytes> ReadPage(const SectionEntry& section, const SectionPage& page);
+  std::vector<SectionPage> ReadPages(std::string_view list, const CodedSectionEntry& section);
+  std::optional<PageBytes> ReadPage(const CodedSectionEntry& section, const SectionPage& page);
   std::optional<PageBytes> ReadCodedPage(const SectionPage& page);
   std::optional<Content> CodedPage(const SectionPage& page, bool mends);
   std::optional<std::uint64_t> AddressOf(std::uint64_t page) const;
@@ -75,7 +75,7 @@ class CodedContainer : public Container {
   Budget reading_;
   Budget pagesLeft_;
   PageMap pageMap_;
-  std::map<SectionId, SectionEntry> entries_;
+  std::map<SectionId, CodedSectionEntry> entries_;
   std::map<SectionId, PagedSection> sections_;
 };
 
@@ -161,7 +161,7 @@ std::optional<Content> CodedContainer::MapAt(const CodedMap& map, std::uint64_t 
 
 void CodedContainer::ReadPageMap(std::string_view map) {
   std::uint64_t address = kFirstCodedPage;
-  for (; map.size() >= kPageEntrySize; map.remove_prefix(kPageEntrySize)) {
+  for (; map.size() >= kCodedPageEntrySize; map.remove_prefix(kCodedPageEntrySize)) {
     const auto size = LittleEndian<std::uint64_t>(map);
     const auto id = static_cast<std::int64_t>(LittleEndianAt<std::uint64_t>(map, 8));
     if (size > kMostSize || address > kMostSize) return;
@@ -172,19 +172,19 @@ void CodedContainer::ReadPageMap(std::string_view map) {
 
 void CodedContainer::ReadSectionMap(std::string_view map) {
   while (map.size() >= kSectionHeadSize) {
-    SectionEntry section;
+    CodedSectionEntry section;
     section.size = std::min(LittleEndian<std::uint64_t>(map), kMostSize);
     const auto nameSize = LittleEndianAt<std::uint64_t>(map, kNameSizeAt);
     section.withParity = LittleEndianAt<std::uint64_t>(map, kEncodingAt) == kWithParity;
-    const auto count = LittleEndianAt<std::uint64_t>(map, kPageCountAt);
+    const auto count = LittleEndianAt<std::uint64_t>(map, kCodedPageCountAt);
     map.remove_prefix(kSectionHeadSize);
     if (nameSize > map.size()) return;
     std::string name;
     for (std::size_t i = 0; i + 1 < nameSize && map[i] != '\0'; i += 2) name.push_back(map[i]);
     map.remove_prefix(static_cast<std::size_t>(nameSize));
-    const std::size_t listSize =
-        static_cast<std::size_t>(std::min<std::uint64_t>(count, map.size() / kSectionPageSize)) *
-        kSectionPageSize;
+    const std::size_t listSize = static_cast<std::size_t>(std::min<std::uint64_t>(
+                                     count, map.size() / kCodedSectionPageSize)) *
+                                 kCodedSectionPageSize;
     if (const std::optional<SectionId> id = SectionByName(name)) {
       section.pages = ReadPages(map.substr(0, listSize), section);
       entries_.emplace(*id, std::move(section));
@@ -194,9 +194,9 @@ void CodedContainer::ReadSectionMap(std::string_view map) {
 }
 
 std::vector<SectionPage> CodedContainer::ReadPages(std::string_view list,
-                                                   const SectionEntry& section) {
+                                                   const CodedSectionEntry& section) {
   std::vector<SectionPage> pages;
-  for (; !list.empty(); list.remove_prefix(kSectionPageSize)) {
+  for (; !list.empty(); list.remove_prefix(kCodedSectionPageSize)) {
     const auto word = [list](std::size_t i) { return LittleEndianAt<std::uint64_t>(list, 8 * i); };
     SectionPage page;
     page.start = word(0);
@@ -222,14 +222,14 @@ Section* CodedContainer::Find(SectionId id) {
   if (entry == entries_.end()) return nullptr;
   auto found = sections_.find(id);
   if (found == sections_.end()) {
-    SectionEntry& section = entry->second;
+    CodedSectionEntry& section = entry->second;
     const auto read = [this, &section](const SectionPage& page) { return ReadPage(section, page); };
     found = sections_.try_emplace(id, section.size, std::move(section.pages), read).first;
   }
   return &found->second;
 }
 
-std::optional<PageBytes> CodedContainer::ReadPage(const SectionEntry& section,
+std::optional<PageBytes> CodedContainer::ReadPage(const CodedSectionEntry& section,
                                                   const SectionPage& page) {
   if (page.address < kFirstCodedPage || page.address > bytes_.size()) {
     Warn(L"A page isn't in the file.", page.address);

@@ -16,30 +16,30 @@ constexpr std::size_t kWords = 3;
 static_assert(kHeadPageAt + kHeadPageSize == kFirstCodedPage);
 
 // Before the compressed fields: a key and its check, the fields' check, their size, 0.
-constexpr std::size_t kCheckAt = 16;
+constexpr std::size_t kStoredCheckAt = 16;
 constexpr std::size_t kSizeAt = 24;
 constexpr std::size_t kFieldsAt = 32;
 constexpr std::size_t kFieldsSize = 0x110;
 constexpr std::size_t kFieldsCheckAt = 0x108;
 
-struct Content {
+struct HeadContent {
   std::string fields;
   bool right = false;
 };
 
 // The fields in the data of a head page, and whether both checks are right.
-std::optional<Content> FieldsOf(const std::string& data) {
+std::optional<HeadContent> FieldsOf(const std::string& data) {
   const auto size = static_cast<std::int32_t>(LittleEndianAt<std::uint32_t>(data, kSizeAt));
   const std::size_t stored = size < 0 ? kFieldsSize : static_cast<std::size_t>(size);
   if (stored > data.size() - kFieldsAt) return std::nullopt;
   const std::string_view bytes = std::string_view(data).substr(kFieldsAt, stored);
-  Content content;
+  HeadContent content;
   content.fields = size < 0 ? std::string(bytes) : DecompressCoded(bytes, kFieldsSize).bytes;
   if (content.fields.size() < kFieldsSize) return std::nullopt;
   std::string checked = content.fields;
   checked.replace(kFieldsCheckAt, 8, 8, '\0');
   content.right =
-      LittleEndianAt<std::uint64_t>(data, kCheckAt) == CodedHeadCrc(bytes) &&
+      LittleEndianAt<std::uint64_t>(data, kStoredCheckAt) == CodedHeadCrc(bytes) &&
       LittleEndianAt<std::uint64_t>(content.fields, kFieldsCheckAt) == CodedHeadCrc(checked);
   return content;
 }

@@ -10,7 +10,7 @@ namespace {
 // A run of literals is this much longer than its opcode says, and goes on if it has the most that
 // an opcode can say.
 constexpr std::size_t kRunBase = 8;
-constexpr std::size_t kLongRun = 0x0F + kRunBase;
+constexpr std::size_t kLongCodedRun = 0x0F + kRunBase;
 
 class CodedDecompressor {
  public:
@@ -47,7 +47,7 @@ class CodedDecompressor {
 
   std::size_t RunLength() {
     std::size_t length = opcode_ + kRunBase;
-    if (length != kLongRun) return length;
+    if (length != kLongCodedRun) return length;
     std::size_t more = Next();
     length += more;
     if (more != 0xFF) return length;

@@ -10,7 +10,7 @@ constexpr unsigned kEnd = 0x11;
 constexpr unsigned kLastLiteralOpcode = 0x0F;
 // The shortest run by an opcode of its own is a byte longer.
 constexpr std::size_t kShortestRun = 3;
-constexpr std::size_t kLongRun = 18;
+constexpr std::size_t kLongPagedRun = 18;
 
 // Reads a stream byte by byte; past its end it gives zeros and fails.
 class Source {
@@ -81,7 +81,7 @@ Instruction ReadInstruction(Source& source, unsigned opcode) {
 }
 
 std::size_t RunLength(Source& source, unsigned opcode) {
-  return opcode != 0 ? opcode + kShortestRun : kLongRun + source.Extension();
+  return opcode != 0 ? opcode + kShortestRun : kLongPagedRun + source.Extension();
 }
 
 // Reads an opcode; a run of literals may stand before it.  False if the stream is damaged.

@@ -10,8 +10,7 @@
 namespace zdx::dwg {
 namespace {
 
-constexpr std::uint64_t kSizeSize = 2;
-constexpr std::uint64_t kCheckSize = 2;
+constexpr std::uint64_t kPageSizeSize = 2;
 
 // Far more than any drawing has; what a damaged map promises beyond isn't followed.
 constexpr std::size_t kMostPages = std::size_t{1} << 18;
@@ -47,21 +46,21 @@ void ObjectMap::FindPages(model::Handle handle) {
 // Finds the next page; false if there is none.
 bool ObjectMap::FindPage() {
   std::string scratch;
-  const auto head = section_->Bytes(next_, kSizeSize, scratch);
+  const auto head = section_->Bytes(next_, kPageSizeSize, scratch);
   const std::uint64_t size = head ? HighFirst(*head) : 0;
-  if (size == kSizeSize) return false;
+  if (size == kPageSizeSize) return false;
   const std::uint64_t left = section_->size() - std::min(next_, section_->size());
-  const bool whole = size > kSizeSize && size + kCheckSize <= left;
+  const bool whole = size > kPageSizeSize && size + kCrcSize <= left;
   // A step takes ten bytes at most.
-  const std::uint64_t stepSize = whole ? std::min<std::uint64_t>(size - kSizeSize, 10) : 0;
-  const auto step = section_->Bytes(next_ + kSizeSize, stepSize, scratch);
+  const std::uint64_t stepSize = whole ? std::min<std::uint64_t>(size - kPageSizeSize, 10) : 0;
+  const auto step = section_->Bytes(next_ + kPageSizeSize, stepSize, scratch);
   if (!whole || !step || pages_.size() == kMostPages) {
     Warn(L"The object map ends early.", pages_.empty() ? 0 : pages_.back().at);
     return false;
   }
   const model::Handle first = BitReader(*step, 0, step->size() * 8).UMC();
-  pages_.push_back({first, next_, size + kCheckSize, {}, false});
-  next_ += size + kCheckSize;
+  pages_.push_back({first, next_, size + kCrcSize, {}, false});
+  next_ += size + kCrcSize;
   return true;
 }
 
@@ -75,7 +74,7 @@ bool ObjectMap::ReadEntry(BitReader& reader, Entry& entry) {
 }
 
 void ObjectMap::CheckSum(std::string_view bytes, const Page& page) {
-  const std::size_t checked = bytes.size() - kCheckSize;
+  const std::size_t checked = bytes.size() - kCrcSize;
   if (Crc16(bytes.substr(0, checked)) != HighFirst(bytes.substr(checked))) {
     Warn(L"The checksum of a page of the object map is wrong.", page.at);
   }
@@ -90,7 +89,7 @@ void ObjectMap::SetMarks(Page& page) {
     return;
   }
   CheckSum(*bytes, page);
-  BitReader reader(*bytes, kSizeSize * 8, (page.size - kCheckSize) * 8);
+  BitReader reader(*bytes, kPageSizeSize * 8, (page.size - kCrcSize) * 8);
   Entry entry = {0, 0};
   for (std::size_t count = 0; ReadEntry(reader, entry); ++count) {
     if (count % kMarkEvery != 0) continue;
@@ -107,7 +106,7 @@ void ObjectMap::Sort() {
     const auto bytes = section_->Bytes(page.at, page.size, scratch);
     if (!bytes) continue;
     CheckSum(*bytes, page);
-    BitReader reader(*bytes, kSizeSize * 8, (page.size - kCheckSize) * 8);
+    BitReader reader(*bytes, kPageSizeSize * 8, (page.size - kCrcSize) * 8);
     Entry entry = {0, 0};
     while (sorted_->size() < kMostSorted && ReadEntry(reader, entry)) sorted_->push_back(entry);
   }
@@ -146,7 +145,7 @@ std::optional<std::uint64_t> ObjectMap::FindIn(Page& page, model::Handle handle)
   // From the last one before the handle, if there is any.
   if (mark != page.marks.begin()) --mark;
   if (mark == page.marks.end()) return std::nullopt;
-  const std::uint64_t left = page.size - kCheckSize - mark->next;
+  const std::uint64_t left = page.size - kCrcSize - mark->next;
   std::string scratch;
   const auto bytes =
       section_->Bytes(page.at + mark->next, std::min(left, kMarkEvery * kMostEntrySize), scratch);

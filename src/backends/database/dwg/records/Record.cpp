@@ -11,7 +11,6 @@ namespace {
 // Both sizes before a record in their longest form, and what its body begins with.
 constexpr std::uint64_t kMostSizesSize = 2 * 5 + 10;
 constexpr std::uint64_t kMostHeadSize = kMostSizesSize + 3 + 4 + 9;
-constexpr std::uint64_t kCheckSize = 2;
 
 // A record of more bytes is long; its front has that many behind the begin of the handles.
 constexpr std::uint64_t kLong = std::uint64_t{64} << 10;
@@ -34,7 +33,7 @@ Record::Record(Section& objects, std::uint64_t at, Format format, Extent extent,
   const std::uint64_t front = handlesAt_ / 8 + kFrontHandles;
   isCut_ = extent == Extent::kFront && format.version >= model::kVersion1018 && size > kLong &&
            front < size;
-  const std::uint64_t read = sizesSize + (isCut_ ? front : size + kCheckSize);
+  const std::uint64_t read = sizesSize + (isCut_ ? front : size + kCrcSize);
   const auto bytes = read <= most ? objects.Bytes(at, read, scratch_) : std::nullopt;
   if (!bytes) return;
   bytes_ = *bytes;
@@ -44,7 +43,7 @@ Record::Record(Section& objects, std::uint64_t at, Format format, Extent extent,
 }
 
 bool Record::CheckIsRight() const {
-  const std::size_t end = bytes_.size() - static_cast<std::size_t>(kCheckSize);
+  const std::size_t end = bytes_.size() - kCrcSize;
   return LittleEndianAt<std::uint16_t>(bytes_, end) == Crc16(bytes_.substr(0, end));
 }
 

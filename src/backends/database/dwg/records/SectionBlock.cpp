@@ -7,8 +7,7 @@ namespace zdx::dwg {
 namespace {
 
 constexpr std::size_t kMarkSize = 16;
-constexpr std::size_t kSizeSize = 4;
-constexpr std::size_t kCheckSize = 2;
+constexpr std::size_t kBlockSizeSize = 4;
 constexpr std::size_t kHandlePlaceSize = 4;
 
 // The last maintenance release of AC1024 and AC1027 whose sizes have four bytes.
@@ -35,7 +34,7 @@ SectionBlock::SectionBlock(Section& section, Format format, std::string_view mar
   const auto warn = [&](const wchar_t* before, const wchar_t* behind) {
     report.Warn({before + std::wstring(what) + behind, place_, {}, {}});
   };
-  const std::size_t headSize = kMarkSize + (HasLongSize(format) ? 2 : 1) * kSizeSize;
+  const std::size_t headSize = kMarkSize + (HasLongSize(format) ? 2 : 1) * kBlockSizeSize;
   const auto head = section.Bytes(0, headSize, scratch_);
   if (!head) {
     warn(L"The section of the ", L" ends within its head.");
@@ -44,12 +43,12 @@ SectionBlock::SectionBlock(Section& section, Format format, std::string_view mar
   if (head->substr(0, kMarkSize) != mark) warn(L"The mark before the ", L" is wrong.");
   std::uint64_t size = LittleEndianAt<std::uint32_t>(*head, kMarkSize);
   // A size that can't be right is no reason to lose what there is.
-  const std::uint64_t framed = headSize + kCheckSize;
+  const std::uint64_t framed = headSize + kCrcSize;
   if (section.size() >= framed && size > section.size() - framed) {
     warn(L"The size of the ", L" is wrong.");
     size = section.size() - framed;
   }
-  const auto block = section.Bytes(0, headSize + size + kCheckSize, scratch_);
+  const auto block = section.Bytes(0, headSize + size + kCrcSize, scratch_);
   if (!block || (format.HasStringStream() && size < kHandlePlaceSize)) {
     warn(L"The section of the ", L" ends early.");
     return;
