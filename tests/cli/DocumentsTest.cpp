@@ -61,6 +61,12 @@ std::vector<Example> ExamplesIn(const std::string& document) {
   return examples;
 }
 
+// `output` as a program shows it that writes lines of its system's form, as the example does.
+std::string AsText(std::string output) {
+  if (kOnWindows) std::erase(output, '\r');
+  return output;
+}
+
 struct Document {
   const char* name;
   std::size_t examples;
@@ -75,7 +81,7 @@ TEST_P(DocumentExamples, GiveWhatIsShown) {
   EXPECT_EQ(examples.size(), GetParam().examples);
   for (const Example& example : examples) {
     const Outcome outcome = RunCommand(example.command);
-    EXPECT_EQ(outcome.out + outcome.err, example.shown);
+    EXPECT_EQ(AsText(outcome.out + outcome.err), example.shown);
   }
 }
 

@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include <regex>
+
 #include "cli/CliTest.h"
 #include "cli/SmallDrawing.h"
 
@@ -9,7 +11,6 @@ namespace {
 
 using ::testing::HasSubstr;
 using ::testing::IsEmpty;
-using ::testing::MatchesRegex;
 using ::testing::Not;
 
 constexpr int kWrongUsage = 64;
@@ -27,7 +28,8 @@ class Usage : public CliTest {
 TEST_F(Usage, TheVersionIsTold) {
   const Outcome outcome = Zdx({"--version"});
   EXPECT_EQ(outcome.exitCode, 0);
-  EXPECT_THAT(outcome.out, MatchesRegex("zdx [0-9]+\\.[0-9]+\\.[0-9]+\n"));
+  EXPECT_TRUE(std::regex_match(outcome.out, std::regex("zdx [0-9]+\\.[0-9]+\\.[0-9]+\n")))
+      << outcome.out;
   EXPECT_THAT(outcome.err, IsEmpty());
 }
 

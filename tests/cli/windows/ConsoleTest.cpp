@@ -111,8 +111,8 @@ class Console : public CliTest {
   std::string Screen(const std::wstring& arguments) {
     HeadlessConsole console;
     if (!console.IsThere()) return "no console";
-    const std::filesystem::path program = std::filesystem::path(ZDX_PROGRAM).make_preferred();
-    console.Run(L"cmd.exe /c \"\"" + program.native() + L"\" " + arguments + L" >CONOUT$ 2>&1\"",
+    const std::filesystem::path program = std::filesystem::absolute(ZDX_PROGRAM).make_preferred();
+    console.Run(L"cmd.exe /c \"" + program.native() + L"\" " + arguments + L" >CONOUT$ 2>&1",
                 Folder());
     return console.Finish();
   }
