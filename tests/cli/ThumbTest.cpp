@@ -121,9 +121,10 @@ TEST_F(Thumb, TheMetafileHasAHeadThatTellsItsSize) {
   EXPECT_EQ(file.substr(0, 22), head);
   EXPECT_EQ(file.substr(22),
             pictures::Metafile(
-                0x0940, Number(0x00CC0020, 4) + Number(0, 4) + Number(2, 2) + Number(4, 2) +
-                            Number(0, 4) + BitmapHead().Bytes().substr(0, 20) + Number(24, 4) +
-                            std::string(16, '\0') + pictures::SmallBitmap().substr(40)));
+                {{0x0035, ""},
+                 {0x0940, Number(0x00CC0020, 4) + Number(0, 4) + Number(2, 2) + Number(4, 2) +
+                              Number(0, 4) + BitmapHead().Bytes().substr(0, 20) + Number(24, 4) +
+                              std::string(16, '\0') + pictures::SmallBitmap().substr(40)}}));
 }
 
 TEST_F(Thumb, ALargerPictureThanThatHeadCanTellHasNone) {
@@ -220,7 +221,7 @@ TEST_F(Thumb, InfoTellsThePicturesSize) {
   Write("plan.dxf", DxfText(drawing));
   // 12 bytes, the metafile's header, its record with a bitmap of 1,880 bytes, and its end.
   EXPECT_THAT(Zdx({"info", "--select", "thumbnail", "plan.dxf"}).out,
-              HasSubstr("  Summary\n    Thumbnail  30 x 20 pixels, 24 bits (1,938 bytes)\n"));
+              HasSubstr("  Summary\n    Thumbnail  30 x 20 pixels, 24 bits (1,944 bytes)\n"));
 }
 
 }  // namespace

@@ -223,6 +223,15 @@ TEST_P(Graphics, ARealizedPaletteStandsBeforeTheBitmap) {
   EXPECT_NE(os->DeleteObject(handle), 0);
 }
 
+TEST_P(Graphics, APaletteIsRealizedThoughNoneWasSelected) {
+  const os::HDC metafile = os->CreateMetaFileW(nullptr);
+  os->SelectPalette(metafile, nullptr, 1);
+  os->RealizePalette(metafile);
+  const std::string bytes = BitsOf(os->CloseMetaFile(metafile));
+  EXPECT_EQ(bytes.substr(10, 6), "\x00\x00\x03\x00\x00\x00"s) << "no object, three words at most";
+  EXPECT_EQ(bytes.substr(18), "\x03\x00\x00\x00\x35\x00\x03\x00\x00\x00\x00\x00"s);
+}
+
 TEST_P(Graphics, APartOfABitmapIsItsWholeWithThePlaceOfThePart) {
   const os::HDC target = os->CreateMetaFileW(nullptr);
   const os::HDC source = os->CreateCompatibleDC(nullptr);
@@ -445,7 +454,6 @@ TEST_F(PosixGraphics, TheFirstPaletteOfAMetafileLeavesNoRecord) {
   EXPECT_NE(os.DeleteObject(stock), 0);
   const os::HDC other = os.CreateMetaFileW(nullptr);
   EXPECT_EQ(os.SelectPalette(other, stock, 1), stock);
-  os.RealizePalette(other);
   EXPECT_EQ(os.GetMetaFileBitsEx(os.CloseMetaFile(other), 0, nullptr), 18u + 6u);
 }
 

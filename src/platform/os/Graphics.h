@@ -110,7 +110,8 @@ int GetObjectW(HGDIOBJ object, int size, void* buffer);
 int DPtoLP(HDC context, POINT* points, int count);
 // Makes `palette` the context's.  The one before, or null on failure; null is refused.
 HPALETTE SelectPalette(HDC context, HPALETTE palette, int forceBackground);
-// How many entries of the palette the system took over.
+// How many entries of the palette the system took over.  A metafile keeps the call, whether or not
+// a palette was selected.
 std::uint32_t RealizePalette(HDC context);
 // Copies a rectangle of `source`'s bitmap to `target`; a metafile keeps the whole bitmap, and the
 // rectangle.  Nonzero on success.

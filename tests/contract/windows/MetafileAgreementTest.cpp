@@ -63,10 +63,8 @@ std::string Metafile(os::GraphicsProvider& os, const Info& info, bool withPalett
   const os::HDC target = os.CreateMetaFileW(nullptr);
   const os::HDC source = os.CreateCompatibleDC(nullptr);
   const os::HGDIOBJ before = os.SelectObject(source, bitmap);
-  if (withPalette) {
-    os.SelectPalette(target, palette, 1);
-    os.RealizePalette(target);
-  }
+  os.SelectPalette(target, withPalette ? palette : nullptr, 1);
+  os.RealizePalette(target);
   os.BitBlt(target, 0, 0, part.width, part.height, source, part.x, part.y, os::kSourceCopy);
   const os::HMETAFILE metafile = os.CloseMetaFile(target);
   std::string bytes(os.GetMetaFileBitsEx(metafile, 0, nullptr), '\0');

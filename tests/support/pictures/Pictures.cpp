@@ -1,5 +1,7 @@
 #include "support/pictures/Pictures.h"
 
+#include <algorithm>
+
 namespace pictures {
 namespace {
 
@@ -88,11 +90,22 @@ std::string Png(const PngSpec& spec) {
   return bytes + PngChunk("IDAT", Stored(rows)) + PngChunk("IEND", "");
 }
 
+std::string Metafile(const std::vector<MetafileRecord>& records) {
+  std::string body;
+  std::uint32_t largest = 3;
+  for (const MetafileRecord& record : records) {
+    const auto words = static_cast<std::uint32_t>((6 + record.bytes.size()) / 2);
+    body += Number(words, 4) + Number(record.function, 2) + record.bytes;
+    largest = std::max(largest, words);
+  }
+  body += Number(3, 4) + Number(0, 2);
+  const auto words = static_cast<std::uint32_t>(9 + body.size() / 2);
+  return Number(1, 2) + Number(9, 2) + Number(0x300, 2) + Number(words, 4) + Number(0, 2) +
+         Number(largest, 4) + Number(0, 2) + body;
+}
+
 std::string Metafile(std::uint16_t function, std::string_view record) {
-  const auto words = static_cast<std::uint32_t>((6 + record.size()) / 2);
-  return Number(1, 2) + Number(9, 2) + Number(0x300, 2) + Number(9 + words + 3, 4) + Number(0, 2) +
-         Number(words, 4) + Number(0, 2) + Number(words, 4) + Number(function, 2) +
-         std::string(record) + Number(3, 4) + Number(0, 2);
+  return Metafile({{function, std::string(record)}});
 }
 
 }  // namespace pictures

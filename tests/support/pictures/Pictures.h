@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace pictures {
 
@@ -42,7 +43,14 @@ std::string Png(const PngSpec& spec);
 // One chunk with its length and checksum.
 std::string PngChunk(std::string_view name, std::string_view data);
 
-// A metafile of the one record, with header and end.
+// A record of a metafile: its function and what stands behind that.
+struct MetafileRecord {
+  std::uint16_t function;
+  std::string bytes;
+};
+
+// A metafile of those records, with header and end; and one of a single record.
+std::string Metafile(const std::vector<MetafileRecord>& records);
 std::string Metafile(std::uint16_t function, std::string_view record);
 
 }  // namespace pictures

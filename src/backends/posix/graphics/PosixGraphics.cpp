@@ -167,7 +167,7 @@ os::HPALETTE PosixGraphics::SelectPalette(os::HDC context, os::HPALETTE palette,
 
 std::uint32_t PosixGraphics::RealizePalette(os::HDC context) {
   Context* const metafile = FindContext(context, Context::Kind::kMetafile);
-  if (metafile == nullptr || metafile->palette == stockPalette_) return 0;
+  if (metafile == nullptr) return 0;
   metafile->recorder.RealizePalette();
   // There is no screen whose colours would change.
   return 0;
