@@ -137,15 +137,15 @@ TEST(DwgSizes, ATableThatLeapsBetweenPagesOfTheMap) {
   const std::string bytes = damage::DwgWith(damage::Sound("AC1032"), [](dwg::Drawing& drawing) {
     const dwg::Handle low = drawing.layers.at(0).handle;
     const std::string layer = drawing.records.at(low);
-    const dwg::Handle far = 0x100000;
-    for (dwg::Handle i = 0; i < 2000; ++i) drawing.records[far + i] = "";
+    const dwg::Handle distant = 0x100000;
+    for (dwg::Handle i = 0; i < 2000; ++i) drawing.records[distant + i] = "";
     dwg::Fields fields = drawing.NewFields(drawing.roots.layers);
     dwg::BeginObject(fields, 0);
     constexpr int kTimes = 400000;
     fields.BL(2 * kTimes);
     for (int i = 0; i < kTimes; ++i) {
       fields.H(dwg::Link::SoftOwner, low);
-      fields.H(dwg::Link::SoftOwner, far + 1999);
+      fields.H(dwg::Link::SoftOwner, distant + 1999);
     }
     drawing.records.at(drawing.roots.layers) = damage::RecordOf(50, fields);
   });
