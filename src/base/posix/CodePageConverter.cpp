@@ -16,14 +16,14 @@ struct ConverterName {
 };
 
 // Those that aren't called "CP" and the page's number.
-constexpr ConverterName kNames[] = {
+constexpr ConverterName kConverterNames[] = {
     {1361, "JOHAB"},       {10000, "MACINTOSH"},  {28591, "ISO-8859-1"}, {28592, "ISO-8859-2"},
     {28593, "ISO-8859-3"}, {28594, "ISO-8859-4"}, {28595, "ISO-8859-5"}, {28596, "ISO-8859-6"},
     {28597, "ISO-8859-7"}, {28598, "ISO-8859-8"}, {28599, "ISO-8859-9"},
 };
 
 std::string NameOf(CodePageId page) {
-  for (const ConverterName& row : kNames) {
+  for (const ConverterName& row : kConverterNames) {
     if (row.page == page) return row.name;
   }
   return "CP" + std::to_string(page);
