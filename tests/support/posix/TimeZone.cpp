@@ -5,13 +5,14 @@
 
 namespace zdx_test {
 
-void SetTimeZone(const char* zone) {
+bool SetTimeZone(const char* zone) {
   if (zone == nullptr) {
     unsetenv("TZ");
   } else {
     setenv("TZ", zone, 1);
   }
   tzset();
+  return true;
 }
 
 }  // namespace zdx_test

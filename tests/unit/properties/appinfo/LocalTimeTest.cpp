@@ -57,7 +57,9 @@ TEST_F(LocalTime, IsOfTheSystemsZone) {
 }
 
 TEST_F(LocalTime, KnowsSummerTimeByItself) {
-  zdx_test::SetTimeZone("AAA0BBB,M3.5.0,M10.5.0");
+  if (!zdx_test::SetTimeZone("AAA0BBB,M3.5.0,M10.5.0")) {
+    GTEST_SKIP() << "no test can set rules of summer time here";
+  }
   EXPECT_EQ(Time({2021, 1, 15, 12, 0, 0}), 1610712000);
   EXPECT_EQ(Time({2021, 7, 15, 12, 0, 0}), 1626346800);
 }
