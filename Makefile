@@ -3,7 +3,7 @@
 SHELL := /bin/bash
 MAKEFLAGS += --no-print-directory
 .DEFAULT_GOAL := help
-.PHONY: help demo test test-windows package-windows windows-tools lint format-check bench clean
+.PHONY: help demo test test-windows compare-systems package-windows windows-tools lint format-check bench clean
 
 JOBS ?= $(shell nproc)
 
@@ -59,7 +59,14 @@ test:
 test-windows: windows-tools
 	@.ci/windows-libraries $(JOBS)
 	@echo '== windows'
-	@$(call check,windows); status=$$?; .ci/wine --stop; exit $$status
+	@{ $(call check,windows) && $(MAKE) compare-systems; }; status=$$?; .ci/wine --stop; exit $$status
+
+# What both systems tell of the examples, and of real drawings where there are some.
+compare-systems:
+	@.ci/packages $(TEST_PACKAGES)
+	@cmake --preset dev > /dev/null && cmake --build --preset dev -j$(JOBS) --target zdx > /dev/null
+	@.ci/compare-systems build/dev/bin/zdx build/windows/bin/zdx.exe \
+	  $(wildcard examples/*.d?? ../shared/samples/*.d??)
 
 package-windows: windows-tools
 	@.ci/windows-libraries $(JOBS)
