@@ -1,12 +1,10 @@
 // Wide text to UTF-8 and back, for clients and for the engine alike.
 //
 // A wide text holds UTF-32 where wchar_t has four bytes and UTF-16 where it has two.  Any file name
-// of the system makes the trip to the other form and back:
-// - Where wchar_t has four bytes names are bytes.  A byte 0xNN that isn't part of valid UTF-8
-// becomes
-//   the lone surrogate U+DCNN, and that surrogate becomes the byte again.
-// - Where it has two names are 16-bit units.  A lone surrogate becomes the three bytes of its own
-//   number, and these bytes become the surrogate again.
+// of the system makes the trip to the other form and back.  Where wchar_t has four bytes names are
+// bytes: a byte 0xNN that isn't part of valid UTF-8 becomes the lone surrogate U+DCNN, and that
+// surrogate becomes the byte again.  Where it has two names are 16-bit units: a lone surrogate
+// becomes the three bytes of its own number, and these bytes become the surrogate again.
 #pragma once
 
 #include <cstddef>

@@ -6,7 +6,6 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <utility>
 
 #include "ZDXEngine/Utf8.h"
 
@@ -55,15 +54,6 @@ std::variant<MappedFile, Failure> MappedFile::Open(const std::wstring& path) {
 
 MappedFile::~MappedFile() {
   if (data_ != nullptr) munmap(const_cast<char*>(data_), size_);
-}
-
-MappedFile::MappedFile(MappedFile&& other) noexcept
-    : data_(std::exchange(other.data_, nullptr)), size_(std::exchange(other.size_, 0)) {}
-
-MappedFile& MappedFile::operator=(MappedFile&& other) noexcept {
-  std::swap(data_, other.data_);
-  std::swap(size_, other.size_);
-  return *this;
 }
 
 }  // namespace zdx::file

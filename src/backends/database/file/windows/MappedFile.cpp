@@ -2,10 +2,6 @@
 
 #include <windows.h>
 
-#include <cstdint>
-#include <limits>
-#include <utility>
-
 namespace zdx::file {
 namespace {
 
@@ -56,15 +52,6 @@ std::variant<MappedFile, Failure> MappedFile::Open(const std::wstring& path) {
 
 MappedFile::~MappedFile() {
   if (data_ != nullptr) UnmapViewOfFile(data_);
-}
-
-MappedFile::MappedFile(MappedFile&& other) noexcept
-    : data_(std::exchange(other.data_, nullptr)), size_(std::exchange(other.size_, 0)) {}
-
-MappedFile& MappedFile::operator=(MappedFile&& other) noexcept {
-  std::swap(data_, other.data_);
-  std::swap(size_, other.size_);
-  return *this;
 }
 
 }  // namespace zdx::file
