@@ -1,11 +1,10 @@
 // Wide text to UTF-8 and back, for clients and for the engine alike.
 //
 // A wide text holds UTF-32 where wchar_t has four bytes and UTF-16 where it has two.  Any file name
-// of the system makes the trip to the other form and back:
-// - Where wchar_t has four bytes, names are bytes.  One that isn't part of valid UTF-8, 0xNN,
-//   becomes the lone surrogate U+DCNN, and that surrogate becomes the byte again.
-// - Where it has two, names are 16-bit units.  A lone surrogate becomes the three bytes of its own
-//   number, and these bytes become the surrogate again.
+// of the system makes the trip to the other form and back.  Where wchar_t has four bytes names are
+// bytes: a byte 0xNN that isn't part of valid UTF-8 becomes the lone surrogate U+DCNN, and that
+// surrogate becomes the byte again.  Where it has two names are 16-bit units: a lone surrogate
+// becomes the three bytes of its own number, and these bytes become the surrogate again.
 #pragma once
 
 #include <cstddef>
@@ -145,7 +144,7 @@ inline std::wstring WideFromUtf8(std::string_view bytes) {
 // The inverse of WideFromUtf8, exact for a name's bytes where wchar_t has four bytes, and for its
 // units where it has two: WideFromUtf8 of the result is `text` then.  A lone surrogate that stands
 // for no byte is written as the three bytes of its own number, as other programs on such systems
-// do.  A number above U+10FFFF, which is no character, becomes U+FFFD.
+// do. A number above U+10FFFF, which is no character, becomes U+FFFD.
 inline std::string BytesFromWide(std::wstring_view text) {
   return utf8_detail::Encode(text, [](std::string& bytes, char32_t point) {
     if (!utf8_detail::kNamesAreUnits && point >= 0xDC80 && point <= 0xDCFF) {
