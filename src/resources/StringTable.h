@@ -1,7 +1,7 @@
 // The engine's texts by number.
 //
-// One list for every system, Texts.list: on Windows the module's string table is made of it, elsewhere
-// the table below.
+// One list for every system, Texts.list: on Windows the module's string table is made of it,
+// elsewhere the table below.
 #pragma once
 
 #include <span>

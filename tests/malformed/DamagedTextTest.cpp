@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "malformed/Cost.h"
 #include "malformed/Damage.h"
 #include "support/PublicRead.h"
 #include "support/dxf/Tokens.h"
@@ -96,6 +97,22 @@ TEST(DamagedText, DamageInTheHeaderCostsItsVariableAlone) {
   EXPECT_THAT(reading.Texts(L"Menu"), ElementsAre("."));
   EXPECT_THAT(reading.Custom(), ElementsAre(testing::Pair("Key", "Value")));
   ExpectWarningAt(reading, LineOf(text, "rubbish"));
+}
+
+TEST(DamagedText, BytesThatMeanNothingInItsCodePageCostNoMoreThanOthers) {
+  constexpr std::size_t kLength = 1'000'000;
+  for (const auto& [page, byte] : {std::pair("ANSI_932", '\xFF'), std::pair("ANSI_1255", '\xD9')}) {
+    drawing::DrawingSpec spec = damage::Sound("AC1015");
+    spec.codePage = page;
+    const std::string menu = "  9\n$MENU\n  1\n";
+    const std::string text =
+        Replaced(damage::TextOf(spec), menu + ".", menu + std::string(kLength, byte));
+    const Reading reading = damage::ReadAtFairCost(text, ".dxf").reading;
+    const std::vector<std::string> told = reading.Texts(L"Menu");
+    ASSERT_EQ(told.size(), 1u) << page;
+    // Each comes as a character that has two bytes in UTF-8.
+    EXPECT_EQ(told.front().size(), 2 * kLength) << page;
+  }
 }
 
 TEST(DamagedText, ADamagedSettingIsLeftOutNotTold) {

@@ -30,11 +30,13 @@ class SystemConverter : public CodePageConverter {
 
   std::size_t Convert(std::string_view bytes, std::wstring& text) override {
     std::size_t done = 0;
+    // A piece that fails was in vain: each is at most as long as all that succeeded before.
+    std::size_t most = 1;
     while (done < bytes.size()) {
-      const std::string_view rest = bytes.substr(done);
-      const std::size_t piece = PieceOf(rest);
-      if (!Append(rest.substr(0, piece), text)) return done + ByCharacter(rest, text);
-      done += piece;
+      const std::string_view piece = PieceOf(bytes.substr(done), most);
+      if (!Append(piece, text)) return done + ByCharacter(piece, text);
+      done += piece.size();
+      most = std::min(done, kPieceSize - 1);
     }
     return done;
   }
@@ -47,11 +49,11 @@ class SystemConverter : public CodePageConverter {
     return isLead ? std::min<std::size_t>(2, bytes.size()) : 1;
   }
 
-  // The size of a part of `bytes` that ends between two characters.
-  std::size_t PieceOf(std::string_view bytes) const {
+  // The begin of `bytes` that ends between two characters, where `most` bytes end or one later.
+  std::string_view PieceOf(std::string_view bytes, std::size_t most) const {
     std::size_t size = 0;
-    while (size < bytes.size() && size < kPieceSize - 1) size += CharacterAt(bytes.substr(size));
-    return size;
+    while (size < bytes.size() && size < most) size += CharacterAt(bytes.substr(size));
+    return bytes.substr(0, size);
   }
 
   // False if some of `bytes` mean nothing; `text` is as it was then.

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "backends/posix/graphics/PosixGraphics.h"
 #include "backends/posix/graphics/MetafileRecorder.h"
+#include "backends/posix/graphics/PosixGraphics.h"
 
 namespace zdx::graphics {
 namespace {

@@ -11,8 +11,9 @@
 namespace zdx::file {
 
 // The bytes of a file, mapped for reading and never changed.  An empty file has no bytes and is
-// mapped all the same.  Another program that shortens the file while it is mapped makes the lost
-// bytes unreadable for the process: drawings are written by replacing them, so this isn't handled.
+// mapped all the same.  Another program that shortens the file while it is mapped, which Windows
+// refuses, makes the lost bytes unreadable for the process, and so does a network or a medium that
+// goes away: drawings are written by replacing them, so this isn't handled.
 class MappedFile {
  public:
   // Maps the file at `path`, whose wide form is turned into a file name as Utf8.h tells.

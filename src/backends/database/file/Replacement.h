@@ -39,7 +39,8 @@ class Replacement {
 
   // Brings what was appended to the disk, and puts the new file in the target's place.  Nothing
   // else may be called thereafter.  On Windows a target that another program has open is tried
-  // again for up to a second.
+  // again for up to a second; one that is mapped, by this process too, may be refused as
+  // kNoAccess.
   std::optional<WriteError> Commit();
 
  private:

@@ -29,7 +29,7 @@ bool IsFolder(const std::wstring& path) {
 
 std::variant<MappedFile, Failure> MappedFile::Open(const std::wstring& path) {
   if (path.find(L'\0') != std::wstring::npos) return Failure::kNotFound;
-  // Others may write to the file, replace it or move it away meanwhile.
+  // Nobody is kept from using the file meanwhile by this handle, which is soon closed.
   const Handle file(CreateFileW(path.c_str(), GENERIC_READ,
                                 FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
                                 OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));

@@ -55,17 +55,18 @@ class Replacement::NewFile {
   std::optional<WriteError> Make() {
     DWORD attributes = 0;
     if (const auto refusal = Refusal(target_, attributes)) return refusal;
-    for (int i = 0; i < kMostNames; ++i) {
-      const std::wstring name = target_ + L".zdx-" + std::to_wstring(i);
+    DWORD error = ERROR_FILE_EXISTS;
+    for (int i = 0; i < kMostNames && error == ERROR_FILE_EXISTS; ++i) {
+      std::wstring name = target_ + L".zdx-" + std::to_wstring(i);
       handle_ = CreateFileW(name.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
                             FILE_ATTRIBUTE_NORMAL, nullptr);
       if (handle_ != INVALID_HANDLE_VALUE) {
-        name_ = name;
+        name_ = std::move(name);
         return std::nullopt;
       }
-      if (GetLastError() != ERROR_FILE_EXISTS) break;
+      error = GetLastError();
     }
-    return ErrorOf(GetLastError());
+    return ErrorOf(error);
   }
 
   std::optional<WriteError> Write(std::string_view bytes) {
