@@ -11,7 +11,8 @@ BUILD_PACKAGES := g++ cmake make libcli11-dev libpng-dev nlohmann-json3-dev
 TEST_PACKAGES := $(BUILD_PACKAGES) libgtest-dev googletest libgmock-dev graphicsmagick netpbm
 WINDOWS_PACKAGES := g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine64 wine64-preloader googletest \
   cmake make libcli11-dev nlohmann-json3-dev dpkg-dev debian-archive-keyring zip
-LINT_PACKAGES := $(TEST_PACKAGES) clang-format-14 clang-tidy-14 libbenchmark-dev
+LINT_PACKAGES := $(TEST_PACKAGES) clang-format-14 clang-tidy-14 libbenchmark-dev \
+  g++-mingw-w64-x86-64-posix
 BENCH_PACKAGES := $(BUILD_PACKAGES) libbenchmark-dev
 
 SOURCE_FOLDERS := $(wildcard include src tools tests examples benchmarks)
@@ -87,6 +88,7 @@ lint:
 	@cmake -S . -B build/lint -DZDX_BENCHMARKS=ON -DCMAKE_DISABLE_PRECOMPILE_HEADERS=ON > /dev/null
 	@run-clang-tidy-14 -quiet -p build/lint -j $(JOBS) \
 	  "^$(CURDIR)/(src|tools|examples|benchmarks)/(?!.*_benchmark\.cpp)"
+	@.ci/lint-windows
 
 bench:
 	@.ci/packages $(BENCH_PACKAGES)

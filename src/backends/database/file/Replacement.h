@@ -22,9 +22,10 @@ struct WriteError {
 // when it is complete.  Until then, and after each failure, the target is as it was; a replacement
 // that isn't committed takes its file away when it goes.
 //
-// A target that is there hands on its permissions (POSIX) or its attributes (Windows).  One that is
-// protected from writing isn't replaced.  On POSIX a link is followed, and the file that it leads
-// to is replaced.
+// A target that is there hands on its permissions (POSIX) or its attributes (Windows), and nothing
+// else yet: owner, extended attributes, access lists and further streams are those of a new file.
+// One that is protected from writing isn't replaced.  On POSIX a link is followed, and the file
+// that it leads to is replaced.
 class Replacement {
  public:
   // Makes the new file beside `path`, whose wide form is turned into a file name as Utf8.h tells.
