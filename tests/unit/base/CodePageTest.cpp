@@ -13,12 +13,20 @@ TEST(CodePage, NamesAreKnownInAnyCase) {
   EXPECT_EQ(CodePageByName("ansi_932"), 932);
   EXPECT_EQ(CodePageByName("dos850"), 850);
   EXPECT_EQ(CodePageByName("ISO8859-5"), 28595);
+  EXPECT_EQ(CodePageByName("ISO8859-6"), 28596);
+  EXPECT_EQ(CodePageByName("DOS737"), 737);
+  EXPECT_EQ(CodePageByName("DOS775"), 775);
+  EXPECT_EQ(CodePageByName("DOS28592"), 28592);
   EXPECT_EQ(CodePageByName("JOHAB"), 1361);
+  EXPECT_EQ(CodePageByName("BIG5"), 950);
+  EXPECT_EQ(CodePageByName("GB2312"), 936);
+  EXPECT_EQ(CodePageByName("KSC5601"), 949);
+  EXPECT_EQ(CodePageByName("MAC-ROMAN"), 10000);
 }
 
 TEST(CodePage, OtherNamesAreNotKnown) {
   for (const char* name : {"", "ANSI_", "ANSI_12", "ANSI_99999", "ANSI_1252x", "ANSI_-1", "pages",
-                           "ANSI_000000000000001252"}) {
+                           "ISO850", "ANSI_000000000000001252"}) {
     EXPECT_EQ(CodePageByName(name), std::nullopt) << name;
   }
 }
@@ -38,6 +46,10 @@ TEST(CodePage, LenientlyEveryByteHasACharacter) {
   ASSERT_EQ(text.size(), 256u);
   EXPECT_EQ(text[0x81], static_cast<wchar_t>(0x81));
   EXPECT_EQ(text[0x80], static_cast<wchar_t>(0x20AC));
+  EXPECT_EQ(text[0x8C], static_cast<wchar_t>(0x0152));
+  for (std::size_t byte = 0xA0; byte < 256; ++byte) {
+    EXPECT_EQ(text[byte], static_cast<wchar_t>(byte));
+  }
 }
 
 TEST(CodePage, LenientlyAStrayByteCostsOnlyItself) {
