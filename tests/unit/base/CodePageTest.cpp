@@ -102,7 +102,7 @@ TEST(CodePage, BytesThatAPageLeavesOpenMeanNothing) {
        {Open{874, "\x81"}, Open{932, "\x80"}, Open{936, "\xA1\x40"}, Open{949, "\x80"},
         Open{1250, "\x81"}, Open{1251, "\x98"}, Open{1253, "\x81"}, Open{1254, "\x8D"},
         Open{1255, "\x81"}, Open{1257, "\x81"}, Open{1258, "\x8A"}, Open{869, "\x80"},
-        Open{1253, "\x9F"}, Open{932, "\xFD"}, Open{949, "\xA2\xE8"}}) {
+        Open{1253, "\x9F"}, Open{932, "\xFD"}, Open{949, "\xA2\xE8"}, Open{950, "\xFA\x40"}}) {
     EXPECT_EQ(CodePageDecoder(open.page).Decode(open.bytes), std::nullopt) << open.page;
   }
 }
