@@ -35,6 +35,16 @@ nlohmann::json TextProperty(const char* set, const char* name, const char* value
   return {{"formatId", set}, {"name", name}, {"typeCode", 2}, {"value", value}};
 }
 
+TEST_F(Json, OfAVeryLongTextIsWhole) {
+  SmallDrawing drawing;
+  drawing.projectName = std::string(3'000'000, 'x') + "end";
+  Write("plan.dxf", DxfText(drawing));
+  const Outcome outcome = Zdx({"info", "-o", "json", "plan.dxf"});
+  EXPECT_EQ(outcome.exitCode, 0);
+  ASSERT_EQ(Documents(outcome.out).size(), 1u);
+  EXPECT_NE(outcome.out.find(drawing.projectName), std::string::npos);
+}
+
 TEST_F(Json, ADrawingIsOneDocumentWithAllItsPropertiesInOrder) {
   const nlohmann::json expected = {
       TextProperty(kSummarySet, "2", "Ground floor"),

@@ -1,10 +1,13 @@
 // Programs run with what they were given, and how they end is told.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <string>
 #include <system_error>
 #include <thread>
+#include <vector>
 
 #include "support/Paths.h"
 #include "support/Process.h"
@@ -47,6 +50,24 @@ TEST(Process, AVariableOfTheEnvironmentMayHoldAnyText) {
   if (Part() == text) std::exit(7);
   if (!Part().empty()) std::exit(8);
   EXPECT_EQ(RunCommand(Playing(text)).exitCode, 7);
+}
+
+TEST(Process, GetsItsArgumentsAsTheyAreGiven) {
+  const std::vector<std::string> given = {
+      "",        " ",       "a b",      "a\tb",      "\"",
+      "a\"b",    "\"a b\"", "\\",       "\\\\",      "a b\\",
+      "a b\\\\", "\\\"",    "a\\\\\"b", "a\\b\\\\c", "\\\\server\\share\\",
+      "'",       "%PATH%",  "^&|<>",    "/x",        "--",
+      "end"};
+  if (!Part().empty()) {
+    const std::vector<std::string> all = testing::internal::GetArgvs();
+    const bool same =
+        all.size() > given.size() && std::equal(given.rbegin(), given.rend(), all.rbegin());
+    std::exit(same ? 7 : 8);
+  }
+  Command command = Playing("child");
+  command.arguments.insert(command.arguments.end(), given.begin(), given.end());
+  EXPECT_EQ(RunCommand(command).exitCode, 7);
 }
 
 TEST(Process, WorksInTheFolderGiven) {

@@ -29,7 +29,7 @@ std::string NameOf(CodePageId page) {
   return "CP" + std::to_string(page);
 }
 
-// What the converters make of a character with which drawings write paths and codes.
+// What the converters make of a character that is another one in the page.
 struct Mistaken {
   CodePageId page;
   wchar_t converted;
@@ -37,9 +37,17 @@ struct Mistaken {
 };
 
 constexpr Mistaken kMistaken[] = {
+    // Drawings write paths and codes with these.
     {1361, 0x20A9, L'\\'},  // the currency sign that old screens showed in its place
     {864, 0x066A, L'%'},    // the Arabic percent sign
+    // Windows has the signs of units in this page.
+    {10000, 0x03A9, 0x2126},
+    {10000, 0x0394, 0x2206},
 };
+
+// A Korean character that isn't in the page.  The converter refuses it, too, but takes it away.
+constexpr CodePageId kKorean = 949;
+constexpr std::string_view kSwallowed = "\xA2\xE8";
 
 // Owns one conversion of the C library, from the page to UTF-8.
 class Iconv : public CodePageConverter {
@@ -60,7 +68,11 @@ class Iconv : public CodePageConverter {
     iconv(handle_, nullptr, nullptr, nullptr, nullptr);
     char* in = const_cast<char*>(bytes.data());
     std::size_t left = bytes.size();
-    while (Piece(&in, &left, text) && errno == E2BIG) {
+    bool stopped = Piece(&in, &left, text);
+    while (stopped && errno == E2BIG) stopped = Piece(&in, &left, text);
+    const std::string_view taken = bytes.substr(0, bytes.size() - left);
+    if (stopped && page_ == kKorean && taken.ends_with(kSwallowed)) {
+      left += kSwallowed.size();
     }
     // A letter is held back for an accent that could follow it.
     Piece(nullptr, nullptr, text);

@@ -49,6 +49,12 @@ TEST_F(Wildcards, InThisFolderGiveNamesAlone) {
   EXPECT_THAT(Told("x?.dxf"), ElementsAre("x1.dxf", "x2.dxf"));
 }
 
+TEST_F(Wildcards, BehindADriveAloneLookIntoItsCurrentFolder) {
+  Write("x1.dxf", DxfText());
+  const std::string drive = BytesOf(Folder().root_name());
+  EXPECT_THAT(Told(drive + "x?.dxf"), ElementsAre(drive + "x1.dxf"));
+}
+
 TEST_F(Wildcards, BehindAnExtendedPathWork) {
   const std::string folder = "\\\\?\\" + BytesOf(Folder()) + "\\plans\\";
   EXPECT_THAT(Told(folder + "a*.dxf"), ElementsAre(folder + "a.dxf"));

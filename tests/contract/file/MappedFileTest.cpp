@@ -5,6 +5,7 @@
 
 #include "backends/database/file/MappedFile.h"
 #include "support/Paths.h"
+#include "support/Process.h"
 #include "support/Scratch.h"
 
 namespace zdx::file {
@@ -48,7 +49,17 @@ TEST_F(MappedFiles, OfAnyScriptAreFound) {
 TEST_F(MappedFiles, ThatAreNotThereAreNotFound) {
   EXPECT_EQ(FailureOf(folder.path() / "missing.dwg"), Failure::kNotFound);
   EXPECT_EQ(FailureOf(folder.path() / "missing" / "plan.dwg"), Failure::kNotFound);
+  EXPECT_EQ(FailureOf(folder.Write("file.dwg", "") / "plan.dwg"), Failure::kNotFound);
+  EXPECT_EQ(FailureOf(folder.path() / (std::string(300, 'a') + ".dwg")), Failure::kNotFound);
   EXPECT_EQ(FailureOf(""), Failure::kNotFound);
+}
+
+TEST_F(MappedFiles, LeaveNothingOpen) {
+  const std::filesystem::path path = folder.Write("plan.dwg", "drawing");
+  const std::size_t before = zdx_test::CountOpenFiles();
+  EXPECT_EQ(FailureOf(path), std::nullopt);
+  EXPECT_NE(FailureOf(folder.path()), std::nullopt);
+  EXPECT_EQ(zdx_test::CountOpenFiles(), before);
 }
 
 TEST_F(MappedFiles, CutByANulInTheirNameAreNotFound) {

@@ -7,6 +7,7 @@
 
 #include "backends/database/file/Replacement.h"
 #include "support/Paths.h"
+#include "support/Process.h"
 #include "support/Scratch.h"
 
 namespace zdx::file {
@@ -90,6 +91,14 @@ TEST_F(Replacements, ThatAreAbandonedLeaveNothingBehind) {
   }
   EXPECT_EQ(ContentsOf(path), "old");
   EXPECT_THAT(Names(), ElementsAre("plan.dwg"));
+}
+
+TEST_F(Replacements, LeaveNothingOpen) {
+  const auto path = folder.Write("plan.dwg", "old");
+  const std::size_t before = zdx_test::CountOpenFiles();
+  EXPECT_EQ(Replace(path), std::nullopt);
+  EXPECT_TRUE(std::holds_alternative<Replacement>(Begin(path)));
+  EXPECT_EQ(zdx_test::CountOpenFiles(), before);
 }
 
 TEST_F(Replacements, OfOneFileAtTheSameTimeDoNotMix) {

@@ -13,12 +13,20 @@ TEST(CodePage, NamesAreKnownInAnyCase) {
   EXPECT_EQ(CodePageByName("ansi_932"), 932);
   EXPECT_EQ(CodePageByName("dos850"), 850);
   EXPECT_EQ(CodePageByName("ISO8859-5"), 28595);
+  EXPECT_EQ(CodePageByName("ISO8859-6"), 28596);
+  EXPECT_EQ(CodePageByName("DOS737"), 737);
+  EXPECT_EQ(CodePageByName("DOS775"), 775);
+  EXPECT_EQ(CodePageByName("DOS28592"), 28592);
   EXPECT_EQ(CodePageByName("JOHAB"), 1361);
+  EXPECT_EQ(CodePageByName("BIG5"), 950);
+  EXPECT_EQ(CodePageByName("GB2312"), 936);
+  EXPECT_EQ(CodePageByName("KSC5601"), 949);
+  EXPECT_EQ(CodePageByName("MAC-ROMAN"), 10000);
 }
 
 TEST(CodePage, OtherNamesAreNotKnown) {
   for (const char* name : {"", "ANSI_", "ANSI_12", "ANSI_99999", "ANSI_1252x", "ANSI_-1", "pages",
-                           "ANSI_000000000000001252"}) {
+                           "ISO850", "ANSI_000000000000001252"}) {
     EXPECT_EQ(CodePageByName(name), std::nullopt) << name;
   }
 }
@@ -38,6 +46,10 @@ TEST(CodePage, LenientlyEveryByteHasACharacter) {
   ASSERT_EQ(text.size(), 256u);
   EXPECT_EQ(text[0x81], static_cast<wchar_t>(0x81));
   EXPECT_EQ(text[0x80], static_cast<wchar_t>(0x20AC));
+  EXPECT_EQ(text[0x8C], static_cast<wchar_t>(0x0152));
+  for (std::size_t byte = 0xA0; byte < 256; ++byte) {
+    EXPECT_EQ(text[byte], static_cast<wchar_t>(byte));
+  }
 }
 
 TEST(CodePage, LenientlyAStrayByteCostsOnlyItself) {
@@ -64,6 +76,8 @@ TEST(CodePage, ALongTextOfStrayBytesKeepsThemAll) {
   constexpr std::size_t kLength = 300'000;
   EXPECT_EQ(CodePageDecoder(932).DecodeLeniently(std::string(kLength, '\xFF')),
             std::wstring(kLength, static_cast<wchar_t>(0xFF)));
+  EXPECT_EQ(CodePageDecoder(1251).DecodeLeniently(std::string(kLength, '\x98')),
+            std::wstring(kLength, static_cast<wchar_t>(0x2DC)));
 }
 
 TEST(CodePage, ALetterThatWaitsForAnAccentIsNotLostAtTheEnd) {
@@ -87,17 +101,45 @@ TEST(CodePage, BytesThatAPageLeavesOpenMeanNothing) {
   for (const Open& open :
        {Open{874, "\x81"}, Open{932, "\x80"}, Open{936, "\xA1\x40"}, Open{949, "\x80"},
         Open{1250, "\x81"}, Open{1251, "\x98"}, Open{1253, "\x81"}, Open{1254, "\x8D"},
-        Open{1255, "\x81"}, Open{1257, "\x81"}, Open{1258, "\x8A"}, Open{869, "\x80"}}) {
+        Open{1255, "\x81"}, Open{1257, "\x81"}, Open{1258, "\x8A"}, Open{869, "\x80"},
+        Open{1253, "\x9F"}, Open{932, "\xFD"}, Open{949, "\xA2\xE8"}, Open{950, "\xFA\x40"}}) {
     EXPECT_EQ(CodePageDecoder(open.page).Decode(open.bytes), std::nullopt) << open.page;
   }
 }
 
-TEST(CodePage, TheControlCharactersOfAStandardPageAreItsOwn) {
-  EXPECT_EQ(CodePageDecoder(28592).Decode("\x85"), std::wstring(1, static_cast<wchar_t>(0x85)));
+TEST(CodePage, EveryStandardPageHasItsOwnLetters) {
+  struct Letter {
+    CodePageId page;
+    const char* byte;
+    const char* letter;
+  };
+  for (const Letter& row :
+       {Letter{28591, "\xE9", "é"}, Letter{28592, "\xB1", "ą"}, Letter{28593, "\xA1", "Ħ"},
+        Letter{28594, "\xA2", "ĸ"}, Letter{28595, "\xB0", "А"}, Letter{28596, "\xC7", "ا"},
+        Letter{28597, "\xE1", "α"}, Letter{28598, "\xE0", "א"}, Letter{28599, "\xD0", "Ğ"}}) {
+    EXPECT_EQ(CodePageDecoder(row.page).Decode(row.byte), WideFromUtf8(row.letter)) << row.page;
+  }
 }
 
-TEST(CodePage, ThePlacesThatAJapanesePageLeavesToUsersAreKept) {
-  EXPECT_EQ(CodePageDecoder(932).Decode("\xF0\x40"), std::wstring(1, static_cast<wchar_t>(0xE000)));
+TEST(CodePage, TheControlCharactersOfAStandardPageAreItsOwn) {
+  for (CodePageId page = 28591; page <= 28599; ++page) {
+    EXPECT_EQ(CodePageDecoder(page).Decode("\x85"), std::wstring(1, static_cast<wchar_t>(0x85)))
+        << page;
+  }
+}
+
+TEST(CodePage, ThePlacesThatAPageLeavesToUsersAreKept) {
+  EXPECT_EQ(CodePageDecoder(932).Decode("\xF0\x40\xF9\xFC"), L"\xE000\xE757");
+  EXPECT_EQ(CodePageDecoder(950).Decode("\xC6\xA1\xC8\xFE"), L"\xF6B1\xF848");
+}
+
+TEST(CodePage, TheMacsPageHasTheSignsOfUnits) {
+  EXPECT_EQ(CodePageDecoder(10000).Decode("\xBD\xC6"), L"\x2126\x2206");
+}
+
+TEST(CodePage, LenientlyBytesThatAKoreanPageLeavesOpenAreNotLost) {
+  EXPECT_EQ(CodePageDecoder(949).DecodeLeniently("a\xA2\xE8 \xB0\xA1"), WideFromUtf8("a¢è 가"));
+  EXPECT_EQ(CodePageDecoder(949).DecodeLeniently("\xA2\xE8"), WideFromUtf8("¢è"));
 }
 
 TEST(CodePage, CyrillicGreekAndJapaneseDecode) {

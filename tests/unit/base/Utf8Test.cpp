@@ -37,6 +37,28 @@ TEST(Utf8, AnOverlongSequenceIsInvalidBytes) {
             (std::wstring{static_cast<wchar_t>(0xDCC0), static_cast<wchar_t>(0xDCAF)}));
 }
 
+TEST(Utf8, AnOverlongSequenceOfAnyLengthIsInvalidBytes) {
+  EXPECT_EQ(WideFromUtf8("\xE0\x9F\xBF"), L"\xDCE0\xDC9F\xDCBF");
+  EXPECT_EQ(WideFromUtf8("\xF0\x8F\xBF\xBF"), L"\xDCF0\xDC8F\xDCBF\xDCBF");
+}
+
+TEST(Utf8, ASurrogateBeforeAnotherCharacterStaysAlone) {
+  EXPECT_EQ(Utf8FromWide(L"\xD800\xE000"), "\xEF\xBF\xBD\xEE\x80\x80");
+  EXPECT_EQ(Utf8FromWide(L"\xD800\xDBFF"), "\xEF\xBF\xBD\xEF\xBF\xBD");
+}
+
+TEST(Utf8, ASurrogateThatStandsForNoByteIsItsOwnNumber) {
+  EXPECT_EQ(BytesFromWide(L"\xDC41"), "\xED\xB1\x81");
+  EXPECT_EQ(BytesFromWide(L"\xDD00"), "\xED\xB4\x80");
+}
+
+TEST(Utf8, ANumberThatIsNoCharacterIsReplaced) {
+  if (sizeof(wchar_t) == 2) GTEST_SKIP() << "no unit is so large here";
+  const std::wstring text(1, static_cast<wchar_t>(0x110000));
+  EXPECT_EQ(BytesFromWide(text), "\xEF\xBF\xBD");
+  EXPECT_EQ(Utf8FromWide(text), "\xEF\xBF\xBD");
+}
+
 TEST(Utf8, TheBytesOfASurrogateAreOneWhereNamesAreUnitsAndElseInvalid) {
   EXPECT_EQ(WideFromUtf8("\xED\xA0\x80").size(), sizeof(wchar_t) == 2 ? 1u : 3u);
   EXPECT_EQ(WideFromUtf8("\xED\x9F\xBF"), std::wstring(1, static_cast<wchar_t>(0xD7FF)));

@@ -77,6 +77,11 @@ std::optional<std::string> WriteFile(const std::string& path, std::string_view b
   std::wstring name;
   const HANDLE file = MakeBeside(target, name);
   if (file == INVALID_HANDLE_VALUE) return SystemMessage(GetLastError());
+  // Names of devices, such as NUL, stand for them whatever follows the first dot.
+  if (GetFileType(file) != FILE_TYPE_DISK) {
+    CloseHandle(file);
+    return "This is a device, not a file.";
+  }
   DWORD error = Fill(file, bytes);
   CloseHandle(file);
   if (error == ERROR_SUCCESS) error = TakePlace(name, target);

@@ -59,8 +59,13 @@ TEST(CallablePath, ThatIsLongOnlyAsItIsWrittenStaysAsItIs) {
   EXPECT_EQ(CallablePath(path), path);
 }
 
+TEST(CallablePath, ThatIsExtendedWithSlashesIsResolved) {
+  EXPECT_EQ(CallablePath(L"//?/C:/" + kLong + L"/a.dxf"), L"\\\\?\\C:\\" + kLong + L"\\a.dxf");
+}
+
 TEST(CallablePath, ThatIsExtendedAlreadyStaysAsItIs) {
-  for (const wchar_t* const head : {L"\\\\?\\C:\\", L"\\\\?\\UNC\\server\\share\\", L"\\\\.\\"}) {
+  for (const wchar_t* const head :
+       {L"\\\\?\\C:\\", L"\\\\?\\UNC\\server\\share\\", L"\\\\.\\", L"\\??\\C:\\"}) {
     EXPECT_EQ(CallablePath(head + kLong), head + kLong);
   }
 }

@@ -27,6 +27,18 @@ class OutputFile : public ::testing::Test {
   std::filesystem::path path = folder.Write("out.png", "old");
 };
 
+TEST_F(OutputFile, ThatIsADeviceIsToldToBe) {
+  EXPECT_EQ(WriteFile("NUL.png", "new"), "This is a device, not a file.");
+}
+
+TEST_F(OutputFile, ThatIsProtectedStays) {
+  SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_READONLY);
+  EXPECT_NE(WriteFile(BytesOf(path), "new"), std::nullopt);
+  SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+  EXPECT_EQ(ContentsOf(path), "old");
+  EXPECT_FALSE(std::filesystem::exists(folder.path() / "out.png.zdx-0"));
+}
+
 TEST_F(OutputFile, ThatAnotherProgramHasOpenStaysAndIsTold) {
   const HANDLE open = Open();
   const auto failure = WriteFile(BytesOf(path), "new");

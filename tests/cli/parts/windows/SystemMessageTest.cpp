@@ -13,8 +13,9 @@ using ::testing::HasSubstr;
 using ::testing::Not;
 
 TEST(SystemMessage, IsOneLineWithoutItsEnd) {
-  for (const DWORD number : {DWORD{ERROR_FILE_NOT_FOUND}, DWORD{ERROR_ACCESS_DENIED},
-                             DWORD{ERROR_SHARING_VIOLATION}, DWORD{ERROR_DISK_FULL}}) {
+  for (const DWORD number :
+       {DWORD{ERROR_FILE_NOT_FOUND}, DWORD{ERROR_ACCESS_DENIED}, DWORD{ERROR_SHARING_VIOLATION},
+        DWORD{ERROR_DISK_FULL}, DWORD{ERROR_BAD_EXE_FORMAT}}) {
     const std::string message = SystemMessage(number);
     EXPECT_GT(message.size(), 5u);
     EXPECT_THAT(message, Not(AnyOf(EndsWith(" "), HasSubstr("\r"), HasSubstr("\n"))));

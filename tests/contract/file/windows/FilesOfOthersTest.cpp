@@ -64,8 +64,33 @@ TEST_F(FilesOfOthers, ThatAreNotSharedAreInUse) {
 
 TEST_F(FilesOfOthers, ThatAreOpenForWritingAndSharedAreMapped) {
   const auto path = folder.Write("plan.dwg", "old");
-  const Opened opened(path, GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ);
+  const Opened opened(path, GENERIC_READ | GENERIC_WRITE | DELETE, FILE_SHARE_READ);
   EXPECT_EQ(FailureOfMapping(path.native()), std::nullopt);
+}
+
+TEST_F(FilesOfOthers, AreLetGoWithTheirMapping) {
+  const auto path = folder.Write("plan.dwg", "old");
+  std::error_code error;
+  {
+    const auto mapped = MappedFile::Open(path.native());
+    ASSERT_TRUE(std::holds_alternative<MappedFile>(mapped));
+    std::filesystem::resize_file(path, 0, error);
+    EXPECT_TRUE(error) << "what is mapped can be cut";
+  }
+  std::filesystem::resize_file(path, 0, error);
+  EXPECT_FALSE(error) << error.message();
+}
+
+TEST_F(FilesOfOthers, ThatBecameProtectedMeanwhileAreNotReplaced) {
+  const auto path = folder.Write("plan.dwg", "old");
+  auto begun = Replacement::Begin(path.native());
+  ASSERT_TRUE(std::holds_alternative<Replacement>(begun));
+  ASSERT_NE(SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_READONLY), FALSE);
+  const auto error = std::get<Replacement>(begun).Commit();
+  ASSERT_TRUE(error);
+  EXPECT_EQ(error->kind, Failure::kNoAccess);
+  EXPECT_EQ(ContentsOf(path), "old");
+  SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
 }
 
 TEST_F(FilesOfOthers, ThatAreOpenAreInUseForAReplacementAndKeepTheirContent) {
@@ -109,6 +134,12 @@ TEST_F(FilesOfOthers, AreNoDevices) {
                 testing::AnyOf(Failure::kNotAFile, Failure::kNotFound, Failure::kOther));
   }
   EXPECT_EQ(FailureOfMapping(L"NUL"), Failure::kNotAFile);
+}
+
+TEST_F(FilesOfOthers, AreNoDevicesForAReplacement) {
+  const auto begun = Replacement::Begin(folder.path().native() + L"\\NUL.dwg");
+  ASSERT_TRUE(std::holds_alternative<WriteError>(begun));
+  EXPECT_EQ(std::get<WriteError>(begun).kind, Failure::kNotAFile);
 }
 
 TEST_F(FilesOfOthers, OfNamesThatCannotBeAreNotFound) {

@@ -61,6 +61,10 @@ class Replacement::NewFile {
       handle_ = CreateFileW(name.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
                             FILE_ATTRIBUTE_NORMAL, nullptr);
       if (handle_ != INVALID_HANDLE_VALUE) {
+        // Names of devices, such as NUL, stand for them whatever follows the first dot.
+        if (GetFileType(handle_) != FILE_TYPE_DISK) {
+          return WriteError{Failure::kNotAFile, ERROR_BAD_DEVICE};
+        }
         name_ = std::move(name);
         return std::nullopt;
       }
