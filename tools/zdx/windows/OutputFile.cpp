@@ -70,10 +70,17 @@ DWORD TakePlace(const std::wstring& name, const std::wstring& path) {
   return IsOpenElsewhere(path) ? DWORD{ERROR_SHARING_VIOLATION} : error;
 }
 
+// A colon behind the drive's names a stream within a file, whose place nothing else can take.
+bool IsStream(const std::wstring& path) {
+  const std::size_t start = path.starts_with(L"\\\\?\\") ? 4 : 0;
+  return path.find(L':', start + 2) != std::wstring::npos;
+}
+
 }  // namespace
 
 std::optional<std::string> WriteFile(const std::string& path, std::string_view bytes) {
   const std::wstring target = CallablePath(ZDXEngine::WideFromUtf8(path));
+  if (IsStream(target)) return "This is a stream of a file, not a file.";
   std::wstring name;
   const HANDLE file = MakeBeside(target, name);
   if (file == INVALID_HANDLE_VALUE) return SystemMessage(GetLastError());

@@ -31,6 +31,13 @@ TEST_F(OutputFile, ThatIsADeviceIsToldToBe) {
   EXPECT_EQ(WriteFile("NUL.png", "new"), "This is a device, not a file.");
 }
 
+TEST_F(OutputFile, ThatIsAStreamOfAFileIsToldToBe) {
+  EXPECT_EQ(WriteFile(BytesOf(folder.path() / "plan.dxf") + ":out.png", "new"),
+            "This is a stream of a file, not a file.");
+  EXPECT_EQ(WriteFile("plan.dxf:out.png", "new"), "This is a stream of a file, not a file.");
+  EXPECT_FALSE(std::filesystem::exists(folder.path() / "plan.dxf"));
+}
+
 TEST_F(OutputFile, ThatIsProtectedStays) {
   SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_READONLY);
   EXPECT_NE(WriteFile(BytesOf(path), "new"), std::nullopt);
