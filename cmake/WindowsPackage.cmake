@@ -2,15 +2,7 @@
 # nothing of it.
 install(TARGETS zdx ZDXEngine RUNTIME DESTINATION bin ARCHIVE DESTINATION lib)
 
-# The compiler's runtime: shared, since exceptions cross the edge of the library.
-foreach(dll libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
-  execute_process(COMMAND ${CMAKE_CXX_COMPILER} -print-file-name=${dll}
-    OUTPUT_VARIABLE dll_file OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
-  install(PROGRAMS ${dll_file} DESTINATION bin)
-  install(CODE "execute_process(COMMAND ${CMAKE_STRIP} \"\${CMAKE_INSTALL_PREFIX}/bin/${dll}\"
-    COMMAND_ERROR_IS_FATAL ANY)")
-endforeach()
-
+install(PROGRAMS ${zdx_runtime_dlls} DESTINATION bin)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/ZDXEngine DESTINATION include)
 install(FILES ${PROJECT_SOURCE_DIR}/docs/cli.md ${PROJECT_SOURCE_DIR}/docs/json.md DESTINATION docs)
 install(FILES ${PROJECT_SOURCE_DIR}/examples/read_properties.cpp
