@@ -18,8 +18,8 @@ BENCH_PACKAGES := $(BUILD_PACKAGES) libbenchmark-dev
 SOURCE_FOLDERS := $(wildcard include src tools tests examples benchmarks)
 SOURCES = $(shell find $(SOURCE_FOLDERS) -name '*.h' -o -name '*.cpp')
 
-# Configure, build and test a preset.
-check = cmake --preset $(1) && cmake --build --preset $(1) -j$(JOBS) && ctest --preset $(1) -j$(JOBS)
+# Configure, build and test a preset, with so many tests at a time.
+check = cmake --preset $(1) && cmake --build --preset $(1) -j$(JOBS) && ctest --preset $(1) -j$(2)
 
 help:
 	@echo 'make demo             build the tool and show what it tells of the example drawings'
@@ -51,16 +51,17 @@ test:
 	@if command -v clang-format-14 > /dev/null; then $(MAKE) format-check; \
 	  else echo 'The form of the sources is not checked: clang-format-14 is not here.'; fi
 	@echo '== dev'
-	@$(call check,dev)
+	@$(call check,dev,$(JOBS))
 	@echo '== asan'
-	@$(call check,asan)
+	@$(call check,asan,$(JOBS))
 	@if $(MAKE) windows-tools 2> build/windows-tools.log; then $(MAKE) test-windows; \
 	  else echo "Windows isn't tested: $$(grep -v '^make' build/windows-tools.log | tail -n 1)"; fi
 
 test-windows: windows-tools
 	@.ci/windows-libraries $(JOBS)
 	@echo '== windows'
-	@{ $(call check,windows) && $(MAKE) compare-systems; }; status=$$?; .ci/wine --stop; exit $$status
+	@# Twice as many, for they wait for Wine's server as much as they compute.
+	@{ $(call check,windows,$$((2 * $(JOBS)))) && $(MAKE) compare-systems; }; status=$$?; .ci/wine --stop; exit $$status
 
 # What both systems tell of the examples, and of real drawings where there are some.
 compare-systems:

@@ -56,10 +56,13 @@ function(zdx_layer name folder)
   target_link_libraries(zdx_${name} PUBLIC zdx_options ${ARGN})
 endfunction()
 
-# zdx_test(NAME source... [LINK target...]): a GoogleTest program of which each test is one of CTest;
-# under the sanitizers the program is.
+# zdx_test(NAME source... [LINK target...] [PARTS count]): a GoogleTest program of which each test is one
+# of CTest; under the sanitizers the program is, or each of its parts if it takes long.
 function(zdx_test name)
-  cmake_parse_arguments(arg "" "" "LINK" ${ARGN})
+  cmake_parse_arguments(arg "" "PARTS" "LINK" ${ARGN})
+  if(NOT arg_PARTS)
+    set(arg_PARTS 1)
+  endif()
   zdx_keep_apart(${arg_UNPARSED_ARGUMENTS})
   add_executable(${name} ${arg_UNPARSED_ARGUMENTS})
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
@@ -72,8 +75,15 @@ function(zdx_test name)
   endif()
   if(ZDX_SANITIZE)
     # Starting a process costs the sanitizers more than most tests do.
-    add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)
-    set_tests_properties(${name} PROPERTIES TIMEOUT 300)
+    math(EXPR last "${arg_PARTS} - 1")
+    foreach(part RANGE ${last})
+      add_test(NAME ${name}_${part} COMMAND ${name} --gtest_brief=1)
+      set_tests_properties(${name}_${part} PROPERTIES TIMEOUT 300)
+      if(last)
+        set_tests_properties(${name}_${part} PROPERTIES
+          ENVIRONMENT "GTEST_TOTAL_SHARDS=${arg_PARTS};GTEST_SHARD_INDEX=${part}")
+      endif()
+    endforeach()
   else()
     gtest_discover_tests(${name} DISCOVERY_MODE PRE_TEST DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120)
   endif()
