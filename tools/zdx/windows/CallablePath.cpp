@@ -33,7 +33,7 @@ std::wstring Resolved(const std::wstring& path) {
 
 std::wstring CallablePath(const std::wstring& path) {
   if (path.empty() || IsVerbatim(path)) return path;
-  const std::wstring full = Resolved(path);
+  std::wstring full = Resolved(path);
   if (full.size() <= kMostPlainUnits) return path;
   if (IsVerbatim(full)) return full;
   if (full.starts_with(L"\\\\")) return L"\\\\?\\UNC\\" + full.substr(2);
