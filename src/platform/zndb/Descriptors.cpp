@@ -1,4 +1,6 @@
 // The descriptors of the classes, one of each in the process.
+#include "platform/zndb/ZnDbBlocks.h"
+#include "platform/zndb/ZnDbGeoData.h"
 #include "platform/zndb/ZnDbHostApplicationServices.h"
 #include "platform/zndb/ZnDbObjects.h"
 
@@ -69,6 +71,46 @@ ZnRxClass* ZnDbViewTable::desc() {
 
 ZnRxClass* ZnDbDictionary::desc() {
   static ZnRxClass descriptor(L"ZnDbDictionary", ZnDbObject::desc());
+  return &descriptor;
+}
+
+ZnRxClass* ZnDbBlockTableRecord::desc() {
+  static ZnRxClass descriptor(L"ZnDbBlockTableRecord", ZnDbSymbolTableRecord::desc());
+  return &descriptor;
+}
+
+ZnRxClass* ZnDbEntity::desc() {
+  static ZnRxClass descriptor(L"ZnDbEntity", ZnDbObject::desc());
+  return &descriptor;
+}
+
+ZnRxClass* ZnDbText::desc() {
+  static ZnRxClass descriptor(L"ZnDbText", ZnDbEntity::desc());
+  return &descriptor;
+}
+
+ZnRxClass* ZnDbMText::desc() {
+  static ZnRxClass descriptor(L"ZnDbMText", ZnDbEntity::desc());
+  return &descriptor;
+}
+
+ZnRxClass* ZnDbAttribute::desc() {
+  static ZnRxClass descriptor(L"ZnDbAttribute", ZnDbText::desc());
+  return &descriptor;
+}
+
+ZnRxClass* ZnDbAttributeDefinition::desc() {
+  static ZnRxClass descriptor(L"ZnDbAttributeDefinition", ZnDbText::desc());
+  return &descriptor;
+}
+
+ZnRxClass* ZnDbBlockReference::desc() {
+  static ZnRxClass descriptor(L"ZnDbBlockReference", ZnDbEntity::desc());
+  return &descriptor;
+}
+
+ZnRxClass* ZnDbGeoData::desc() {
+  static ZnRxClass descriptor(L"ZnDbGeoData", ZnDbObject::desc());
   return &descriptor;
 }
 

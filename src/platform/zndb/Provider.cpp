@@ -59,6 +59,10 @@ Zent::ErrorStatus zndbGetSummaryInfo(ZnDbDatabase* database, ZnDbDatabaseSummary
   return slot.Get().zndbGetSummaryInfo(database, info);
 }
 
+Zent::ErrorStatus zndbGetGeoDataObjId(ZnDbDatabase* database, ZnDbObjectId& id) {
+  return slot.Get().zndbGetGeoDataObjId(database, id);
+}
+
 bool zndbGetPreviewBitmapFromDwg(const wchar_t* path, os::HBITMAP& bitmap, os::HPALETTE& palette) {
   return slot.Get().zndbGetPreviewBitmapFromDwg(path, bitmap, palette);
 }
@@ -83,3 +87,18 @@ ZnDbDatabase::~ZnDbDatabase() = default;
 
 void* ZnDbDatabase::operator new(std::size_t size) noexcept { return znHeapAlloc(nullptr, size); }
 void ZnDbDatabase::operator delete(void* block) noexcept { znHeapFree(nullptr, block); }
+
+ZnDbDynBlockTableRecord::ZnDbDynBlockTableRecord(ZnDbObjectId id) : id_(id) {
+  slot.Get().keepDynBlock(this, id);
+}
+
+void* ZnDbDynBlockTableRecord::operator new(std::size_t size) noexcept {
+  return znHeapAlloc(nullptr, size);
+}
+void ZnDbDynBlockTableRecord::operator delete(void* block) noexcept { znHeapFree(nullptr, block); }
+
+bool ZnDbDynBlockTableRecord::isDynamicBlock() const { return slot.Get().isDynamicBlock(id_); }
+
+Zent::ErrorStatus ZnDbDynBlockTableRecord::getAnonymousBlockIds(ZnDbObjectIdArray& ids) const {
+  return slot.Get().getAnonymousBlockIds(id_, ids);
+}

@@ -4,8 +4,10 @@
 #include <cstddef>
 #include <memory>
 
+#include "platform/zndb/ZnDbBlocks.h"
 #include "platform/zndb/ZnDbDatabase.h"
 #include "platform/zndb/ZnDbDatabaseSummaryInfo.h"
+#include "platform/zndb/ZnDbGeoData.h"
 #include "platform/zndb/ZnDbHostApplicationServices.h"
 #include "platform/zndb/ZnDbObjects.h"
 #include "platform/zndb/ZnDbPreview.h"
@@ -84,6 +86,13 @@ class Provider {
                                            bool openErased) = 0;
   virtual Zent::ErrorStatus zndbGetSummaryInfo(ZnDbDatabase* database,
                                                ZnDbDatabaseSummaryInfo*& info) = 0;
+  virtual Zent::ErrorStatus zndbGetGeoDataObjId(ZnDbDatabase* database, ZnDbObjectId& id) = 0;
+
+  // Of ZnDbDynBlockTableRecord: told of each that is made, of the record `id`; the operations get
+  // that id.
+  virtual void keepDynBlock(ZnDbDynBlockTableRecord* block, ZnDbObjectId id) = 0;
+  virtual bool isDynamicBlock(ZnDbObjectId id) = 0;
+  virtual Zent::ErrorStatus getAnonymousBlockIds(ZnDbObjectId id, ZnDbObjectIdArray& ids) = 0;
 
   virtual bool zndbGetPreviewBitmapFromDwg(const wchar_t* path, os::HBITMAP& bitmap,
                                            os::HPALETTE& palette) = 0;

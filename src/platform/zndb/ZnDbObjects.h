@@ -39,6 +39,8 @@ class ZnDbObject : public ZnRxObject {
 
   // Null if the object isn't in a database.
   virtual ZnDbObjectId objectId() const = 0;
+  // What it stands in: for an entity the record of its block.  Null where the library doesn't tell.
+  virtual ZnDbObjectId ownerId() const = 0;
   virtual Zent::ErrorStatus close() = 0;
   // Checks that the object is open for read; it never returns otherwise.
   virtual void assertReadEnabled() const = 0;
@@ -83,6 +85,8 @@ class ZnDbSymbolTableIterator {
   virtual bool done() const = 0;
   virtual Zent::ErrorStatus getRecordId(ZnDbObjectId& id) const = 0;
   virtual void step(bool forward, bool skipDeleted) = 0;
+  // Goes to the record `id`; on failure, if the table has no such record, it stays where it is.
+  virtual Zent::ErrorStatus seek(ZnDbObjectId id) = 0;
 
  protected:
   ZnDbSymbolTableIterator() = default;

@@ -30,6 +30,18 @@ class TableIterator : public ZnDbSymbolTableIterator {
     at_ += forward ? 1 : -1;
     if (skipDeleted) SkipErased(forward ? 1 : -1);
   }
+  Zent::ErrorStatus seek(ZnDbObjectId id) override {
+    const Node* const wanted = NodeOf(id);
+    const Outcome outcome =
+        objects_.Log().Record(label_, "seek", wanted == nullptr ? "null" : wanted->label);
+    if (outcome.status != Zent::kOk) return outcome.status;
+    for (int i = 0; i < Count(); ++i) {
+      if (&table_.records[static_cast<std::size_t>(i)] != wanted) continue;
+      at_ = i;
+      return Zent::kOk;
+    }
+    return Zent::kKeyNotFound;
+  }
 
  private:
   int Count() const { return static_cast<int>(table_.records.size()); }

@@ -97,6 +97,20 @@ Zent::ErrorStatus Library::zndbGetSummaryInfo(ZnDbDatabase* /*database*/,
   return outcome.status;
 }
 
+Zent::ErrorStatus Library::zndbGetGeoDataObjId(ZnDbDatabase* /*database*/, ZnDbObjectId& id) {
+  id = ZnDbObjectId();
+  return calls_.Record("", "zndbGetGeoDataObjId").status;
+}
+
+void Library::keepDynBlock(ZnDbDynBlockTableRecord* /*block*/, ZnDbObjectId /*id*/) {}
+
+bool Library::isDynamicBlock(ZnDbObjectId /*id*/) { return false; }
+
+Zent::ErrorStatus Library::getAnonymousBlockIds(ZnDbObjectId /*id*/, ZnDbObjectIdArray& ids) {
+  ids.clear();
+  return Zent::kOk;
+}
+
 bool Library::zndbGetPreviewBitmapFromDwg(const wchar_t* path, os::HBITMAP& bitmap,
                                           os::HPALETTE& palette) {
   const std::string before = bitmap == nullptr && palette == nullptr ? "null" : "not null";

@@ -50,6 +50,11 @@ class Library : public zndb::Provider {
                                    int mode, bool openErased) override;
   Zent::ErrorStatus zndbGetSummaryInfo(ZnDbDatabase* database,
                                        ZnDbDatabaseSummaryInfo*& info) override;
+  Zent::ErrorStatus zndbGetGeoDataObjId(ZnDbDatabase* database, ZnDbObjectId& id) override;
+
+  void keepDynBlock(ZnDbDynBlockTableRecord* block, ZnDbObjectId id) override;
+  bool isDynamicBlock(ZnDbObjectId id) override;
+  Zent::ErrorStatus getAnonymousBlockIds(ZnDbObjectId id, ZnDbObjectIdArray& ids) override;
 
   // A script with a status makes it answer false and hand out the handles all the same.
   bool zndbGetPreviewBitmapFromDwg(const wchar_t* path, os::HBITMAP& bitmap,

@@ -25,6 +25,10 @@ class Object : public Base {
     Record("objectId");
     return node_.inDatabase ? IdOf(node_) : ZnDbObjectId();
   }
+  ZnDbObjectId ownerId() const override {
+    Record("ownerId");
+    return {};
+  }
   Zent::ErrorStatus close() override {
     owner_.Closed(this, node_);
     return Record("close").status;

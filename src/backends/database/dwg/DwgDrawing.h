@@ -48,6 +48,17 @@ class DwgDrawing : public model::Drawing {
   std::wstring DictionaryName(model::DictionaryKind kind) const override;
   std::optional<model::ObjectKey> Find(model::Handle handle) override;
   model::ObjectDescription Describe(model::ObjectKey object) override;
+  bool IsLayoutBlock(model::ObjectKey block) override;
+  std::vector<model::ObjectKey> BlockEntities(model::ObjectKey block) override;
+  std::vector<model::ObjectKey> BlockReferences(model::ObjectKey block) override;
+  bool IsDynamicBlock(model::ObjectKey block) override;
+  std::vector<model::ObjectKey> AnonymousCopies(model::ObjectKey block) override;
+  std::optional<model::ObjectKey> OwnerBlock(model::ObjectKey entity) override;
+  std::optional<std::wstring> EntityText(model::ObjectKey entity) override;
+  model::Attribute ReadAttribute(model::ObjectKey entity) override;
+  model::BlockReference ReadBlockReference(model::ObjectKey entity) override;
+  std::optional<model::ObjectKey> GeoDataObject() override;
+  std::optional<model::GeoData> ReadGeoData(model::ObjectKey object) override;
   std::optional<std::wstring> SettingText(model::Setting setting) override;
   std::optional<model::Summary> ReadSummary() override;
   std::vector<model::StoredPicture> PreviewPictures() override;

@@ -11,6 +11,7 @@
 #include <utility>
 #include <vector>
 
+#include "backends/database/model/Entities.h"
 #include "backends/database/model/Version.h"
 
 namespace zdx::model {
@@ -45,7 +46,19 @@ struct DictionaryEntry {
 
 // What an object is.
 struct ObjectDescription {
-  enum class Kind { kObject, kDictionary, kProxy };
+  enum class Kind {
+    kObject,
+    kDictionary,
+    kProxy,
+    kGeoData,
+    // Entities; the first stands for all that have no kind of their own.
+    kEntity,
+    kText,
+    kMText,
+    kAttribute,
+    kAttributeDefinition,
+    kBlockReference,
+  };
   Kind kind = Kind::kObject;
   // The name of the object's class; of the class it stands for if it is a proxy.
   std::wstring className;
@@ -100,7 +113,37 @@ class Drawing {
 
   // The object of that handle; nullopt if the drawing has none.
   virtual std::optional<ObjectKey> Find(Handle handle) = 0;
+  // kObject without a name for one that can't be read.  The name of a table's record is told by
+  // RecordName.
   virtual ObjectDescription Describe(ObjectKey object) = 0;
+
+  // Whether a block's record is that of model space or of a layout's paper.
+  virtual bool IsLayoutBlock(ObjectKey block) = 0;
+  // The entities of a block in stored order.  Attributes of references aren't among them, nor what
+  // begins and ends blocks and sequences.
+  virtual std::vector<ObjectKey> BlockEntities(ObjectKey block) = 0;
+  // The references that name this very record, wherever they stand: in the order in which the
+  // drawing lists them, then those that it doesn't list by their handles, then those without one as
+  // they stand in the file.
+  virtual std::vector<ObjectKey> BlockReferences(ObjectKey block) = 0;
+  virtual bool IsDynamicBlock(ObjectKey block) = 0;
+  // The records of the anonymous blocks that carry the variations of a dynamic block, in table
+  // order.
+  virtual std::vector<ObjectKey> AnonymousCopies(ObjectKey block) = 0;
+  // The record of the block in which an entity stands; nullopt if it isn't known.  Attributes stand
+  // in their reference, so that theirs isn't told.
+  virtual std::optional<ObjectKey> OwnerBlock(ObjectKey entity) = 0;
+  // The text of an entity of kind kText or kMText; nullopt if it can't be read.
+  virtual std::optional<std::wstring> EntityText(ObjectKey entity) = 0;
+  // Of an entity of kind kAttribute or kAttributeDefinition.
+  virtual Attribute ReadAttribute(ObjectKey entity) = 0;
+  // Of an entity of kind kBlockReference.
+  virtual BlockReference ReadBlockReference(ObjectKey entity) = 0;
+
+  // The location object, of kind kGeoData; nullopt if the drawing has none.
+  virtual std::optional<ObjectKey> GeoDataObject() = 0;
+  // nullopt if it can't be read.
+  virtual std::optional<GeoData> ReadGeoData(ObjectKey object) = 0;
 
   // A text setting; nullopt if the drawing's version can't hold it or it can't be read.  An arrow's
   // name is that of its block.

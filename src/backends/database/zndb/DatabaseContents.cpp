@@ -1,5 +1,7 @@
 // What a drawing holds: its tables, dictionaries and objects, and its settings.
+#include "backends/database/zndb/BlockObjects.h"
 #include "backends/database/zndb/EmbeddedDatabase.h"
+#include "backends/database/zndb/GeoObject.h"
 #include "backends/database/zndb/Objects.h"
 #include "base/CaseFold.h"
 
@@ -14,6 +16,12 @@ ZnDbObjectId EmbeddedDatabase::RecordId(model::TableKind table, model::ObjectKey
 ZnDbObjectId EmbeddedDatabase::HandleId(model::Handle handle) {
   ZnDbStub*& stub = handleStubs_[handle];
   if (stub == nullptr) stub = &stubs_.emplace_back(this, handle);
+  return ZnDbObjectId(stub);
+}
+
+ZnDbObjectId EmbeddedDatabase::EntityId(model::ObjectKey entity) {
+  ZnDbStub*& stub = entityStubs_[static_cast<std::uint64_t>(entity)];
+  if (stub == nullptr) stub = &stubs_.emplace_back(this, entity);
   return ZnDbObjectId(stub);
 }
 
@@ -35,26 +43,70 @@ std::unique_ptr<ZnDbObject> EmbeddedDatabase::MakeRecord(ZnDbStub& stub) const {
     case model::TableKind::kView:
       return std::make_unique<EmbeddedRecord<ZnDbViewTableRecord>>(&stub);
     default:
-      return std::make_unique<EmbeddedRecord<ZnDbSymbolTableRecord>>(&stub);
+      return std::make_unique<EmbeddedBlockRecord>(&stub);
   }
 }
 
 std::unique_ptr<ZnDbObject> EmbeddedDatabase::MakeObject(ZnDbStub& stub) {
+  using Kind = model::ObjectDescription::Kind;
   model::ObjectDescription description = drawing_->Describe(*stub.key);
   switch (description.kind) {
-    case model::ObjectDescription::Kind::kDictionary:
+    case Kind::kDictionary:
       return std::make_unique<EmbeddedDictionary>(&stub, drawing_->DictionaryEntries(*stub.key));
-    case model::ObjectDescription::Kind::kProxy:
+    case Kind::kProxy:
       return std::make_unique<EmbeddedProxy>(&stub, std::move(description.className));
+    case Kind::kGeoData: {
+      auto data = drawing_->ReadGeoData(*stub.key);
+      if (!data) return nullptr;
+      return std::make_unique<EmbeddedGeoData>(&stub, *std::move(data));
+    }
+    case Kind::kEntity:
+      return std::make_unique<PlainEntity>(
+          &stub, ClassNamed(description.className, ZnDbEntity::desc()));
+    case Kind::kText:
+      return std::make_unique<EmbeddedText>(&stub);
+    case Kind::kMText:
+      return std::make_unique<EmbeddedMText>(&stub);
+    case Kind::kAttribute:
+      return std::make_unique<EmbeddedAttribute>(&stub, drawing_->ReadAttribute(*stub.key));
+    case Kind::kAttributeDefinition:
+      return std::make_unique<EmbeddedAttributeDefinition>(&stub,
+                                                           drawing_->ReadAttribute(*stub.key));
+    case Kind::kBlockReference:
+      return std::make_unique<EmbeddedBlockReference>(&stub);
     default:
-      return std::make_unique<EmbeddedObject>(&stub, ClassNamed(description.className));
+      return std::make_unique<EmbeddedObject>(
+          &stub, ClassNamed(description.className, ZnDbObject::desc()));
   }
 }
 
-ZnRxClass* EmbeddedDatabase::ClassNamed(const std::wstring& name) {
-  std::unique_ptr<ZnRxClass>& known = classes_[name];
-  if (known == nullptr) known = std::make_unique<ZnRxClass>(name, ZnDbObject::desc());
+ZnRxClass* EmbeddedDatabase::ClassNamed(const std::wstring& name, const ZnRxClass* parent) {
+  std::unique_ptr<ZnRxClass>& known = classes_[{name, parent}];
+  if (known == nullptr) known = std::make_unique<ZnRxClass>(name, parent);
   return known.get();
+}
+
+Zent::ErrorStatus EmbeddedDatabase::GetGeoDataId(ZnDbObjectId& id) {
+  id = ZnDbObjectId();
+  if (drawing_ == nullptr) return Zent::kNotApplicable;
+  const std::optional<model::ObjectKey> object = drawing_->GeoDataObject();
+  if (!object) return Zent::kKeyNotFound;
+  id = EntityId(*object);
+  return Zent::kOk;
+}
+
+bool EmbeddedDatabase::IsDynamicBlock(const ZnDbStub& record) {
+  return record.table == model::TableKind::kBlock && drawing_->IsDynamicBlock(*record.key);
+}
+
+Zent::ErrorStatus EmbeddedDatabase::GetAnonymousBlockIds(const ZnDbStub& record,
+                                                         ZnDbObjectIdArray& ids) {
+  ids.clear();
+  if (!IsDynamicBlock(record)) return Zent::kNotApplicable;
+  for (const model::ObjectKey copy : drawing_->AnonymousCopies(*record.key)) {
+    ids.push_back(RecordId(model::TableKind::kBlock, copy));
+  }
+  return Zent::kOk;
 }
 
 template <class Table>

@@ -88,6 +88,26 @@ class Provider : public ::zndb::Provider {
     return Zent::kOk;
   }
 
+  Zent::ErrorStatus zndbGetGeoDataObjId(ZnDbDatabase* database, ZnDbObjectId& id) override {
+    id = ZnDbObjectId();
+    if (database == nullptr) return Zent::kNullDatabase;
+    return static_cast<EmbeddedDatabase&>(database->body()).GetGeoDataId(id);
+  }
+
+  // One of no drawing is nobody's.
+  void keepDynBlock(ZnDbDynBlockTableRecord* block, ZnDbObjectId id) override {
+    if (!id.isNull()) id.stub()->owner->Keep(block);
+  }
+
+  bool isDynamicBlock(ZnDbObjectId id) override {
+    return !id.isNull() && id.stub()->owner->IsDynamicBlock(*id.stub());
+  }
+
+  Zent::ErrorStatus getAnonymousBlockIds(ZnDbObjectId id, ZnDbObjectIdArray& ids) override {
+    if (id.isNull()) return Zent::kUnknownHandle;
+    return id.stub()->owner->GetAnonymousBlockIds(*id.stub(), ids);
+  }
+
   bool zndbGetPreviewBitmapFromDwg(const wchar_t* path, os::HBITMAP& bitmap,
                                    os::HPALETTE& palette) override {
     if (path == nullptr) return false;

@@ -8,7 +8,10 @@ namespace zdx::database {
 
 EmbeddedDatabase::EmbeddedDatabase(OpenDatabases& open) : open_(open) { open_.Add(this); }
 
-EmbeddedDatabase::~EmbeddedDatabase() { open_.Remove(this); }
+EmbeddedDatabase::~EmbeddedDatabase() {
+  for (ZnDbDynBlockTableRecord* const block : dynBlocks_) znHeapFree(nullptr, block);
+  open_.Remove(this);
+}
 
 // Takes up the reading of `path`; false if a drawing was read already, whose objects are handed
 // out.

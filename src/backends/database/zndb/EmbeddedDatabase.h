@@ -7,6 +7,8 @@
 #include <optional>
 #include <string>
 #include <unordered_map>
+#include <utility>
+#include <vector>
 
 #include "backends/database/model/Drawing.h"
 #include "backends/database/model/Report.h"
@@ -31,11 +33,19 @@ class EmbeddedDatabase : public ::zndb::DatabaseBody {
   const std::wstring& path() const { return path_; }
   model::Report& report() const { return *report_; }
 
-  // The ids of a table's record and of the object with a handle, which need not exist.
+  // The ids of a table's record, of any other object that the drawing told of, and of the object
+  // with a handle, which need not exist.
   ZnDbObjectId RecordId(model::TableKind table, model::ObjectKey record);
+  ZnDbObjectId EntityId(model::ObjectKey entity);
   ZnDbObjectId HandleId(model::Handle handle);
   // The object that `stub` stands for; null if there is none.
   ZnDbObject* Open(ZnDbStub& stub);
+
+  Zent::ErrorStatus GetGeoDataId(ZnDbObjectId& id);
+  bool IsDynamicBlock(const ZnDbStub& record);
+  Zent::ErrorStatus GetAnonymousBlockIds(const ZnDbStub& record, ZnDbObjectIdArray& ids);
+  // Takes `block` over.
+  void Keep(ZnDbDynBlockTableRecord* block) { dynBlocks_.push_back(block); }
 
   Zent::ErrorStatus readDwgFile(const wchar_t* path, int openMode, bool allowCodePageConversion,
                                 const wchar_t* password) override;
@@ -75,7 +85,7 @@ class EmbeddedDatabase : public ::zndb::DatabaseBody {
   Zent::ErrorStatus OpenTable(Table*& table, model::TableKind kind);
   std::unique_ptr<ZnDbObject> MakeRecord(ZnDbStub& stub) const;
   std::unique_ptr<ZnDbObject> MakeObject(ZnDbStub& stub);
-  ZnRxClass* ClassNamed(const std::wstring& name);
+  ZnRxClass* ClassNamed(const std::wstring& name, const ZnRxClass* parent);
   Zent::ErrorStatus OpenDictionary(ZnDbObjectId id, ZnDbDictionary*& dictionary);
   Zent::ErrorStatus OpenStandardDictionary(model::DictionaryKind kind, ZnDbDictionary*& dictionary);
   bool Begin(const wchar_t* path);
@@ -93,11 +103,13 @@ class EmbeddedDatabase : public ::zndb::DatabaseBody {
   // Stubs stay where they are: ids point at them.
   mutable std::deque<ZnDbStub> stubs_;
   std::unordered_map<std::uint64_t, ZnDbStub*> recordStubs_;
+  std::unordered_map<std::uint64_t, ZnDbStub*> entityStubs_;
   std::unordered_map<model::Handle, ZnDbStub*> handleStubs_;
   std::map<model::TableKind, ZnDbStub*> tableStubs_;
   mutable ZnDbStub* rootStub_ = nullptr;
   // The classes of objects that have no operations of their own here.
-  std::map<std::wstring, std::unique_ptr<ZnRxClass>> classes_;
+  std::map<std::pair<std::wstring, const ZnRxClass*>, std::unique_ptr<ZnRxClass>> classes_;
+  std::vector<ZnDbDynBlockTableRecord*> dynBlocks_;
 };
 
 }  // namespace zdx::database

@@ -1,7 +1,8 @@
 #include "backends/database/zndb/Objects.h"
 
-#include <optional>
+#include <algorithm>
 
+#include "platform/zndb/ZnDbBlocks.h"
 #include "backends/database/zndb/EmbeddedDatabase.h"
 #include "base/CaseFold.h"
 
@@ -33,6 +34,15 @@ class TableIterator : public ZnDbSymbolTableIterator {
     at_ = leavesFront ? records_->size() : at_ + (forward ? 1 : -std::size_t{1});
   }
 
+  Zent::ErrorStatus seek(ZnDbObjectId id) override {
+    const bool mayBeHere = !id.isNull() && id.stub()->owner == database_ && id.stub()->key;
+    const auto found = mayBeHere ? std::find(records_->begin(), records_->end(), *id.stub()->key)
+                                 : records_->end();
+    if (found == records_->end()) return Zent::kKeyNotFound;
+    at_ = static_cast<std::size_t>(found - records_->begin());
+    return Zent::kOk;
+  }
+
  private:
   EmbeddedDatabase* database_;
   model::TableKind kind_;
@@ -60,13 +70,13 @@ class DictionaryIterator : public ZnDbDictionaryIterator {
   std::size_t at_ = 0;
 };
 
+}  // namespace
+
 Zent::ErrorStatus Give(const std::optional<std::wstring>& text, ZnString& out) {
   if (!text) return Zent::kNotApplicable;
   out = ZnString(text->c_str());
   return Zent::kOk;
 }
-
-}  // namespace
 
 template <class Base>
 Zent::ErrorStatus EmbeddedRecord<Base>::getName(ZnString& name) const {
@@ -112,7 +122,7 @@ ZnDbDictionaryIterator* EmbeddedDictionary::newIterator() const {
   return new DictionaryIterator(entries_);
 }
 
-template class EmbeddedRecord<ZnDbSymbolTableRecord>;
+template class EmbeddedRecord<ZnDbBlockTableRecord>;
 template class EmbeddedRecord<ZnDbLayerTableRecord>;
 template class EmbeddedRecord<ZnDbLinetypeTableRecord>;
 template class EmbeddedRecord<ZnDbViewTableRecord>;

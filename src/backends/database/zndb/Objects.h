@@ -1,6 +1,7 @@
 // The objects that the database hands out.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -10,6 +11,9 @@
 
 namespace zdx::database {
 
+// Hands a text out; one that can't be read is a failure.
+Zent::ErrorStatus Give(const std::optional<std::wstring>& text, ZnString& out);
+
 // What all of them share.  They hold nothing that closing could give back.
 template <class Base>
 class Embedded : public Base {
@@ -18,6 +22,7 @@ class Embedded : public Base {
 
   ZnRxClass* isA() const override { return Base::desc(); }
   ZnDbObjectId objectId() const override { return ZnDbObjectId(stub_); }
+  ZnDbObjectId ownerId() const override { return {}; }
   Zent::ErrorStatus close() override { return Zent::kOk; }
   // Objects of a database that is only read are always open for read.
   void assertReadEnabled() const override {}

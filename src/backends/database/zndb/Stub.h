@@ -17,6 +17,9 @@ class ZnDbStub {
   ZnDbStub(zdx::database::EmbeddedDatabase* database, zdx::model::TableKind kind,
            zdx::model::ObjectKey place)
       : owner(database), table(kind), key(place) {}
+  // Any other object whose place is known.
+  ZnDbStub(zdx::database::EmbeddedDatabase* database, zdx::model::ObjectKey place)
+      : owner(database), key(place) {}
   // An object that others name by its handle, or a table (handle 0).
   ZnDbStub(zdx::database::EmbeddedDatabase* database, zdx::model::Handle number)
       : owner(database), handle(number) {}
