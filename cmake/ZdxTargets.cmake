@@ -57,7 +57,7 @@ function(zdx_layer name folder)
 endfunction()
 
 # zdx_test(NAME source... [LINK target...] [PARTS count]): a GoogleTest program of which each test is one
-# of CTest; under the sanitizers the program is, or each of its parts if it takes long.
+# of CTest; under the sanitizers and for Windows the program is, or each of its parts if it takes long.
 function(zdx_test name)
   cmake_parse_arguments(arg "" "PARTS" "LINK" ${ARGN})
   if(NOT arg_PARTS)
@@ -73,8 +73,8 @@ function(zdx_test name)
     # Nor are the overruns that it sees in sums of temporary strings, which tests are full of.
     target_compile_options(${name} PRIVATE -Wno-array-bounds -Wno-stringop-overflow)
   endif()
-  if(ZDX_SANITIZE)
-    # Starting a process costs the sanitizers more than most tests do.
+  if(ZDX_SANITIZE OR WIN32)
+    # Starting a process costs the sanitizers, and Wine, more than most tests do.
     math(EXPR last "${arg_PARTS} - 1")
     foreach(part RANGE ${last})
       add_test(NAME ${name}_${part} COMMAND ${name} --gtest_brief=1)
