@@ -164,18 +164,14 @@ TEST_P(BlocksOfEveryVersion, AreListedWithWhatTheyCarry) {
   EXPECT_EQ(gate.variations, IsOldest() ? 0u : 2u);
 }
 
-std::string TestName(const testing::TestParamInfo<zdx_test::WrittenAs>& info) {
-  return zdx_test::WritingTestName(info.param);
-}
-
 INSTANTIATE_TEST_SUITE_P(Dxf, BlocksOfEveryVersion,
                          testing::Combine(testing::ValuesIn(zdx_test::kDxfVersions),
                                           testing::ValuesIn(zdx_test::kDxfWritings)),
-                         TestName);
+                         zdx_test::WritingTestName);
 INSTANTIATE_TEST_SUITE_P(Dwg, BlocksOfEveryVersion,
                          testing::Combine(testing::ValuesIn(zdx_test::kDwgVersions),
                                           testing::ValuesIn(zdx_test::kDwgWritings)),
-                         TestName);
+                         zdx_test::WritingTestName);
 
 // The oldest drawings may do without blocks for the spaces, which are layouts all the same.
 class BlocksWithoutSpaces : public BlocksOfEveryVersion {};
@@ -191,6 +187,6 @@ TEST_P(BlocksWithoutSpaces, GiveThoseOfModelSpaceRatherThanOfABlock) {
 INSTANTIATE_TEST_SUITE_P(Dxf, BlocksWithoutSpaces,
                          testing::Combine(testing::Values("AC1009"),
                                           testing::ValuesIn(zdx_test::kDxfWritings)),
-                         TestName);
+                         zdx_test::WritingTestName);
 
 }  // namespace

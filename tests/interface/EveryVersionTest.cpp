@@ -177,17 +177,13 @@ TEST_P(EveryVersion, IsAPlainDrawing) {
   EXPECT_THAT(reading.Texts(L"DWG Type"), ElementsAre("Zent"));
 }
 
-std::string TestName(const testing::TestParamInfo<EveryVersion::ParamType>& info) {
-  return zdx_test::WritingTestName(info.param);
-}
-
 INSTANTIATE_TEST_SUITE_P(Dxf, EveryVersion,
                          testing::Combine(testing::ValuesIn(zdx_test::kDxfVersions),
                                           testing::ValuesIn(zdx_test::kDxfWritings)),
-                         TestName);
+                         zdx_test::WritingTestName);
 INSTANTIATE_TEST_SUITE_P(Dwg, EveryVersion,
                          testing::Combine(testing::ValuesIn(zdx_test::kDwgVersions),
                                           testing::ValuesIn(zdx_test::kDwgWritings)),
-                         TestName);
+                         zdx_test::WritingTestName);
 
 }  // namespace

@@ -1,6 +1,9 @@
 // The forms in which one drawing is written for a test.
 #pragma once
 
+#include <gtest/gtest.h>
+
+#include <ostream>
 #include <string>
 #include <string_view>
 #include <tuple>
@@ -18,6 +21,10 @@ struct Writing {
 
   bool IsDwg() const { return std::wstring_view(L"DWG") == format; }
   const char* Suffix() const { return IsDwg() ? ".dwg" : ".dxf"; }
+
+  friend std::ostream& operator<<(std::ostream& out, const Writing& writing) {
+    return out << writing.name;
+  }
 };
 
 template <char... kLineEnd>
@@ -61,8 +68,8 @@ inline constexpr const char* kDwgVersions[] = {"AC1014", "AC1015", "AC1018", "AC
 // A version and a form.
 using WrittenAs = std::tuple<const char*, Writing>;
 
-inline std::string WritingTestName(const WrittenAs& written) {
-  return std::string(std::get<0>(written)) + std::get<1>(written).name;
+inline std::string WritingTestName(const testing::TestParamInfo<WrittenAs>& info) {
+  return std::string(std::get<0>(info.param)) + std::get<1>(info.param).name;
 }
 
 }  // namespace zdx_test

@@ -105,7 +105,7 @@ void WalkCopies(ZnDbObjectId record, WalkedBlock& walked) {
   auto* const dynamic = new ZnDbDynBlockTableRecord(record);
   walked.isDynamic = dynamic->isDynamicBlock();
   ZnDbObjectIdArray copies;
-  EXPECT_EQ(dynamic->getAnonymousBlockIds(copies), Zent::kOk);
+  EXPECT_EQ(dynamic->getAnonymousBlockIds(copies) == Zent::kOk, walked.isDynamic);
   for (const ZnDbObjectId copy : copies) walked.copies.push_back(NameOfBlock(copy));
 }
 

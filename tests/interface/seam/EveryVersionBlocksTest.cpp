@@ -190,18 +190,14 @@ TEST_P(ReferencesOfEveryVersion, OfOneBlockAreNotThoseOfAnother) {
   EXPECT_EQ(Block("OTHER").references.size(), 0u);
 }
 
-std::string TestName(const testing::TestParamInfo<zdx_test::WrittenAs>& info) {
-  return zdx_test::WritingTestName(info.param);
-}
-
 const auto kEachDxf = testing::Combine(testing::ValuesIn(zdx_test::kDxfVersions),
                                        testing::ValuesIn(zdx_test::kDxfWritings));
 const auto kEachDwg = testing::Combine(testing::ValuesIn(zdx_test::kDwgVersions),
                                        testing::ValuesIn(zdx_test::kDwgWritings));
-INSTANTIATE_TEST_SUITE_P(Dxf, EveryVersionBlocks, kEachDxf, TestName);
-INSTANTIATE_TEST_SUITE_P(Dwg, EveryVersionBlocks, kEachDwg, TestName);
-INSTANTIATE_TEST_SUITE_P(Dxf, ReferencesOfEveryVersion, kEachDxf, TestName);
-INSTANTIATE_TEST_SUITE_P(Dwg, ReferencesOfEveryVersion, kEachDwg, TestName);
+INSTANTIATE_TEST_SUITE_P(Dxf, EveryVersionBlocks, kEachDxf, zdx_test::WritingTestName);
+INSTANTIATE_TEST_SUITE_P(Dwg, EveryVersionBlocks, kEachDwg, zdx_test::WritingTestName);
+INSTANTIATE_TEST_SUITE_P(Dxf, ReferencesOfEveryVersion, kEachDxf, zdx_test::WritingTestName);
+INSTANTIATE_TEST_SUITE_P(Dwg, ReferencesOfEveryVersion, kEachDwg, zdx_test::WritingTestName);
 
 // The oldest drawings may have no handles, and no blocks for the spaces.
 class OldestBlocks : public ReferencesOfEveryVersion {};
@@ -229,6 +225,6 @@ TEST_P(OldestBlocks, WithoutBlocksForTheSpacesHaveTheirReferencesInThemAllTheSam
 INSTANTIATE_TEST_SUITE_P(Dxf, OldestBlocks,
                          testing::Combine(testing::Values("AC1009"),
                                           testing::ValuesIn(zdx_test::kDxfWritings)),
-                         TestName);
+                         zdx_test::WritingTestName);
 
 }  // namespace
