@@ -88,7 +88,7 @@ Summary DwgDrawing::SummaryOfSection() {
   Summary summary;
   Section* const section = container_->Find(SectionId::kSummary);
   if (section == nullptr) return summary;
-  std::string scratch;
+  Scratch scratch;
   const auto bytes = section->Bytes(0, section->size(), scratch);
   const StoredSummary stored = ReadSummarySection(bytes.value_or(std::string_view()), format_);
   if (stored.damaged) WarnAt(L"The summary ends early.", section->PlaceOf(0));

@@ -45,7 +45,7 @@ void ObjectMap::FindPages(model::Handle handle) {
 
 // Finds the next page; false if there is none.
 bool ObjectMap::FindPage() {
-  std::string scratch;
+  Scratch scratch;
   const auto head = section_->Bytes(next_, kPageSizeSize, scratch);
   const std::uint64_t size = head ? HighFirst(*head) : 0;
   if (size == kPageSizeSize) return false;
@@ -82,7 +82,7 @@ void ObjectMap::CheckSum(std::string_view bytes, const Page& page) {
 
 void ObjectMap::SetMarks(Page& page) {
   page.isMarked = true;
-  std::string scratch;
+  Scratch scratch;
   const auto bytes = section_->Bytes(page.at, page.size, scratch);
   if (!bytes) {
     Warn(L"A page of the object map can't be read.", page.at);
@@ -101,7 +101,7 @@ void ObjectMap::SetMarks(Page& page) {
 void ObjectMap::Sort() {
   Warn(L"The object map isn't in order.", 0);
   sorted_.emplace();
-  std::string scratch;
+  Scratch scratch;
   for (const Page& page : pages_) {
     const auto bytes = section_->Bytes(page.at, page.size, scratch);
     if (!bytes) continue;
@@ -146,7 +146,7 @@ std::optional<std::uint64_t> ObjectMap::FindIn(Page& page, model::Handle handle)
   if (mark != page.marks.begin()) --mark;
   if (mark == page.marks.end()) return std::nullopt;
   const std::uint64_t left = page.size - kCrcSize - mark->next;
-  std::string scratch;
+  Scratch scratch;
   const auto bytes =
       section_->Bytes(page.at + mark->next, std::min(left, kMarkEvery * kMostEntrySize), scratch);
   if (!bytes) return std::nullopt;

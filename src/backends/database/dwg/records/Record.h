@@ -60,7 +60,7 @@ class Record {
   void SkipPicture(BitReader& reader) const;
 
   Format format_;
-  std::string scratch_;
+  Scratch scratch_;
   // What was read, and the part from its type to its check.
   std::string_view bytes_;
   std::string_view body_;
