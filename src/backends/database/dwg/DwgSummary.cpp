@@ -61,7 +61,7 @@ std::optional<std::wstring> DwgDrawing::ArrowName(const FieldValues::Value& valu
     return model::ArrowBlockName(Text(value.bytes, model::TextUse::kName),
                                  [this](const std::wstring& name) { return BlockSpelling(name); });
   }
-  const model::Handle block = value.handle.From(0);
+  const model::Handle block = value.number;
   if (block == 0) return L"";
   if (!Find(block)) {
     Warn(L"The header names an arrow's block that isn't there.", block);

@@ -157,6 +157,34 @@ std::optional<std::uint64_t> ObjectMap::FindIn(Page& page, model::Handle handle)
   return entry.first == handle ? std::optional(entry.second) : std::nullopt;
 }
 
+void ObjectMap::ForEach(const Visit& visit) {
+  FindPages(std::numeric_limits<model::Handle>::max());
+  if (!sorted_) {
+    for (const Page& page : pages_) {
+      if (!VisitPage(page, visit)) return;
+    }
+    return;
+  }
+  for (std::size_t i = 0; i < sorted_->size(); ++i) {
+    const Entry& entry = (*sorted_)[i];
+    // Of those with the same handle the first counts.
+    if (i > 0 && (*sorted_)[i - 1].first == entry.first) continue;
+    if (!visit(entry.first, entry.second)) return;
+  }
+}
+
+bool ObjectMap::VisitPage(const Page& page, const Visit& visit) const {
+  Scratch scratch;
+  const auto bytes = section_->Bytes(page.at, page.size, scratch);
+  if (!bytes) return true;
+  BitReader reader(*bytes, kPageSizeSize * 8, (page.size - kCrcSize) * 8);
+  Entry entry = {0, 0};
+  while (ReadEntry(reader, entry)) {
+    if (!visit(entry.first, entry.second)) return false;
+  }
+  return true;
+}
+
 void ObjectMap::Warn(const wchar_t* text, std::uint64_t at) {
   report_->Warn({text, section_->PlaceOf(at), {}, {}});
 }
