@@ -35,19 +35,49 @@ std::set<std::string> NamedObjectsInTruth(const std::string& name) {
   return {names.begin(), names.end()};
 }
 
+// The values of all blocks that are told to carry some, by their tags and by their prompts.
+std::vector<ZDXEngine::BlockFilterParam> AllBlocks(const std::wstring& path, bool usePrompt) {
+  std::vector<ZDXEngine::BlockFilterParam> filters;
+  for (const ZDXEngine::BlockInfo& block : zdx_test::ListBlocks(path)) {
+    filters.push_back(zdx_test::FilterFor(block.name, usePrompt));
+  }
+  return filters;
+}
+
 // Everything that the file tells, but for what only one of the two may carry: the picture, and the
 // program that wrote the drawing.
-std::vector<std::string> Told(const std::filesystem::path& path) {
-  const auto reading = zdx_test::ReadFile(zdx_test::NameOf(path));
+std::vector<std::string> Told(const std::filesystem::path& path, bool usePrompt = false) {
+  const std::wstring name = zdx_test::NameOf(path);
+  const auto reading = zdx_test::ReadFile(name, AllBlocks(name, usePrompt),
+                                          ZDXEngine::FilePropertyMgr::AllProperties);
   std::vector<std::string> told;
   for (const ZDXEngine::_PropData& record : reading.properties) {
     if (record.formatId == zdx_test::kSummary && record.name == L"17") continue;
     if (record.name.starts_with(L"DWG Creator ")) continue;
     std::string line = ZDXEngine::Utf8FromWide(record.formatId + L" " + record.name + L": ");
     if (record.value.vt == VT_BSTR) line += ZDXEngine::Utf8FromWide(record.value.bstrVal);
+    if (record.value.vt == VT_R8) line += std::to_string(record.value.dblVal);
+    if (record.value.vt == VT_BOOL) line += record.value.boolVal != 0 ? "true" : "false";
     told.push_back(line);
   }
   return told;
+}
+
+// What is told of the blocks that carry attributes.
+std::vector<std::string> Listed(const std::filesystem::path& path) {
+  std::vector<std::string> lines;
+  const auto add = [&](const std::wstring& text, const std::string& more) {
+    lines.push_back(ZDXEngine::Utf8FromWide(text) + more);
+  };
+  for (const ZDXEngine::BlockInfo& block : zdx_test::ListBlocks(zdx_test::NameOf(path))) {
+    add(block.name, ": " + std::to_string(block.references) + " references and " +
+                        std::to_string(block.variations) + " of variations");
+    for (const ZDXEngine::AttributeDefinitionInfo& definition : block.definitions) {
+      add(definition.tag + L", " + definition.prompt + L" = " + definition.text,
+          definition.isConstant ? " (constant)" : "");
+    }
+  }
+  return lines;
 }
 
 class RealTwins : public testing::TestWithParam<std::string> {};
@@ -70,6 +100,19 @@ TEST_P(RealTwins, TellTheSame) {
   EXPECT_EQ(dwg, dxf);
 }
 
+TEST_P(RealTwins, TellTheSameOfTheirBlocks) {
+  const std::filesystem::path dwg = zdx_test::SampleFolder() / (GetParam() + ".dwg");
+  const std::filesystem::path dxf = zdx_test::SampleFolder() / (GetParam() + ".dxf");
+  EXPECT_EQ(Listed(dwg), Listed(dxf));
+  const auto valuesOf = [](const std::filesystem::path& path) {
+    const std::wstring name = zdx_test::NameOf(path);
+    return zdx_test::ReadFile(name, AllBlocks(name, true),
+                              ZDXEngine::FilePropertyMgr::BlockAttributes)
+        .Records(zdx_test::kBlockSet);
+  };
+  EXPECT_EQ(valuesOf(dwg), valuesOf(dxf));
+}
+
 GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(RealTwins);
 INSTANTIATE_TEST_SUITE_P(Samples, RealTwins, testing::ValuesIn(RealPairs()),
                          [](const auto& info) { return zdx_test::SampleTestName(info.param); });
@@ -84,6 +127,8 @@ TEST(ExampleTwins, TellTheSame) {
     const std::vector<std::string> told = Told(examples / dwg);
     EXPECT_GT(told.size(), 30u);
     EXPECT_EQ(told, Told(examples / dxf)) << dwg;
+    EXPECT_EQ(Told(examples / dwg, true), Told(examples / dxf, true)) << dwg;
+    EXPECT_EQ(Listed(examples / dwg), Listed(examples / dxf)) << dwg;
   }
 }
 

@@ -37,7 +37,7 @@ void AddCreatorProperty(std::vector<_PropData>& properties, const PropertySetMap
                         PROPID number, const wchar_t* name) {
   FoundValue value;
   if (!value.LookUp(sets, number)) return;
-  AddTextProperty(properties, value.Text(), name, FMTID_Storage, kNamedProperty);
+  AddText(properties, value.Text(), name, FMTID_Storage, kNamedProperty);
 }
 
 }  // namespace

@@ -38,7 +38,7 @@ void CollectDatabaseProperties(std::vector<_PropData>& properties, ZnDbDatabase*
   for (const DatabaseSetting& setting : kSettings) {
     HeapText value;
     if (!ReadSetting(*database, setting, value)) continue;
-    AddTextProperty(properties, value.Get(), setting.name, FMTID_Storage, kNamedProperty);
+    AddText(properties, value.Get(), setting.name, FMTID_Storage, kNamedProperty);
   }
 }
 

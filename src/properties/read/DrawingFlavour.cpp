@@ -39,12 +39,8 @@ bool HasBlock(ZnDbDatabase* database, const wchar_t* name) {
 
 // Opens the root dictionary for this one look-up.  One that doesn't open has no entries.
 bool FindEntry(ZnDbObjectId root, const wchar_t* name, ZnDbObjectId& id) {
-  ZnDbDictionary* opened = nullptr;
-  if (zndbOpenObject(opened, root, ZnDbDictionary::desc(), ZnDb::kForRead, false) != Zent::kOk) {
-    return false;
-  }
-  const ClosedObject<ZnDbDictionary> dictionary(opened);
-  return dictionary->getAt(name, id) == Zent::kOk;
+  const ClosedObject<ZnDbDictionary> dictionary(OpenForRead<ZnDbDictionary>(root));
+  return dictionary != nullptr && dictionary->getAt(name, id) == Zent::kOk;
 }
 
 bool HasEntry(ZnDbObjectId root, const wchar_t* name) {
@@ -91,8 +87,8 @@ const wchar_t* DrawingFlavourText(DwgFileType type) {
 }
 
 void CollectDrawingFlavour(std::vector<_PropData>& properties, ZnDbDatabase* database) {
-  AddTextProperty(properties, DrawingFlavourText(GetDrawingFlavour(database)), L"DWG Type",
-                  FMTID_Storage, kNamedProperty);
+  AddText(properties, DrawingFlavourText(GetDrawingFlavour(database)), L"DWG Type", FMTID_Storage,
+          kNamedProperty);
 }
 
 }  // namespace ZDXEngine

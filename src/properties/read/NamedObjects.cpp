@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "properties/read/HeapText.h"
+#include "properties/read/Iterators.h"
 #include "properties/read/OpenObject.h"
 #include "properties/record/AddProperty.h"
 
@@ -12,23 +13,7 @@ namespace {
 using Properties = std::vector<_PropData>;
 
 void AddName(Properties& properties, const wchar_t* text, const std::wstring& propertyName) {
-  AddTextProperty(properties, text, propertyName, FMTID_Storage, kNamedProperty);
-}
-
-// The iterator over `table`, or null.  What a failed call leaves is deleted too.
-std::unique_ptr<ZnDbSymbolTableIterator> NewIterator(const ZnDbSymbolTable& table) {
-  ZnDbSymbolTableIterator* made = nullptr;
-  const Zent::ErrorStatus status = table.newIterator(made, true, true);
-  std::unique_ptr<ZnDbSymbolTableIterator> iterator(made);
-  if (status != Zent::kOk) iterator.reset();
-  return iterator;
-}
-
-template <class Record>
-Record* OpenRecord(ZnDbObjectId id) {
-  Record* record = nullptr;
-  return zndbOpenObject(record, id, Record::desc(), ZnDb::kForRead, false) == Zent::kOk ? record
-                                                                                        : nullptr;
+  AddText(properties, text, propertyName, FMTID_Storage, kNamedProperty);
 }
 
 void AddRecordName(Properties& properties, const ZnDbSymbolTableRecord& record,
@@ -59,7 +44,7 @@ void ForEachRecord(const ZnDbSymbolTable& table, Add add) {
   while (!iterator->done()) {
     ZnDbObjectId id;
     iterator->getRecordId(id);
-    const ReleasedObject<Record> record(OpenRecord<Record>(id));
+    const ReleasedObject<Record> record(OpenForRead<Record>(id));
     if (record != nullptr) add(*record);
     iterator->step(true, true);
   }
@@ -109,7 +94,7 @@ void ListViews(std::vector<_PropData>& properties, ZnDbViewTable* table) {
   for (; !iterator->done(); iterator->step(true, true)) {
     ZnDbObjectId id;
     if (iterator->getRecordId(id) != Zent::kOk) continue;
-    const ClosedObject<ZnDbViewTableRecord> record(OpenRecord<ZnDbViewTableRecord>(id));
+    const ClosedObject<ZnDbViewTableRecord> record(OpenForRead<ZnDbViewTableRecord>(id));
     if (record != nullptr) AddRecordName(properties, *record, L"View Name");
   }
 }

@@ -29,4 +29,12 @@ using ReleasedObject = std::unique_ptr<T, ReleaseByObjectId>;
 template <class T>
 using ClosedObject = std::unique_ptr<T, JustClose>;
 
+// The object named by `id`; null if it can't be opened as a T.  Whoever asked gives it back.
+template <class T>
+T* OpenForRead(ZnDbObjectId id) {
+  T* object = nullptr;
+  const Zent::ErrorStatus status = zndbOpenObject(object, id, T::desc(), ZnDb::kForRead, false);
+  return status == Zent::kOk ? object : nullptr;
+}
+
 }  // namespace ZDXEngine

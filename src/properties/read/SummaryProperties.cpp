@@ -58,7 +58,7 @@ void CollectSummaryProperties(std::vector<_PropData>& properties, ZnDbDatabase* 
   for (const SummaryField& field : kFields) {
     HeapText value;
     if (!ReadField(*info, field, value)) continue;
-    AddTextProperty(properties, value.Get(), field.name, FMTID_SummaryInformation, field.number);
+    AddText(properties, value.Get(), field.name, FMTID_SummaryInformation, field.number);
   }
 }
 
@@ -70,8 +70,7 @@ void CollectCustomSummaryProperties(std::vector<_PropData>& properties, ZnDbData
     HeapText key;
     HeapText value;
     if (!ReadEntry(*info, index, key, value)) continue;
-    AddTextProperty(properties, value.Get(), key.Get(), FMTID_UserDefinedProperties,
-                    kNamedProperty);
+    AddText(properties, value.Get(), key.Get(), FMTID_UserDefinedProperties, kNamedProperty);
   }
 }
 

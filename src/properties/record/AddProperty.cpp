@@ -43,7 +43,7 @@ void AddProperty(std::vector<_PropData>& properties, VARIANT& value, int typeCod
   properties.push_back(record);
 }
 
-void AddTextProperty(std::vector<_PropData>& properties, const wchar_t* text,
+void AddText(std::vector<_PropData>& properties, const wchar_t* text,
                      std::wstring propertyName, const GUID& formatGuid,
                      unsigned long propertyNumber) {
   VARIANT value = MakeTextVariant(text);
