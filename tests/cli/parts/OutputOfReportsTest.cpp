@@ -79,7 +79,7 @@ class OutputOfReports : public ::testing::Test {
 TEST_F(OutputOfReports, ANumberIsANumber) {
   AddNumber(L"scaleFactor", 0.1);
   EXPECT_EQ(Value(0), 0.1);
-  EXPECT_THAT(TextOf(L"a", report_), HasSubstr("  Location\n    scaleFactor  0.1\n"));
+  EXPECT_THAT(TextOf(L"a", report_), HasSubstr("  Geographic location\n    scaleFactor  0.1\n"));
 }
 
 TEST_F(OutputOfReports, ANumberThatIsNotFiniteIsNullInJson) {
