@@ -24,7 +24,8 @@ TextRow RowOf(const AttributeDefinitionInfo& definition) {
   TextRow row{ReadableText(definition.tag), {}};
   if (!definition.prompt.empty()) row.lines.push_back(ReadableText(definition.prompt));
   if (!definition.text.empty() || definition.isConstant) {
-    std::vector<std::string> lines = ReadableLines(definition.text);
+    std::vector<std::string> lines = definition.text.empty() ? std::vector<std::string>{"(empty)"}
+                                                             : ReadableLines(definition.text);
     lines.front().insert(0, definition.isConstant ? "constant: " : "default: ");
     row.lines.insert(row.lines.end(), lines.begin(), lines.end());
   }
