@@ -1,48 +1,27 @@
 // Writes a DWG drawing with a chosen number of entities, and beside it the list of what a reader
 // must tell of it.
 
-#include <charconv>
-#include <cstdio>
 #include <exception>
-#include <fstream>
 #include <iostream>
 #include <random>
 #include <string>
-#include <string_view>
 
+#include "generate/Arguments.h"
+#include "generate/PlanEntities.h"
 #include "support/dwg/DwgMaker.h"
 
 namespace {
 
-constexpr int kLayers = 50;
 constexpr int kNamedObjects = 300;
 constexpr int kGroups = 40;
 
-bool ReadCount(std::string_view text, int& count) {
-  const char* const end = text.data() + text.size();
-  const auto result = std::from_chars(text.data(), end, count);
-  return result.ec == std::errc() && result.ptr == end && count > 0;
-}
-
-std::string LayerName(int number) { return "PLAN-" + std::to_string(number); }
-
-// Lines, circles and texts all over the layers, with coordinates that don't compress well.
-drawing::EntitySpec Entity(int number, std::mt19937& random) {
-  const auto coordinate = [&random] { return static_cast<double>(random()) / 1e5; };
-  const std::string layer = LayerName(number % kLayers);
-  const drawing::Point at = {coordinate(), coordinate()};
-  if (number % 10 == 0) return drawing::Text(layer, at, 2.5, "Room " + std::to_string(number));
-  if (number % 5 == 0) return drawing::Circle(layer, at, coordinate());
-  return drawing::Line(layer, at, {coordinate(), coordinate()});
-}
-
-drawing::DrawingSpec LargeDrawing(const std::string& version, int entities) {
+drawing::DrawingSpec Plan(const std::string& version, int entities) {
   drawing::DrawingSpec spec;
   spec.version = version;
   spec.summary.title = "Large plan";
   spec.summary.author = "A. Drafter";
   spec.customProperties = {{"Project", "Measured"}};
-  for (int i = 0; i < kLayers; ++i) spec.layers.emplace_back(LayerName(i));
+  for (int i = 0; i < bench::kPlanLayers; ++i) spec.layers.emplace_back(bench::PlanLayer(i));
   for (int i = 0; i < kGroups; ++i) {
     spec.groups.emplace_back(("Group " + std::to_string(i)).c_str());
   }
@@ -51,42 +30,44 @@ drawing::DrawingSpec LargeDrawing(const std::string& version, int entities) {
   }
   std::mt19937 random(1);
   spec.entities.reserve(static_cast<std::size_t>(entities));
-  for (int i = 0; i < entities; ++i) spec.entities.push_back(Entity(i, random));
+  for (int i = 0; i < entities; ++i) spec.entities.push_back(bench::PlanEntity(i, random));
   return spec;
 }
 
-bool WriteExpected(const std::string& path, const drawing::DrawingSpec& spec) {
-  std::ofstream file(path, std::ios::binary);
-  file << "2\t" << spec.summary.title << "\n4\t" << spec.summary.author << '\n';
-  for (const auto& entry : spec.customProperties) file << entry.name << '\t' << entry.value << '\n';
-  for (const auto& layer : spec.layers) file << "Layer Name\t" << layer.name << '\n';
-  for (const auto& group : spec.groups) file << "Group Name\t" << group.name << '\n';
-  return static_cast<bool>(file.flush());
-}
-
-bool WriteDrawing(const std::string& path, const drawing::DrawingSpec& spec) {
-  const std::string bytes = dwg::Make(spec);
-  std::ofstream file(path, std::ios::binary);
-  file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  return static_cast<bool>(file.flush());
+bench::Expected ExpectedOf(const drawing::DrawingSpec& spec) {
+  bench::Expected expected = {{"2", spec.summary.title}, {"4", spec.summary.author}};
+  for (const auto& entry : spec.customProperties) expected.emplace_back(entry.name, entry.value);
+  for (const auto& layer : spec.layers) expected.emplace_back("Layer Name", layer.name);
+  for (const auto& group : spec.groups) expected.emplace_back("Group Name", group.name);
+  return expected;
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
   int entities = 0;
-  if (argc != 4 || !ReadCount(argv[3], entities)) {
-    std::cerr << "usage: generate_dwg FILE VERSION ENTITIES\n"
-                 "Writes FILE, a drawing of the version (AC1032), and FILE.expected.\n";
+  bench::Place place = bench::Place::ModelSpace;
+  const bool isTitled = argc == 5 && bench::ReadPlace(argv[4], place);
+  if ((argc != 4 && !isTitled) || !bench::ReadCount(argv[3], entities)) {
+    std::cerr << "usage: generate_dwg FILE VERSION ENTITIES [titles | nested-titles]\n"
+                 "Writes FILE, a drawing of the version (AC1032), and FILE.expected.  With titles\n"
+                 "every tenth entity is a reference of the block TITLE, with attributes; nested\n"
+                 "ones all stand in another block.\n";
     return 2;
   }
   try {
-    const drawing::DrawingSpec spec = LargeDrawing(argv[2], entities);
     const std::string path = argv[1];
-    if (WriteDrawing(path, spec) && WriteExpected(path + ".expected", spec)) return 0;
-    std::cerr << "generate_dwg: can't write " << path << '\n';
+    bench::TitledDrawing drawing;
+    if (isTitled) {
+      drawing = bench::MakeTitledDrawing(argv[2], entities, place);
+    } else {
+      drawing.spec = Plan(argv[2], entities);
+      drawing.expected = ExpectedOf(drawing.spec);
+    }
+    bench::WriteBytes(path, dwg::Make(drawing.spec));
+    bench::WriteExpected(path, drawing.expected);
   } catch (const std::exception& error) {
     std::cerr << "generate_dwg: " << error.what() << '\n';
+    return 1;
   }
-  return 1;
 }

@@ -1,7 +1,5 @@
 #include "ZDXEngine/BlockListing.h"
 
-#include <algorithm>
-#include <memory>
 #include <unordered_set>
 #include <utility>
 

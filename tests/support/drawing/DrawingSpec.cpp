@@ -1,6 +1,16 @@
 #include "support/drawing/DrawingSpec.h"
 
+#include <algorithm>
+
 namespace drawing {
+
+bool IsSameName(std::string_view one, std::string_view other) {
+  const auto small = [](char letter) {
+    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + 32) : letter;
+  };
+  return std::equal(one.begin(), one.end(), other.begin(), other.end(),
+                    [&](char a, char b) { return small(a) == small(b); });
+}
 
 BlockSpec XrefBlock(std::string name, std::string path, Xref xref) {
   BlockSpec block;

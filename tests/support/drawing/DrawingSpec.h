@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -67,6 +68,10 @@ struct ViewSpec {
 
 enum class Xref { None, Attached, Overlaid };
 
+// By what a dynamic block's record is known as one: an entry of its extension dictionary, its name
+// in extended data, or both.
+enum class DynamicMark { Both, Entry, TrueName };
+
 struct BlockSpec {
   std::string name;
   std::vector<AttributeSpec> definitions = {};
@@ -81,10 +86,16 @@ struct BlockSpec {
   std::string handle = {};
   std::vector<NamedObject> extension = {};
   std::vector<Tag> extendedData = {};
-  // Of DWG files: below AC1024 the record of a dynamic block is an anonymous one, and the name
-  // stands in the block's first entity and in extended data.
+  // From AC1012 to AC1021 the record of a dynamic block is an anonymous one; the name stands in
+  // extended data, in DWG files in the block's first entity, too.  AC1009 knows no such blocks.
   bool isDynamic = false;
+  DynamicMark dynamicMark = DynamicMark::Both;
+  // Of an anonymous block ("*U7"): the name of the dynamic block that it shows a variation of.
+  std::string copyOf = {};
 };
+
+// Capitals are the same as small letters.
+bool IsSameName(std::string_view one, std::string_view other);
 
 BlockSpec XrefBlock(std::string name, std::string path, Xref xref = Xref::Attached);
 
@@ -190,6 +201,10 @@ struct PreviewSpec {
   std::string bytes;
 };
 
+// Whether block records list the entities that insert the block, and in which order: as the
+// entities stand in the drawing, block by block from model space on, or from the last to the first.
+enum class ReferenceLists { None, AsDrawn, Reversed };
+
 struct HeaderVariable {
   std::string name;
   std::vector<Tag> values;
@@ -207,6 +222,11 @@ struct DrawingSpec {
   bool hasHandles = true;
   // Whether records, entities and objects tell their owners.
   bool statesOwners = true;
+
+  // AC1009 only: whether there are blocks for model and paper space.
+  bool hasSpaceBlocks = true;
+  // AC1015 and later.  Nothing: as drawn in DWG files, none in DXF files.
+  std::optional<ReferenceLists> referenceLists;
 
   // Of DWG files: 0 to 255, or nothing for the one that files of the version mostly have.
   std::optional<int> maintenance;
@@ -231,6 +251,8 @@ struct DrawingSpec {
 
   // Behind model space and paper spaces.
   std::vector<BlockSpec> blocks;
+  // Attribute definitions in model space, before its other entities.
+  std::vector<AttributeSpec> definitions;
   std::vector<EntitySpec> entities;
   // Entries of the extension dictionary of model space's block record.
   std::vector<NamedObject> modelExtension;

@@ -1,5 +1,6 @@
 #include "support/drawing/EntitySpec.h"
 
+#include "support/drawing/LongText.h"
 #include "support/drawing/Tokens.h"
 
 namespace drawing {
@@ -65,6 +66,21 @@ EntitySpec Polyline(std::string layer, std::vector<Point> vertices, bool closed)
   return entity;
 }
 
+EntitySpec MText(std::string layer, Point at, double height, std::string text) {
+  EntitySpec entity = Entity(kMText, std::move(layer), kMTextMarker);
+  AppendPoint(entity.body, 10, at);
+  entity.body.insert(entity.body.end(), {Tag(40, height), Tag(41, 0.0), Tag(71, 1), Tag(72, 5)});
+  AppendLongText(entity.body, text);
+  return entity;
+}
+
+std::string InsertedBlock(const EntitySpec& insert) {
+  for (const Tag& tag : insert.body) {
+    if (tag.code == 2) return std::get<std::string>(tag.value);
+  }
+  return {};
+}
+
 EntitySpec Insert(std::string block, std::vector<AttributeSpec> attributes, Placement placement,
                   std::string layer) {
   EntitySpec entity = Entity(kInsert, std::move(layer), kBlockReferenceMarker);
@@ -75,6 +91,11 @@ EntitySpec Insert(std::string block, std::vector<AttributeSpec> attributes, Plac
     for (const int code : {41, 42, 43}) entity.body.emplace_back(code, placement.scale);
   }
   if (placement.angle != 0.0) entity.body.emplace_back(50, placement.angle);
+  if (placement.columns != 1 || placement.rows != 1) {
+    entity.body.insert(entity.body.end(),
+                       {Tag(70, placement.columns), Tag(71, placement.rows),
+                        Tag(44, placement.columnSpacing), Tag(45, placement.rowSpacing)});
+  }
   entity.attributes = std::move(attributes);
   return entity;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -25,8 +26,12 @@ struct AttributeSpec {
   std::string value = {};
   std::string prompt = {};
   int flags = 0;
-  // Written as its version keeps such texts.  Not in AC1009, where it is a plain one.
+  // Written as its version keeps such texts: in AC1032 within the attribute; below in a record
+  // beside a plain one, whose tag has a suffix if it isn't a definition's.  Not in AC1009, where it
+  // is a plain one.
   bool multiLine = false;
+  // Of a multi-line one that has such a record: what the plain one holds; nothing for the value.
+  std::optional<std::string> plainValue = {};
   Point at = {};
   double height = 2.5;
   std::string layer = "0";
@@ -64,11 +69,22 @@ EntitySpec Dot(std::string layer, Point at);
 EntitySpec Text(std::string layer, Point at, double height, std::string text, double angle = 0.0);
 EntitySpec Polyline(std::string layer, std::vector<Point> vertices, bool closed = false);
 
+// Left out of AC1009.
+EntitySpec MText(std::string layer, Point at, double height, std::string text);
+
 struct Placement {
   Point at = {};
   double scale = 1.0;
   double angle = 0.0;
+  // More than one of either: the block is shown in an array.
+  int columns = 1;
+  int rows = 1;
+  double columnSpacing = 0.0;
+  double rowSpacing = 0.0;
 };
+
+// The name of the block that an insert shows.
+std::string InsertedBlock(const EntitySpec& insert);
 
 EntitySpec Insert(std::string block, std::vector<AttributeSpec> attributes = {},
                   Placement placement = {}, std::string layer = "0");

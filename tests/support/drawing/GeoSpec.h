@@ -13,9 +13,13 @@ struct SpacePoint {
   double z = 0.0;
 };
 
-// A location object of AC1024 and later.  Give it to a drawing as an entry of model space's
-// extension dictionary under the name kGeoKey.
+// A location object.  Give it to a drawing as an entry of model space's extension dictionary under
+// the name kGeoKey.
 struct GeoSpec {
+  // Of the object, not of the drawing: 1 as in AC1021, 2 or 3 as in later drawings.  The first
+  // keeps one scale and one unit, those of the horizontal, and of the rest nothing about the
+  // vertical, the estimation of the scale, the sea level and the projection.
+  int version = 3;
   // 0 unknown, 1 local, 2 grid, 3 geographic.
   int coordinateType = 3;
   SpacePoint designPoint = {};

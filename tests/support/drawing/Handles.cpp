@@ -27,6 +27,7 @@ class Chosen {
     for (const LayerSpec& layer : spec.layers) Add(layer.handle);
     for (const BlockSpec& block : spec.blocks) Visit(block);
     for (const LayoutSpec& layout : spec.layouts) Visit(layout.entities);
+    for (const AttributeSpec& definition : spec.definitions) Add(definition.handle);
     Visit(spec.entities);
     Visit(spec.modelExtension);
     Visit(spec.rootEntries);

@@ -1,3 +1,6 @@
+#include <algorithm>
+
+#include "support/drawing/DynamicBlocks.h"
 #include "support/dwg/Drawing.h"
 #include "support/dwg/Tokens.h"
 
@@ -8,18 +11,17 @@ using drawing::Xref;
 
 bool IsDigit(char letter) { return letter >= '0' && letter <= '9'; }
 
-bool IsDynamicHidden(const Drawing& drawing, const PlannedBlock& block) {
-  return block.spec != nullptr && block.spec->isDynamic && !drawing.IsSince(Version::AC1024);
+bool IsHidden(const Drawing& drawing, const PlannedBlock& block) {
+  return block.spec != nullptr && IsDynamicHidden(*block.spec, drawing.version);
 }
 
 bool IsAnonymous(const Drawing& drawing, const PlannedBlock& block) {
-  return block.space == Space::None &&
-         (block.name.starts_with('*') || IsDynamicHidden(drawing, block));
+  return block.space == Space::None && (block.name.starts_with('*') || IsHidden(drawing, block));
 }
 
 // Names that begin with an asterisk lose their numbers in the block's record.
 std::string RecordName(const Drawing& drawing, const PlannedBlock& block) {
-  if (IsDynamicHidden(drawing, block)) return "*U";
+  if (IsHidden(drawing, block)) return "*U";
   std::string name = block.name;
   if (name.starts_with('*')) {
     while (IsDigit(name.back())) name.pop_back();
@@ -39,18 +41,14 @@ Handle WriteBlockExtension(Drawing& drawing, const PlannedBlock& block) {
     entries.emplace_back(kRoundTripKey,
                          drawing::Xrecord({{102, kTrueNames}, {1, stored}, {2, block.name}}));
   }
-  if (block.extension != nullptr) {
-    entries.insert(entries.end(), block.extension->begin(), block.extension->end());
-  }
-  const bool isDynamic = block.spec != nullptr && block.spec->isDynamic;
-  if (isDynamic) entries.emplace_back(kDynamicBlockKey, drawing::Xrecord());
+  entries.insert(entries.end(), block.extension.begin(), block.extension.end());
   return WriteExtension(drawing, entries, block.record);
 }
 
 void PutFlags(Fields& fields, const Drawing& drawing, const PlannedBlock& block) {
   const Xref xref = block.spec == nullptr ? Xref::None : block.spec->xref;
   fields.B(IsAnonymous(drawing, block));
-  fields.B(block.spec != nullptr && !block.spec->definitions.empty());
+  fields.B(!block.entities.empty() && block.entities.front().definition != nullptr);
   fields.B(xref != Xref::None);
   fields.B(xref == Xref::Overlaid);
   if (fields.IsSince(Version::AC1015)) fields.B(xref != Xref::None);
@@ -87,14 +85,6 @@ void PutReferences(Fields& fields, const PlannedBlock& block) {
   fields.H(Link::HardPointer, block.layout);
 }
 
-std::vector<Tag> DataTags(const PlannedBlock& block) {
-  std::vector<Tag> tags;
-  if (block.spec == nullptr) return tags;
-  if (block.spec->isDynamic) tags = {{1001, kTrueNameApplication}, {1000, block.name}};
-  tags.insert(tags.end(), block.spec->extendedData.begin(), block.spec->extendedData.end());
-  return tags;
-}
-
 void WriteRecord(Drawing& drawing, const PlannedBlock& block) {
   const Handle extension = WriteBlockExtension(drawing, block);
   Fields fields = drawing.NewFields(block.record);
@@ -110,7 +100,7 @@ void WriteRecord(Drawing& drawing, const PlannedBlock& block) {
   PutDescription(fields, block);
   PutReferences(fields, block);
   RecordHead head{static_cast<unsigned>(Type::BlockRecord)};
-  head.data = DataOf(drawing, DataTags(block));
+  head.data = DataOf(drawing, block.extendedData);
   drawing.Add(head, fields);
 }
 
@@ -129,13 +119,22 @@ void WriteEnds(Drawing& drawing, const PlannedBlock& block) {
 
 }  // namespace
 
+drawing::ReferenceLists ListsOf(const DrawingSpec& spec) {
+  return spec.referenceLists.value_or(drawing::ReferenceLists::AsDrawn);
+}
+
 // The records come last, for they name the entities that insert their blocks.
 void WriteBlocks(Drawing& drawing) {
   for (const PlannedBlock& block : drawing.blocks) {
     WriteEnds(drawing, block);
     WriteEntities(drawing, block);
   }
-  for (const PlannedBlock& block : drawing.blocks) WriteRecord(drawing, block);
+  for (PlannedBlock& block : drawing.blocks) {
+    if (ListsOf(drawing.spec) == drawing::ReferenceLists::Reversed) {
+      std::reverse(block.inserts.begin(), block.inserts.end());
+    }
+    WriteRecord(drawing, block);
+  }
 }
 
 }  // namespace dwg

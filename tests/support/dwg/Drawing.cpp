@@ -1,6 +1,5 @@
 #include "support/dwg/Drawing.h"
 
-#include <algorithm>
 #include <stdexcept>
 
 namespace dwg {
@@ -24,14 +23,6 @@ Handle Found(const std::vector<NamedHandle>& list, const std::string& name, Hand
     if (entry.name == name) return entry.handle;
   }
   return otherwise;
-}
-
-bool IsSameName(std::string_view one, std::string_view other) {
-  const auto small = [](char letter) {
-    return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter + 32) : letter;
-  };
-  return std::equal(one.begin(), one.end(), other.begin(), other.end(),
-                    [&](char a, char b) { return small(a) == small(b); });
 }
 
 }  // namespace
@@ -100,7 +91,7 @@ Handle Drawing::ApplicationHandle(const std::string& name) const {
 
 PlannedBlock* Drawing::BlockNamed(std::string_view name) {
   for (PlannedBlock& block : blocks) {
-    if (IsSameName(block.name, name)) return &block;
+    if (drawing::IsSameName(block.name, name)) return &block;
   }
   return nullptr;
 }

@@ -36,14 +36,16 @@ struct PlannedBlock {
   Space space = Space::None;
   // Nothing for the spaces.
   const drawing::BlockSpec* spec = nullptr;
-  const std::vector<NamedObject>* extension = nullptr;
+  // Of the record.
+  std::vector<NamedObject> extension = {};
+  std::vector<Tag> extendedData = {};
   Handle record = 0;
   Handle begin = 0;
   Handle end = 0;
   // 0 for blocks without a layout.
   Handle layout = 0;
   std::vector<PlannedEntity> entities = {};
-  // The entities that insert the block.
+  // The entities that insert the block, those that its record lists.
   std::vector<Handle> inserts = {};
 };
 
@@ -146,6 +148,8 @@ void WriteBlocks(Drawing& drawing);
 void WriteRootDictionary(Drawing& drawing);
 void WriteLayouts(Drawing& drawing);
 
+// Whether, and how, blocks list the entities that insert them.
+drawing::ReferenceLists ListsOf(const DrawingSpec& spec);
 // The entities of one block; tells the blocks which entities insert them.
 void WriteEntities(Drawing& drawing, const PlannedBlock& block);
 // How an entity lies between those before and behind it; 0 for none.
@@ -169,6 +173,8 @@ struct TextLine {
 };
 // The fields that all texts of one line have, but for the style's reference.
 void PutText(Fields& fields, const TextLine& text);
+// The fields that all texts of many lines have, but for the references.
+void PutManyLines(Fields& fields, const TextLine& text);
 // The fields that all entities begin with.
 void BeginEntity(Drawing& drawing, Fields& fields, const EntitySpec& entity,
                  const EntityPlace& place, const std::vector<NamedObject>& extension);

@@ -9,6 +9,7 @@
 #include "support/dwg/DwgMaker.h"
 #include "support/dwg/ReedSolomon.h"
 #include "support/dwg/Tokens.h"
+#include "support/dwg/Types.h"
 
 namespace dwg {
 namespace {
@@ -145,6 +146,50 @@ TEST_P(FlatDwg, TheObjectMapLeadsToRecords) {
   }
   const std::size_t size = Number(file, offset, 2);
   EXPECT_EQ(Crc16(file.substr(offset, size + 2)), Number(file, offset + 2 + size, 2));
+}
+
+// The types of the records that the first page of the object map leads to, by their handles.
+std::map<std::uint64_t, unsigned> TypesIn(const std::string& file) {
+  const std::size_t map = Number(file, 0x19 + 2 * 9 + 1, 4);
+  const std::size_t end = map + (Number(file, map, 1) << 8 | Number(file, map + 1, 1));
+  std::size_t at = map + 2;
+  const auto piece = [&](std::uint64_t lastBits, bool& isNegative) {
+    std::uint64_t number = 0;
+    for (unsigned shift = 0;; shift += 7) {
+      const std::uint64_t byte = Number(file, at++, 1);
+      number |= (byte & (byte < 0x80 ? lastBits : 0x7F)) << shift;
+      isNegative = (byte & ~lastBits & 0x7F) != 0;
+      if (byte < 0x80) return number;
+    }
+  };
+  std::map<std::uint64_t, unsigned> types;
+  std::uint64_t handle = 0;
+  std::uint64_t offset = 0;
+  bool isNegative = false;
+  while (at < end) {
+    handle += piece(0x7F, isNegative);
+    const std::uint64_t step = piece(0x3F, isNegative);
+    offset = isNegative ? offset - step : offset + step;
+    // The types looked for fit one byte, of which two bits of a code take the begin.
+    const std::uint64_t bits = Number(file, offset + 2, 1) << 8 | Number(file, offset + 3, 1);
+    if (bits >> 14 == 1) types[handle] = static_cast<unsigned>(bits >> 6 & 0xFF);
+  }
+  return types;
+}
+
+TEST(DwgMaker, ArraysAndTextsOfManyLinesAreOfTheirOwnTypes) {
+  drawing::DrawingSpec spec;
+  spec.version = "AC1015";
+  spec.blocks = {{"Sign"}};
+  spec.entities = {drawing::Insert("Sign"), drawing::Insert("Sign", {}, {.columns = 2}),
+                   drawing::MText("0", {}, 2.5, "text")};
+  spec.entities[0].handle = "A1";
+  spec.entities[1].handle = "A2";
+  spec.entities[2].handle = "A3";
+  auto types = TypesIn(Make(spec, {.mapPageSize = 60000}));
+  EXPECT_EQ(types[0xA1], static_cast<unsigned>(Type::Insert));
+  EXPECT_EQ(types[0xA2], static_cast<unsigned>(Type::ArrayInsert));
+  EXPECT_EQ(types[0xA3], static_cast<unsigned>(Type::MText));
 }
 
 TEST_P(FlatDwg, NoPageOfTheObjectMapIsLongerThanAsked) {

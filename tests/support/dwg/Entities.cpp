@@ -116,6 +116,15 @@ std::vector<Handle> WriteAttributes(Drawing& drawing, const EntitySpec& insert, 
   return handles;
 }
 
+bool IsArray(const TagValues& values) { return values.Has(70) || values.Has(71); }
+
+void PutArray(Fields& fields, const TagValues& values) {
+  fields.BS(values.Integer(70, 1));
+  fields.BS(values.Integer(71, 1));
+  fields.BD(values.Real(44));
+  fields.BD(values.Real(45));
+}
+
 void PutInsert(Drawing& drawing, Fields& fields, const EntitySpec& insert, Space space) {
   const TagValues values(insert.body);
   PutCentre(fields, values);
@@ -127,9 +136,12 @@ void PutInsert(Drawing& drawing, Fields& fields, const EntitySpec& insert, Space
   fields.B(count != 0);
   const bool hasList = fields.IsSince(Version::AC1018);
   if (hasList && count != 0) fields.BL(static_cast<std::int64_t>(count));
-  PlannedBlock* block = drawing.BlockNamed(values.Text(2));
+  if (IsArray(values)) PutArray(fields, values);
+  PlannedBlock* block = drawing.BlockNamed(drawing::InsertedBlock(insert));
   fields.H(Link::HardPointer, block == nullptr ? 0 : block->record);
-  if (block != nullptr) block->inserts.push_back(fields.Own());
+  if (block != nullptr && ListsOf(drawing.spec) != drawing::ReferenceLists::None) {
+    block->inserts.push_back(fields.Own());
+  }
   if (count == 0) return;
   if (hasList) {
     for (std::size_t i = 0; i < count; ++i) fields.H(Link::HardOwner, attributes[i]);
@@ -138,6 +150,13 @@ void PutInsert(Drawing& drawing, Fields& fields, const EntitySpec& insert, Space
     fields.Near(Link::SoftPointer, attributes[count - 1]);
   }
   fields.H(Link::HardOwner, attributes.back());
+}
+
+void PutMText(const Drawing& drawing, Fields& fields, const TagValues& values) {
+  PutManyLines(fields, {values.Text(3, 1), {values.Real(10), values.Real(20)}, values.Real(40)});
+  fields.H(Link::HardPointer, drawing.styles.empty() ? 0 : drawing.styles.front().handle);
+  if (!fields.IsSince(Version::AC1032)) return;
+  fields.H(Link::HardPointer, drawing.ApplicationHandle(drawing::kApplication));
 }
 
 using PutFunction = void (*)(Fields&, const TagValues&);
@@ -171,6 +190,10 @@ unsigned PutEntity(Drawing& drawing, Fields& fields, const EntitySpec& entity, S
     fields.H(Link::HardPointer, drawing.styles.empty() ? 0 : drawing.styles.front().handle);
     return static_cast<unsigned>(Type::Text);
   }
+  if (entity.type == drawing::kMText) {
+    PutMText(drawing, fields, values);
+    return static_cast<unsigned>(Type::MText);
+  }
   if (entity.type == drawing::kPolyline) {
     PutLightPolyline(fields, entity);
     return fields.IsSince(Version::AC1015) ? static_cast<unsigned>(Type::LightPolyline)
@@ -178,7 +201,7 @@ unsigned PutEntity(Drawing& drawing, Fields& fields, const EntitySpec& entity, S
   }
   if (entity.type == drawing::kInsert) {
     PutInsert(drawing, fields, entity, space);
-    return static_cast<unsigned>(Type::Insert);
+    return static_cast<unsigned>(IsArray(values) ? Type::ArrayInsert : Type::Insert);
   }
   throw std::invalid_argument("the maker doesn't write entities of type " + entity.type);
 }

@@ -1,3 +1,5 @@
+#include <numbers>
+
 #include "support/dwg/Drawing.h"
 #include "support/dwg/TagValues.h"
 #include "support/dwg/Tokens.h"
@@ -36,18 +38,53 @@ void PutPoint(Fields& fields, const TagValues& values, int code) {
   fields.Point3(values.Real(code), values.Real(code + 10), values.Real(code + 20));
 }
 
-std::string PiecedText(const std::vector<Tag>& tags) {
-  std::string text;
-  for (const Tag& tag : tags) {
-    if (tag.code == 303 || tag.code == 301) text += TextOf(tag);
-  }
-  return text;
+void PutObservation(Fields& fields, const TagValues& values) {
+  for (const int code : {305, 306, 307}) fields.T(values.Text(code));
+  // No mesh.
+  fields.BL(0);
+  fields.BL(0);
 }
 
-void WriteGeoLocation(Drawing& drawing, const ObjectSpec& object, Fields& fields) {
-  const TagValues values(object.body);
-  fields.BL(values.Integer(90));
-  fields.BS(values.Integer(70));
+// What another program keeps there.
+void PutForeignValues(Fields& fields) {
+  const auto point = [&] { fields.Point2(0.0, 0.0); };
+  fields.B(false);
+  fields.B(false);
+  point();
+  point();
+  fields.BL(0);
+  fields.BL(0);
+  fields.B(false);
+  point();
+  point();
+  fields.B(false);
+  fields.BD(0.0);
+  fields.BD(0.0);
+  fields.BL(0);
+  fields.BD(9.0);
+  fields.B(false);
+  fields.BD(9.0);
+  fields.BD(9.0);
+}
+
+void PutFirstGeoLocation(Fields& fields, const TagValues& values) {
+  for (const int code : {40, 41, 42}) fields.BD(values.Real(code));
+  fields.BL(values.Integer(91));
+  PutPoint(fields, values, 10);
+  PutPoint(fields, values, 11);
+  PutPoint(fields, values, 210);
+  fields.BD(values.Real(52) * std::numbers::pi / 180.0);
+  for (const int code : {43, 44, 45}) fields.BD(values.Real(code));
+  fields.T(values.Text(301));
+  fields.T(values.Text(302));
+  fields.BD(values.Real(46));
+  fields.T(values.Text(303));
+  fields.T(values.Text(304));
+  PutObservation(fields, values);
+  PutForeignValues(fields);
+}
+
+void PutLaterGeoLocation(Fields& fields, const TagValues& values) {
   PutPoint(fields, values, 10);
   PutPoint(fields, values, 11);
   fields.BD(values.Real(40));
@@ -61,11 +98,16 @@ void WriteGeoLocation(Drawing& drawing, const ObjectSpec& object, Fields& fields
   fields.B(values.Integer(294) != 0);
   fields.BD(values.Real(142));
   fields.BD(values.Real(143));
-  fields.T(PiecedText(object.body));
-  for (const int code : {302, 305, 306, 307}) fields.T(values.Text(code));
-  // No mesh.
-  fields.BL(0);
-  fields.BL(0);
+  fields.T(values.Text(303, 301));
+  fields.T(values.Text(302));
+  PutObservation(fields, values);
+}
+
+void WriteGeoLocation(Drawing& drawing, const ObjectSpec& object, Fields& fields) {
+  const TagValues values(object.body);
+  fields.BL(values.Integer(90));
+  fields.BS(values.Integer(70));
+  (values.Integer(90) == 1 ? PutFirstGeoLocation : PutLaterGeoLocation)(fields, values);
   fields.H(Link::SoftPointer, drawing.blocks[0].record);
   drawing.Add(RecordHead{drawing.ClassNumber(kGeoLocation)}, fields);
 }

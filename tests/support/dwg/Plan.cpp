@@ -1,3 +1,6 @@
+#include <sstream>
+
+#include "support/drawing/DynamicBlocks.h"
 #include "support/dwg/Drawing.h"
 #include "support/dwg/Tokens.h"
 
@@ -21,7 +24,6 @@ PlannedBlock Planned(Drawing& drawing, const drawing::BlockSpec& spec) {
   PlannedBlock block;
   block.name = spec.name;
   block.spec = &spec;
-  block.extension = &spec.extension;
   block.record = drawing.NextHandle(spec.handle);
   block.begin = drawing.NextHandle();
   block.end = drawing.NextHandle();
@@ -34,6 +36,20 @@ void PlanEntities(Drawing& drawing, PlannedBlock& block, const std::vector<Entit
   }
 }
 
+void PlanDefinitions(Drawing& drawing, PlannedBlock& block,
+                     const std::vector<AttributeSpec>& definitions) {
+  for (const AttributeSpec& definition : definitions) {
+    block.entities.push_back({drawing.NextHandle(definition.handle), nullptr, &definition});
+  }
+}
+
+// As free values spell it.
+std::string Written(Handle handle) {
+  std::ostringstream digits;
+  digits << std::hex << std::uppercase << handle;
+  return digits.str();
+}
+
 // The first layout's paper is the active one; the others are numbered from 0.
 std::string PaperName(std::size_t layout) {
   return layout == 0 ? kPaperSpaceName : kPaperSpaceName + std::to_string(layout - 1);
@@ -43,13 +59,20 @@ std::string PaperName(std::size_t layout) {
 void PlanBlocks(Drawing& drawing) {
   const DrawingSpec& spec = drawing.spec;
   drawing.blocks.push_back(PlannedSpace(drawing, kModelSpaceName, Space::Model));
-  drawing.blocks.back().extension = &spec.modelExtension;
+  drawing.blocks.back().extension = spec.modelExtension;
   const std::size_t papers = HasLayouts(drawing.version) ? spec.layouts.size() : 1;
   for (std::size_t i = 0; i < papers; ++i) {
     drawing.blocks.push_back(PlannedSpace(drawing, PaperName(i), Space::Paper));
   }
   for (const drawing::BlockSpec& block : spec.blocks) {
     drawing.blocks.push_back(Planned(drawing, block));
+  }
+  for (PlannedBlock& block : drawing.blocks) {
+    if (block.spec == nullptr) continue;
+    block.extension = RecordExtension(*block.spec, drawing.version);
+    const PlannedBlock* const original = drawing.BlockNamed(block.spec->copyOf);
+    block.extendedData = RecordData(*block.spec, drawing.version,
+                                    original == nullptr ? "0" : Written(original->record));
   }
 }
 
@@ -58,11 +81,10 @@ void PlanContents(Drawing& drawing) {
   std::size_t layout = 0;
   for (PlannedBlock& block : drawing.blocks) {
     if (block.spec != nullptr) {
-      for (const AttributeSpec& definition : block.spec->definitions) {
-        block.entities.push_back({drawing.NextHandle(definition.handle), nullptr, &definition});
-      }
+      PlanDefinitions(drawing, block, block.spec->definitions);
       PlanEntities(drawing, block, block.spec->entities);
     } else if (block.space == Space::Model) {
+      PlanDefinitions(drawing, block, spec.definitions);
       PlanEntities(drawing, block, spec.entities);
     } else if (layout < spec.layouts.size()) {
       PlanEntities(drawing, block, spec.layouts[layout++].entities);
@@ -114,10 +136,7 @@ class MissingApplications {
 
   void Visit() {
     for (const PlannedBlock& block : drawing_.blocks) {
-      if (block.spec != nullptr) {
-        Visit(block.spec->extendedData);
-        if (block.spec->isDynamic) Need(kTrueNameApplication);
-      }
+      Visit(block.extendedData);
       for (const PlannedEntity& planned : block.entities) {
         if (planned.entity != nullptr) Visit(planned.entity->extendedData);
       }

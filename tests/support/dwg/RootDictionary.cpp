@@ -7,7 +7,7 @@ namespace dwg {
 namespace {
 
 constexpr int kLinetypeByLayer = 0x7FFF;
-constexpr double kQuarter = std::numbers::pi / 2;
+constexpr double kSquareEnd = std::numbers::pi / 2;
 
 void WriteGroups(Drawing& drawing) {
   std::vector<NamedHandle> groups;
@@ -34,8 +34,8 @@ void WriteMlineStyle(Drawing& drawing, const std::string& name, Handle handle) {
   fields.T("");
   fields.BS(0);
   fields.CMC(kByLayer);
-  fields.BD(kQuarter);
-  fields.BD(kQuarter);
+  fields.BD(kSquareEnd);
+  fields.BD(kSquareEnd);
   fields.RC(2);
   for (const double offset : {0.5, -0.5}) {
     fields.BD(offset);

@@ -38,6 +38,14 @@ std::string TagValues::Text(int code) const {
   return tag == nullptr ? std::string() : TextOf(*tag);
 }
 
+std::string TagValues::Text(int pieces, int last) const {
+  std::string text;
+  for (const drawing::Tag& tag : tags_) {
+    if (tag.code == pieces || tag.code == last) text += TextOf(tag);
+  }
+  return text;
+}
+
 double TagValues::Real(int code, double otherwise) const {
   const drawing::Tag* tag = Find(code);
   return tag == nullptr ? otherwise : RealOf(*tag);

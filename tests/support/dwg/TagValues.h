@@ -14,6 +14,8 @@ class TagValues {
   explicit TagValues(const std::vector<drawing::Tag>& tags) : tags_(tags) {}
 
   std::string Text(int code) const;
+  // The pieces of a long text: those under `pieces` and the last one, under `last`.
+  std::string Text(int pieces, int last) const;
   double Real(int code, double otherwise = 0.0) const;
   int Integer(int code, int otherwise = 0) const;
   bool Has(int code) const { return Find(code) != nullptr; }

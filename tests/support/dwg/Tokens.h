@@ -35,8 +35,6 @@ inline constexpr const char* kFileListSection = "AcDb:FileDepList";
 // Keys and words of records.
 inline constexpr const char* kRoundTripKey = "ACAD_XREC_ROUNDTRIP";
 inline constexpr const char* kTrueNames = "EXTNAMES";
-inline constexpr const char* kTrueNameApplication = "AcDbDynamicBlockTrueName";
-inline constexpr const char* kDynamicBlockKey = "ACAD_ENHANCEDBLOCK";
 inline constexpr const char* kLightPolyline = "LWPOLYLINE";
 inline constexpr const char* kGeoLocation = "GEODATA";
 inline constexpr const char* kLine = "LINE";

@@ -42,6 +42,9 @@ void WriteContents(Drawing& drawing, const PlannedBlock& block) {
 void WriteBlocks(Drawing& drawing) {
   drawing.BeginSection("BLOCKS");
   for (const PlannedBlock& block : drawing.blocks) {
+    if (block.isActiveSpace && !HasObjects(drawing.version) && !drawing.spec.hasSpaceBlocks) {
+      continue;
+    }
     WriteBegin(drawing, block);
     if (!block.isActiveSpace) WriteContents(drawing, block);
     WriteEnd(drawing, block);

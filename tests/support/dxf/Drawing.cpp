@@ -11,6 +11,22 @@ Drawing::Drawing(const DrawingSpec& drawingSpec, TagWriter& writer)
   imageDictionary = handles.Next();
   for (std::size_t i = 0; i < spec.images.size(); ++i) imageDefinitions.push_back(handles.Next());
   plotStyle = handles.Next();
+  PlanReferences(*this);
+}
+
+std::string Drawing::HandleFor(const EntitySpec& entity) {
+  const auto given = insertHandles.find(&entity);
+  return given == insertHandles.end() ? handles.Or(entity.handle) : given->second;
+}
+
+// The blocks of the spec stand behind the spaces.
+PlannedBlock* Drawing::BlockNamed(std::string_view name) {
+  const std::size_t spaces = blocks.size() - spec.blocks.size();
+  for (std::size_t i = 0; i < blocks.size(); ++i) {
+    const std::string& called = i < spaces ? blocks[i].name : spec.blocks[i - spaces].name;
+    if (IsSameName(called, name)) return &blocks[i];
+  }
+  return nullptr;
 }
 
 void Drawing::PutHandle(const std::string& handle, int code) {

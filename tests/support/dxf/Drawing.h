@@ -1,6 +1,8 @@
 #pragma once
 
+#include <map>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "support/drawing/DrawingSpec.h"
@@ -14,6 +16,7 @@ using namespace drawing;
 
 // One block with what its record, its BLOCKS entry and its layout need to know of each other.
 struct PlannedBlock {
+  // Of the record, by which inserts name the block.
   std::string name;
   int flags = 0;
   std::string path;
@@ -23,8 +26,11 @@ struct PlannedBlock {
   bool isActiveSpace = false;
   const std::vector<AttributeSpec>* definitions = nullptr;
   const std::vector<EntitySpec>* entities = nullptr;
-  const std::vector<NamedObject>* extension = nullptr;
-  const std::vector<Tag>* extendedData = nullptr;
+  // Of the record.
+  std::vector<NamedObject> extension;
+  std::vector<Tag> extendedData;
+  // Those that the record lists.
+  std::vector<std::string> inserts;
   std::string recordHandle;
   std::string beginHandle;
   std::string endHandle;
@@ -54,6 +60,12 @@ struct Drawing {
   // the OBJECTS section.  Writes nothing for no entries.
   void PutExtension(const std::vector<NamedObject>& entries, const std::string& host);
 
+  // The handle that the entity was given before it is written, or one that it gets now.
+  std::string HandleFor(const EntitySpec& entity);
+
+  // The block that the spec calls `name`; null for a name that no block has.
+  PlannedBlock* BlockNamed(std::string_view name);
+
   void BeginSection(const char* name);
   void EndSection();
 
@@ -62,6 +74,8 @@ struct Drawing {
   TagWriter& out;
   Handles handles;
   std::vector<PlannedBlock> blocks;
+  // Of the inserts that block records list.
+  std::map<const EntitySpec*, std::string> insertHandles;
   std::vector<PendingObject> pending;
   std::vector<ClassSpec> classes;
   // Of the dictionary and the definitions of the pictures.
@@ -99,6 +113,9 @@ std::vector<ClassSpec> ClassesOf(const DrawingSpec& spec, Version version);
 
 // The blocks of the file in the order of their records.
 std::vector<PlannedBlock> PlanBlocks(const DrawingSpec& spec, Version version, Handles& handles);
+
+// Gives handles to the inserts that block records list.
+void PlanReferences(Drawing& drawing);
 
 // The record that holds the summary where the header can't.
 ObjectSpec SummaryRecord(const DrawingSpec& spec);

@@ -6,6 +6,7 @@
 #include <sstream>
 #include <stdexcept>
 
+#include "support/drawing/GeoSpec.h"
 #include "support/dxf/DxfMaker.h"
 #include "support/dxf/TagSink.h"
 #include "support/dxf/TextEncoder.h"
@@ -137,6 +138,119 @@ TEST(DxfMaker, AValueOfTheWrongKindIsRefused) {
   DrawingSpec spec = Drawn("AC1032");
   spec.rootEntries = {{"Bad", Xrecord({{70, "text"}})}};
   EXPECT_THROW(Make(spec), std::invalid_argument);
+}
+
+// The values of `code` between the tag `from` and the next tag 0.
+std::vector<std::string> ValuesAfter(const std::vector<Pair>& tags, const Pair& from,
+                                     const std::string& code) {
+  std::vector<std::string> values;
+  auto tag = std::find(tags.begin(), tags.end(), from);
+  while (tag != tags.end() && ++tag != tags.end() && tag->first != "0") {
+    if (tag->first == code) values.push_back(tag->second);
+  }
+  return values;
+}
+
+DrawingSpec WithDynamicBlock(const std::string& version) {
+  DrawingSpec spec = Drawn(version);
+  spec.blocks = {{.name = "Gate", .handle = "A1", .isDynamic = true},
+                 {.name = "*U7", .copyOf = "gate"}};
+  spec.entities = {Insert("Gate"), Insert("*U7")};
+  return spec;
+}
+
+std::vector<std::string> InsertedBlocks(const std::vector<Pair>& tags) {
+  std::vector<std::string> names;
+  bool isInsert = false;
+  for (const auto& [code, value] : tags) {
+    if (code == "0") isInsert = value == "INSERT";
+    if (isInsert && code == "2") names.push_back(value);
+  }
+  return names;
+}
+
+TEST(DxfMaker, ADynamicBlockIsAnonymousBelowAC1024) {
+  const std::vector<Pair> tags = TagsOf(MakeUnix(WithDynamicBlock("AC1021")));
+  const std::vector<std::string> inserted = InsertedBlocks(tags);
+  ASSERT_EQ(inserted.size(), 2u);
+  EXPECT_EQ(inserted[0].substr(0, 2), "*U");
+  EXPECT_NE(inserted[0], "*U7");
+  EXPECT_EQ(inserted[1], "*U7");
+  EXPECT_EQ(ValuesAfter(tags, {"5", "A1"}, "2"), std::vector<std::string>{inserted[0]});
+  EXPECT_EQ(ValuesAfter(tags, {"5", "A1"}, "1000"), std::vector<std::string>{"Gate"});
+}
+
+TEST(DxfMaker, ADynamicBlockHasItsNameFromAC1024OnAndInAC1009) {
+  for (const char* version : {"AC1009", "AC1024", "AC1032"}) {
+    EXPECT_EQ(InsertedBlocks(TagsOf(MakeUnix(WithDynamicBlock(version)))),
+              (std::vector<std::string>{"Gate", "*U7"}));
+  }
+}
+
+TEST(DxfMaker, ACopyNamesItsDynamicBlock) {
+  const std::vector<Pair> tags = TagsOf(MakeUnix(WithDynamicBlock("AC1032")));
+  EXPECT_EQ(ValuesAfter(tags, {"2", "*U7"}, "1005"), std::vector<std::string>{"A1"});
+  EXPECT_EQ(ValuesAfter(tags, {"2", "Gate"}, "1005"), std::vector<std::string>{});
+}
+
+TEST(DxfMaker, BlocksListTheirInsertsInTheOrderThatIsAskedFor) {
+  DrawingSpec spec = Drawn("AC1015");
+  spec.blocks = {{"Sign"}, {"Frame"}};
+  spec.blocks[1].entities = {Insert("SIGN")};
+  spec.blocks[1].entities[0].handle = "A1";
+  spec.entities = {Insert("Sign"), Insert("Sign")};
+  spec.entities[0].handle = "A3";
+  spec.entities[1].handle = "A2";
+  const auto lists = [&] { return ValuesAfter(TagsOf(MakeUnix(spec)), {"2", "Sign"}, "331"); };
+  EXPECT_EQ(lists(), std::vector<std::string>{});
+  spec.referenceLists = ReferenceLists::AsDrawn;
+  EXPECT_EQ(lists(), (std::vector<std::string>{"A3", "A2", "A1"}));
+  spec.referenceLists = ReferenceLists::Reversed;
+  EXPECT_EQ(lists(), (std::vector<std::string>{"A1", "A2", "A3"}));
+}
+
+TEST(DxfMaker, ALongTextIsCutBetweenCharacters) {
+  DrawingSpec spec = Drawn("AC1032");
+  const std::string text = std::string(249, 'a') + "\xC3\xA9" + "b";
+  spec.entities = {MText("0", {}, 2.5, text)};
+  const std::vector<Pair> tags = TagsOf(MakeUnix(spec));
+  EXPECT_EQ(ValuesAfter(tags, {"0", "MTEXT"}, "3"), std::vector<std::string>{text.substr(0, 249)});
+  EXPECT_EQ(ValuesAfter(tags, {"0", "MTEXT"}, "1"), std::vector<std::string>{text.substr(249)});
+}
+
+TEST(DxfMaker, TheLinesOfAnAttributeStandInARecordBelowAC1032) {
+  DrawingSpec spec = Drawn("AC1021");
+  spec.blocks = {{"Sign"}};
+  spec.entities = {
+      Insert("Sign", {{.tag = "NO", .value = "many", .multiLine = true, .plainValue = "one"}})};
+  const std::vector<Pair> old = TagsOf(MakeUnix(spec));
+  EXPECT_EQ(ValuesAfter(old, {"0", "ATTRIB"}, "2"), std::vector<std::string>{"NO_001"});
+  EXPECT_EQ(ValuesAfter(old, {"0", "ATTRIB"}, "1"), std::vector<std::string>{"one"});
+  EXPECT_EQ(ValuesAfter(old, {"0", "XRECORD"}, "2"), std::vector<std::string>{"NO"});
+  EXPECT_EQ(ValuesAfter(old, {"0", "XRECORD"}, "1"),
+            (std::vector<std::string>{"Embedded Object", "many"}));
+  spec.version = "AC1032";
+  const std::vector<Pair> last = TagsOf(MakeUnix(spec));
+  EXPECT_EQ(ValuesAfter(last, {"0", "ATTRIB"}, "2"), std::vector<std::string>{"NO"});
+  EXPECT_EQ(ValuesAfter(last, {"0", "ATTRIB"}, "1"), (std::vector<std::string>{"", "many"}));
+}
+
+TEST(DxfMaker, ALocationOfTheFirstVersionTellsTheNorthInDegrees) {
+  DrawingSpec spec = Drawn("AC1021");
+  spec.modelExtension = {{kGeoKey, GeoObject({.version = 1, .northX = -1.0, .northY = 0.0})}};
+  EXPECT_EQ(ValuesAfter(TagsOf(MakeUnix(spec)), {"0", "GEODATA"}, "52"),
+            std::vector<std::string>{"90.0"});
+}
+
+TEST(DxfMaker, TheOldestVersionCanDoWithoutBlocksForTheSpaces) {
+  DrawingSpec spec = Drawn("AC1009");
+  const auto blocks = [&] {
+    const std::vector<Pair> tags = TagsOf(MakeUnix(spec));
+    return std::count(tags.begin(), tags.end(), Pair("0", "BLOCK"));
+  };
+  EXPECT_EQ(blocks(), 2);
+  spec.hasSpaceBlocks = false;
+  EXPECT_EQ(blocks(), 0);
 }
 
 }  // namespace

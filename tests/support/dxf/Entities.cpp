@@ -44,11 +44,21 @@ void WriteHeavyPolyline(Drawing& drawing, const EntitySpec& polyline, const Plan
   BeginPart(drawing, kSequenceEnd, part);
 }
 
+// An insert names its block as the block's record is named.
+void PutBody(Drawing& drawing, const EntitySpec& entity) {
+  if (entity.type != kInsert) return drawing.out.Put(entity.body);
+  const PlannedBlock* const block = drawing.BlockNamed(InsertedBlock(entity));
+  const bool isHidden = block != nullptr && block->name.starts_with('*');
+  for (const Tag& tag : entity.body) {
+    drawing.out.Put(isHidden && tag.code == 2 ? Tag(2, block->name) : tag);
+  }
+}
+
 }  // namespace
 
 std::string BeginEntity(Drawing& drawing, const EntitySpec& entity, const std::string& owner,
                         bool onPaper) {
-  std::string handle = drawing.handles.Or(entity.handle);
+  std::string handle = drawing.HandleFor(entity);
   drawing.out.Put({0, entity.type});
   drawing.PutEntityHandle(handle);
   drawing.PutExtension(entity.extension, handle);
@@ -66,8 +76,9 @@ void WriteEntity(Drawing& drawing, const EntitySpec& entity, const PlannedBlock&
     (isLight ? WriteLightPolyline : WriteHeavyPolyline)(drawing, entity, block);
     return;
   }
+  if (entity.type == kMText && !HasObjects(drawing.version)) return;
   const std::string handle = BeginEntity(drawing, entity, block.recordHandle, block.isPaper);
-  drawing.out.Put(entity.body);
+  PutBody(drawing, entity);
   drawing.out.Put(entity.extendedData);
   for (const AttributeSpec& attribute : entity.attributes) {
     WriteAttribute(drawing, attribute, handle, block.isPaper);

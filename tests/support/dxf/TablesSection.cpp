@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <functional>
 
 #include "support/dxf/Drawing.h"
@@ -133,9 +134,29 @@ void WriteViews(Drawing& drawing) {
   table.End();
 }
 
+bool NamesApplication(const PlannedBlock& block, const std::string& name) {
+  return std::any_of(block.extendedData.begin(), block.extendedData.end(), [&](const Tag& tag) {
+    return tag.code == 1001 && std::get<std::string>(tag.value) == name;
+  });
+}
+
+// The spec's, and those that only the maker's own extended data names.
+std::vector<std::string> ApplicationsOf(const Drawing& drawing) {
+  std::vector<std::string> names = drawing.spec.applications;
+  for (const char* own : {kTrueNameApplication, kCopyApplication}) {
+    const bool isUsed =
+        std::any_of(drawing.blocks.begin(), drawing.blocks.end(),
+                    [&](const PlannedBlock& block) { return NamesApplication(block, own); });
+    const bool isListed = std::find(names.begin(), names.end(), own) != names.end();
+    if (isUsed && !isListed) names.emplace_back(own);
+  }
+  return names;
+}
+
 void WriteApplications(Drawing& drawing) {
-  Table table(drawing, "APPID", kRegAppTableRecordMarker, drawing.spec.applications.size());
-  for (const std::string& application : drawing.spec.applications) {
+  const std::vector<std::string> applications = ApplicationsOf(drawing);
+  Table table(drawing, "APPID", kRegAppTableRecordMarker, applications.size());
+  for (const std::string& application : applications) {
     table.BeginRecord(application, 0);
   }
   table.End();
@@ -154,18 +175,24 @@ void WriteDimensionStyles(Drawing& drawing) {
   table.End();
 }
 
+void PutInserts(Drawing& drawing, const PlannedBlock& block) {
+  drawing.out.Put({102, kReferencesGroup});
+  for (const std::string& insert : block.inserts) drawing.out.Put({331, insert});
+  drawing.out.Put({102, kGroupEnd});
+}
+
 void WriteBlockRecords(Drawing& drawing) {
   if (!HasObjects(drawing.version)) return;
   Table table(drawing, "BLOCK_RECORD", Table::kBlockRecordMarker, drawing.blocks.size());
   for (const PlannedBlock& block : drawing.blocks) {
-    table.BeginRecord(block.name, 0, block.recordHandle, [&] {
-      if (block.extension != nullptr) drawing.PutExtension(*block.extension, block.recordHandle);
-    });
+    table.BeginRecord(block.name, 0, block.recordHandle,
+                      [&] { drawing.PutExtension(block.extension, block.recordHandle); });
     if (HasLayouts(drawing.version)) {
       drawing.out.Put({340, block.layoutHandle.empty() ? "0" : block.layoutHandle});
     }
+    if (!block.inserts.empty()) PutInserts(drawing, block);
     if (drawing.version >= Version::AC1021) drawing.out.Put({{70, 0}, {280, 1}, {281, 0}});
-    if (block.extendedData != nullptr) drawing.out.Put(*block.extendedData);
+    drawing.out.Put(block.extendedData);
   }
   table.End();
 }

@@ -7,24 +7,35 @@
 #include <utility>
 #include <vector>
 
-namespace scripted {
+#include "platform/zndb/ZnGe.h"
+#include "support/scripted/Entity.h"
+#include "support/scripted/Node.h"
 
-// Something that can be opened.
-struct Node {
-  virtual ~Node() = default;
-  // How calls on the object are told: "layer 0".
-  std::string label;
-  // False: the opened object has no object id, and whoever opened it deletes it.
-  bool inDatabase = true;
-};
+namespace scripted {
 
 enum class TableKind { kBlock, kLayer, kLinetype, kView };
 
 struct Record : Node {
+  // These make sense in the block table.  An entity of this block, whose label is "KIND N of BLOCK"
+  // as "text 2 of Door", counted over all entities.
+  Entity& Add(EntityKind entityKind);
+  // A definition; its label is "definition TAG of BLOCK".
+  Entity& AddDefinition(std::wstring tag, std::wstring prompt = {}, std::wstring text = {});
+  Entity& AddConstant(std::wstring tag, std::wstring prompt, std::wstring text);
+  // A reference to this block, whose label is "reference N of BLOCK".  It is among the entities of
+  // no block: where it stands is told by its owner alone.
+  Entity& AddReference(const Record* standsIn);
+
   TableKind kind = TableKind::kLayer;
   std::wstring name;
   std::wstring comments;
   bool erased = false;
+
+  bool layout = false;
+  std::deque<Entity> entities;
+  std::deque<Entity> references;
+  bool dynamic = false;
+  std::vector<const Record*> copies;
 };
 
 struct Table : Node {
@@ -70,6 +81,23 @@ struct Settings {
   std::wstring dimblk, dimblk1, dimblk2;
 };
 
+struct Location : Node {
+  Location() { label = "location"; }
+
+  int coordinateType = 0;
+  ZnGePoint3d designPoint, referencePoint;
+  ZnGeVector2d northDirectionVector;
+  ZnGeVector3d upDirection;
+  double northDirection = 0;
+  int horizontalUnits = 0, verticalUnits = 0;
+  double horizontalUnitScale = 0, verticalUnitScale = 0, scaleFactor = 0;
+  bool doSeaLevelCorrection = false;
+  double seaLevelElevation = 0, coordinateProjectionRadius = 0;
+  // Null texts if nullopt.
+  std::optional<std::wstring> coordinateSystem, geoRSSTag;
+  std::optional<std::wstring> observationFrom, observationTo, observationCoverage;
+};
+
 struct Drawing {
   int lastSavedAsVersion = 0;
   int originalFileVersion = 0;
@@ -89,6 +117,8 @@ struct Drawing {
 
   Summary summary;
   Settings settings;
+  // The location object; nullopt if the drawing has none.
+  std::optional<Location> location;
 };
 
 }  // namespace scripted

@@ -32,8 +32,7 @@ class TableIterator : public ZnDbSymbolTableIterator {
   }
   Zent::ErrorStatus seek(ZnDbObjectId id) override {
     const Node* const wanted = NodeOf(id);
-    const Outcome outcome =
-        objects_.Log().Record(label_, "seek", wanted == nullptr ? "null" : wanted->label);
+    const Outcome outcome = objects_.Log().Record(label_, "seek", LabelOf(id));
     if (outcome.status != Zent::kOk) return outcome.status;
     for (int i = 0; i < Count(); ++i) {
       if (&table_.records[static_cast<std::size_t>(i)] != wanted) continue;

@@ -11,7 +11,9 @@ namespace scripted {
 Library::Library(CallLog& calls, Ledger& ledger)
     : calls_(calls), ledger_(ledger), objects_(calls, ledger), registry_(NewRegistry(calls)) {}
 
-Library::~Library() = default;
+Library::~Library() {
+  for (void* const block : dynBlocks_) std::free(block);
+}
 
 ZnRxDictionary* Library::znrxSysRegistry() {
   calls_.Record("", "znrxSysRegistry");
@@ -75,10 +77,9 @@ Zent::ErrorStatus Library::zndbOpenObject(ZnDbObject*& object, ZnDbObjectId id,
                                           const ZnRxClass* expected, int mode, bool openErased) {
   object = nullptr;
   const Node* const node = NodeOf(id);
-  const std::string label = node == nullptr ? "null" : node->label;
   const Outcome outcome = calls_.Record(
       "", "zndbOpenObject",
-      Arguments(label, expected == nullptr ? L"any" : expected->name(), mode, openErased));
+      Arguments(LabelOf(id), expected == nullptr ? L"any" : expected->name(), mode, openErased));
   if (outcome.status != Zent::kOk) return outcome.status;
   if (node == nullptr) return Zent::kUnknownHandle;
   const ZnRxClass* const actual = ClassOf(*node);
@@ -97,18 +98,34 @@ Zent::ErrorStatus Library::zndbGetSummaryInfo(ZnDbDatabase* /*database*/,
   return outcome.status;
 }
 
-Zent::ErrorStatus Library::zndbGetGeoDataObjId(ZnDbDatabase* /*database*/, ZnDbObjectId& id) {
-  id = ZnDbObjectId();
-  return calls_.Record("", "zndbGetGeoDataObjId").status;
+// The id is there even where the status says failure: nobody may take it then.
+Zent::ErrorStatus Library::zndbGetGeoDataObjId(ZnDbDatabase* database, ZnDbObjectId& id) {
+  const Outcome outcome = calls_.Record("", "zndbGetGeoDataObjId", NameOf(database));
+  id = drawing.location && !outcome.null ? IdOf(*drawing.location) : ZnDbObjectId();
+  return outcome.status;
 }
 
-void Library::keepDynBlock(ZnDbDynBlockTableRecord* /*block*/, ZnDbObjectId /*id*/) {}
+// From now on the library frees it, and nobody else may.
+void Library::keepDynBlock(ZnDbDynBlockTableRecord* block, ZnDbObjectId id) {
+  calls_.Record("", "ZnDbDynBlockTableRecord", LabelOf(id));
+  ledger_.Release(block, "heap block");
+  dynBlocks_.push_back(block);
+}
 
-bool Library::isDynamicBlock(ZnDbObjectId /*id*/) { return false; }
+bool Library::isDynamicBlock(ZnDbObjectId id) {
+  const Outcome outcome = calls_.Record("", "isDynamicBlock", LabelOf(id));
+  const auto* const record = dynamic_cast<const Record*>(NodeOf(id));
+  return record != nullptr && record->dynamic && !outcome.null;
+}
 
-Zent::ErrorStatus Library::getAnonymousBlockIds(ZnDbObjectId /*id*/, ZnDbObjectIdArray& ids) {
+// The ids are there even where the status says failure.
+Zent::ErrorStatus Library::getAnonymousBlockIds(ZnDbObjectId id, ZnDbObjectIdArray& ids) {
+  const Outcome outcome = calls_.Record("", "getAnonymousBlockIds", LabelOf(id));
   ids.clear();
-  return Zent::kOk;
+  const auto* const record = dynamic_cast<const Record*>(NodeOf(id));
+  if (record == nullptr) return Zent::kUnknownHandle;
+  for (const Record* copy : record->copies) ids.push_back(IdOf(*copy));
+  return outcome.status;
 }
 
 bool Library::zndbGetPreviewBitmapFromDwg(const wchar_t* path, os::HBITMAP& bitmap,

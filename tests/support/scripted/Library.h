@@ -5,6 +5,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "platform/zndb/Provider.h"
 #include "support/scripted/OpenObjects.h"
@@ -78,6 +79,7 @@ class Library : public zndb::Provider {
   std::unique_ptr<ZnRxDictionary> registry_;
   std::map<const ZnDbDatabase*, std::string> names_;
   int databases_ = 0;
+  std::vector<void*> dynBlocks_;
 };
 
 }  // namespace scripted

@@ -3,64 +3,17 @@
 #include <algorithm>
 #include <map>
 #include <memory>
+#include <utility>
 
+#include "platform/zndb/ZnDbGeoData.h"
+#include "support/scripted/BlockObjects.h"
 #include "support/scripted/CaseFold.h"
 #include "support/scripted/Iterators.h"
+#include "support/scripted/LocationObject.h"
+#include "support/scripted/Objects.h"
 
 namespace scripted {
 namespace {
-
-// What every object answers, over the class of the library's that it is of.
-template <class Base>
-class Object : public Base {
- public:
-  Object(OpenObjects& owner, const Node& node) : owner_(owner), node_(node) {}
-  ~Object() override { owner_.Deleted(this, node_); }
-
-  ZnRxClass* isA() const override {
-    Record("isA");
-    return ClassOf(node_);
-  }
-  ZnDbObjectId objectId() const override {
-    Record("objectId");
-    return node_.inDatabase ? IdOf(node_) : ZnDbObjectId();
-  }
-  ZnDbObjectId ownerId() const override {
-    Record("ownerId");
-    return {};
-  }
-  Zent::ErrorStatus close() override {
-    owner_.Closed(this, node_);
-    return Record("close").status;
-  }
-  void assertReadEnabled() const override { Record("assertReadEnabled"); }
-
- protected:
-  Outcome Record(std::string_view operation, std::string_view arguments = {}) const {
-    return owner_.Log().Record(node_.label, operation, arguments);
-  }
-  OpenObjects& Owner() const { return owner_; }
-
- private:
-  OpenObjects& owner_;
-  const Node& node_;
-};
-
-template <class Base>
-class RecordObject : public Object<Base> {
- public:
-  RecordObject(OpenObjects& owner, const Record& record)
-      : Object<Base>(owner, record), record_(record) {}
-
-  // The text is there even where the status says failure: nobody may take it then.
-  Zent::ErrorStatus getName(ZnString& name) const override {
-    name = record_.name.c_str();
-    return this->Record("getName").status;
-  }
-
- protected:
-  const Record& record_;
-};
 
 class LinetypeObject : public RecordObject<ZnDbLinetypeTableRecord> {
  public:
@@ -140,14 +93,6 @@ class ProxyObject : public Object<ZnDbProxyObject> {
   std::wstring className_;
 };
 
-// Descriptors live as long as the process.
-ZnRxClass* DescriptorNamed(const std::wstring& name) {
-  static std::map<std::wstring, std::unique_ptr<ZnRxClass>> descriptors;
-  std::unique_ptr<ZnRxClass>& descriptor = descriptors[name];
-  if (descriptor == nullptr) descriptor = std::make_unique<ZnRxClass>(name, ZnDbObject::desc());
-  return descriptor.get();
-}
-
 ZnRxClass* ClassOfRecord(TableKind kind) {
   switch (kind) {
     case TableKind::kLayer:
@@ -159,7 +104,7 @@ ZnRxClass* ClassOfRecord(TableKind kind) {
     case TableKind::kBlock:
       break;
   }
-  return ZnDbSymbolTableRecord::desc();
+  return ZnDbBlockTableRecord::desc();
 }
 
 ZnRxClass* ClassOfTable(TableKind kind) {
@@ -187,7 +132,7 @@ ZnDbObject* NewRecord(OpenObjects& owner, const Record& record) {
     case TableKind::kBlock:
       break;
   }
-  return new RecordObject<ZnDbSymbolTableRecord>(owner, record);
+  return NewBlockRecord(owner, record);
 }
 
 ZnDbObject* NewTable(OpenObjects& owner, const Table& table) {
@@ -215,6 +160,10 @@ ZnDbObject* NewObject(OpenObjects& owner, const Node& node) {
   if (const auto* dictionary = dynamic_cast<const Dictionary*>(&node)) {
     return new DictionaryObject(owner, *dictionary);
   }
+  if (const auto* entity = dynamic_cast<const Entity*>(&node)) return NewEntity(owner, *entity);
+  if (const auto* location = dynamic_cast<const Location*>(&node)) {
+    return NewLocation(owner, *location);
+  }
   return NewPlainObject(owner, dynamic_cast<const PlainObject&>(node));
 }
 
@@ -233,6 +182,7 @@ ZnDbObject* OpenObjects::Open(const Node& node) {
 }
 
 void OpenObjects::Closed(const ZnDbObject* object, const Node& node) {
+  if (node.mayCloseTwice && !ledger_.IsOut(object)) return;
   if (node.inDatabase) ledger_.Release(object, node.label + ", closed");
 }
 
@@ -253,11 +203,22 @@ ZnRxClass* ClassOf(const Node& node) {
   if (const auto* record = dynamic_cast<const Record*>(&node)) return ClassOfRecord(record->kind);
   if (const auto* table = dynamic_cast<const Table*>(&node)) return ClassOfTable(table->kind);
   if (dynamic_cast<const Dictionary*>(&node) != nullptr) return ZnDbDictionary::desc();
+  if (const auto* entity = dynamic_cast<const Entity*>(&node)) return ClassOfEntity(*entity);
+  if (dynamic_cast<const Location*>(&node) != nullptr) return ZnDbGeoData::desc();
   const auto& object = dynamic_cast<const PlainObject&>(node);
   if (object.proxy) return ZnDbProxyObject::desc();
-  return object.hasClass ? DescriptorNamed(object.className) : nullptr;
+  return object.hasClass ? DescriptorNamed(object.className, ZnDbObject::desc()) : nullptr;
+}
+
+ZnRxClass* DescriptorNamed(const std::wstring& name, const ZnRxClass* parent) {
+  static std::map<std::pair<std::wstring, const ZnRxClass*>, std::unique_ptr<ZnRxClass>> known;
+  std::unique_ptr<ZnRxClass>& descriptor = known[{name, parent}];
+  if (descriptor == nullptr) descriptor = std::make_unique<ZnRxClass>(name, parent);
+  return descriptor.get();
 }
 
 const Node* NodeOf(ZnDbObjectId id) { return reinterpret_cast<const Node*>(id.stub()); }
+
+std::string LabelOf(ZnDbObjectId id) { return id.isNull() ? "null" : NodeOf(id)->label; }
 
 }  // namespace scripted

@@ -39,7 +39,11 @@ class OpenObjects {
 ZnDbObjectId IdOf(const Node& node);
 // The class of the objects that `node` gives; null if it isn't known.
 ZnRxClass* ClassOf(const Node& node);
+// The class `name` below `parent`, the same each time; it lives as long as the process.
+ZnRxClass* DescriptorNamed(const std::wstring& name, const ZnRxClass* parent);
 // Null for the null id.
 const Node* NodeOf(ZnDbObjectId id);
+// "null" for the null id.
+std::string LabelOf(ZnDbObjectId id);
 
 }  // namespace scripted
