@@ -102,6 +102,16 @@ char32_t FoldCase(char32_t point) {
   return static_cast<char32_t>(static_cast<std::int32_t>(point) + range->delta);
 }
 
+std::wstring FoldCase(std::wstring_view text) {
+  std::wstring folded;
+  folded.reserve(text.size());
+  for (std::size_t at = 0; at < text.size();) {
+    ZDXEngine::utf8_detail::AppendWide(folded,
+                                       FoldCase(ZDXEngine::utf8_detail::NextPoint(text, at)));
+  }
+  return folded;
+}
+
 int CompareIgnoringCase(std::wstring_view a, std::wstring_view b) {
   std::size_t i = 0;
   std::size_t j = 0;

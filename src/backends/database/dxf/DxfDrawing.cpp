@@ -7,6 +7,7 @@
 #include "backends/database/dxf/Lines.h"
 #include "backends/database/dxf/Tokens.h"
 #include "backends/database/model/BuiltIns.h"
+#include "base/CaseFold.h"
 #include "base/CodePage.h"
 
 namespace zdx::dxf {
@@ -51,6 +52,7 @@ void DxfDrawing::ReadHeader() {
     }
   }
   decoder_.emplace(version_, page, model::ControlCharacters::kCaret);
+  extensionBytes_ = stream_.bytes().size();
 }
 
 void DxfDrawing::ReportHeader() {
@@ -82,13 +84,9 @@ const DxfDrawing::Tables& DxfDrawing::ReadTables() {
   if (!tables_) {
     Tables tables;
     CollectRecords(tables);
-    if (tables.blocks.empty()) CollectBlocks(tables.blocks);
-    const auto order = [this](model::TableKind kind, std::vector<model::ObjectKey>& records) {
-      model::PutBuiltInsFirst(kind, records,
-                              [&](model::ObjectKey record) { return RecordName(kind, record); });
-    };
-    order(model::TableKind::kBlock, tables.blocks);
-    order(model::TableKind::kLinetype, tables.linetypes);
+    constexpr auto kKind = model::TableKind::kLinetype;
+    model::PutBuiltInsFirst(kKind, tables.linetypes,
+                            [this](model::ObjectKey record) { return RecordName(kKind, record); });
     tables_ = std::move(tables);
   }
   return *tables_;
@@ -107,21 +105,10 @@ void DxfDrawing::CollectRecords(Tables& tables) {
   }
 }
 
-// Where a drawing has no block records, as AC1009, its blocks stand for them.
-void DxfDrawing::CollectBlocks(std::vector<model::ObjectKey>& blocks) {
-  const auto section = FindSection(kBlocksSection);
-  if (!section) return;
-  ObjectStart start = stream_.NextObject(section->begin);
-  for (; start.Found() && start.at < section->end; start = stream_.NextObject(start.body)) {
-    if (start.type == kBlock) blocks.push_back(KeyOf(start));
-  }
-}
-
 const std::vector<model::ObjectKey>& DxfDrawing::TableRecords(model::TableKind table) {
+  if (table == model::TableKind::kBlock) return Blocks().order();
   const Tables& tables = ReadTables();
   switch (table) {
-    case model::TableKind::kBlock:
-      return tables.blocks;
     case model::TableKind::kLayer:
       return tables.layers;
     case model::TableKind::kLinetype:
@@ -131,8 +118,13 @@ const std::vector<model::ObjectKey>& DxfDrawing::TableRecords(model::TableKind t
   }
 }
 
-std::optional<std::wstring> DxfDrawing::RecordName(model::TableKind /*table*/,
+std::optional<std::wstring> DxfDrawing::RecordName(model::TableKind table,
                                                    model::ObjectKey record) {
+  if (table == model::TableKind::kBlock) {
+    if (record == BlockTable::kMadeModelSpace) return std::wstring(kModelSpace);
+    if (record == BlockTable::kMadePaperSpace) return std::wstring(kPaperSpace);
+    if (const auto trueName = TrueNameOf(record)) return trueName;
+  }
   const TagSearch name = FirstTag(record, kNameCode);
   if (name.tag) return Text(*name.tag, model::TextUse::kName);
   if (!name.lost) Warn(L"A record has no name.", static_cast<std::size_t>(record));
@@ -174,6 +166,41 @@ std::vector<model::DictionaryEntry> DxfDrawing::DictionaryEntries(model::ObjectK
   }
   WarnOfDamage(tags);
   return entries;
+}
+
+// The object under `key`, if the drawing has it.
+std::optional<model::ObjectKey> DxfDrawing::EntryOf(model::ObjectKey dictionary,
+                                                    std::wstring_view key) {
+  for (const model::DictionaryEntry& entry : DictionaryEntries(dictionary)) {
+    if (CompareIgnoringCase(entry.key, key) == 0) return Find(entry.target);
+  }
+  return std::nullopt;
+}
+
+// The object under `key` of the extension dictionary with that handle, if the drawing has both.
+std::optional<ObjectStart> DxfDrawing::ExtensionEntry(model::Handle dictionary,
+                                                      std::wstring_view key) {
+  const std::optional<model::ObjectKey> found = Find(dictionary);
+  if (!found) return std::nullopt;
+  const ObjectStart start = StartOf(*found);
+  if (!IsDictionary(start.type) || !TakeExtension(start)) return std::nullopt;
+  const std::optional<model::ObjectKey> entry = EntryOf(*found, key);
+  return entry ? std::optional(StartOf(*entry)) : std::nullopt;
+}
+
+// Whether the object, which belongs to another alone, may be read.
+bool DxfDrawing::TakeExtension(const ObjectStart& start) {
+  if (extensionBytes_ == 0) return false;
+  const ObjectStart next = stream_.NextObject(start.body);
+  const std::size_t end = next.Found() ? next.at : stream_.bytes().size();
+  const std::size_t size = end - start.at;
+  if (size > extensionBytes_) {
+    Warn(L"Objects have one extension in common; that of some is passed over.", start.at);
+    extensionBytes_ = 0;
+    return false;
+  }
+  extensionBytes_ -= size;
+  return true;
 }
 
 std::wstring DxfDrawing::DictionaryName(model::DictionaryKind kind) const {
@@ -226,9 +253,21 @@ const ClassTable& DxfDrawing::Classes() {
 
 model::ObjectDescription DxfDrawing::Describe(model::ObjectKey object) {
   using Kind = model::ObjectDescription::Kind;
+  constexpr std::pair<std::string_view, Kind> kKinds[] = {
+      {kInsert, Kind::kBlockReference},
+      {kAttribute, Kind::kAttribute},
+      {kAttributeDefinition, Kind::kAttributeDefinition},
+      {kText, Kind::kText},
+      {kMText, Kind::kMText},
+      {kGeoData, Kind::kGeoData},
+  };
   const ObjectStart start = StartOf(object);
+  for (const auto& [type, kind] : kKinds) {
+    if (start.type == type) return {kind, {}};
+  }
   if (IsProxy(start.type)) return {Kind::kProxy, ProxiedClassName(start)};
-  return {IsDictionary(start.type) ? Kind::kDictionary : Kind::kObject, ClassName(start)};
+  if (IsDictionary(start.type)) return {Kind::kDictionary, ClassName(start)};
+  return {IsAmongEntities(start.at) ? Kind::kEntity : Kind::kObject, ClassName(start)};
 }
 
 std::wstring DxfDrawing::ProxiedClassName(const ObjectStart& start) {
@@ -275,10 +314,14 @@ const Tag* DxfDrawing::HeaderTag(std::string_view name) const {
 }
 
 std::wstring DxfDrawing::Text(const Tag& tag, model::TextUse use) {
+  return Text(tag.value, tag.at, use);
+}
+
+std::wstring DxfDrawing::Text(std::string_view bytes, std::size_t at, model::TextUse use) {
   model::TextFlaws flaws;
-  std::wstring text = decoder_->Decode(tag.value, use, flaws);
-  if (flaws.notInEncoding) Warn(L"A text isn't valid in the file's encoding.", tag.at);
-  if (flaws.hasNul) Warn(L"A text holds NUL characters, which are left out.", tag.at);
+  std::wstring text = decoder_->Decode(bytes, use, flaws);
+  if (flaws.notInEncoding) Warn(L"A text isn't valid in the file's encoding.", at);
+  if (flaws.hasNul) Warn(L"A text holds NUL characters, which are left out.", at);
   return text;
 }
 

@@ -7,9 +7,12 @@
 #include <string_view>
 #include <vector>
 
+#include "backends/database/dxf/BlockTable.h"
+#include "backends/database/dxf/ChunkedText.h"
 #include "backends/database/dxf/ClassTable.h"
 #include "backends/database/dxf/HeaderVariables.h"
 #include "backends/database/dxf/ObjectIndex.h"
+#include "backends/database/dxf/ReferenceIndex.h"
 #include "backends/database/dxf/SectionMap.h"
 #include "backends/database/dxf/TagStream.h"
 #include "backends/database/file/MappedFile.h"
@@ -55,6 +58,7 @@ class DxfDrawing : public model::Drawing {
 
  private:
   struct Tables {
+    // The records alone.
     std::vector<model::ObjectKey> blocks;
     std::vector<model::ObjectKey> layers;
     std::vector<model::ObjectKey> linetypes;
@@ -72,13 +76,34 @@ class DxfDrawing : public model::Drawing {
   std::optional<Section> FindSection(std::string_view name);
   const Tables& ReadTables();
   void CollectRecords(Tables& tables);
-  void CollectBlocks(std::vector<model::ObjectKey>& blocks);
+  BlockTable& Blocks();
+  std::optional<std::wstring> TrueNameOf(model::ObjectKey record);
+  BlockSource SourceOfBlocks();
+  const ReferenceIndex& References();
   const ClassTable& Classes();
   std::optional<model::ObjectKey> FindRootDictionary();
+  std::optional<model::ObjectKey> EntryOf(model::ObjectKey dictionary, std::wstring_view key);
+  std::optional<ObjectStart> ExtensionEntry(model::Handle dictionary, std::wstring_view key);
+  bool TakeExtension(const ObjectStart& start);
   const ObjectIndex& IndexOfObjects();
   const ObjectIndex& IndexOfEverything();
   std::wstring ProxiedClassName(const ObjectStart& start);
   std::wstring ClassName(const ObjectStart& start);
+
+  void ReadMultiLineRecord(model::Handle extension, model::Attribute& attribute);
+  // The text of a tag, or of pieces; empty if there is none, and nullopt if it may be lost.
+  std::optional<std::wstring> TextOrEmpty(const std::optional<Tag>& tag, bool isLost);
+  std::optional<std::wstring> TextOf(const ChunkedText& chunks, bool isLost);
+
+  // The sections in which entities stand.
+  struct EntitySections {
+    std::optional<Section> blocks;
+    std::optional<Section> entities;
+  };
+  const EntitySections& SectionsOfEntities();
+  bool IsAmongEntities(std::size_t at);
+  const Block* OwnerOf(const ObjectStart& entity);
+  std::vector<model::Handle> ListedReferences(model::ObjectKey record);
 
   TagSearch FirstTag(model::ObjectKey object, int code);
   std::wstring TypeText(std::string_view type);
@@ -93,6 +118,7 @@ class DxfDrawing : public model::Drawing {
 
   ObjectStart StartOf(model::ObjectKey object) const;
   std::wstring Text(const Tag& tag, model::TextUse use);
+  std::wstring Text(std::string_view bytes, std::size_t at, model::TextUse use);
   void Warn(std::wstring text, std::size_t at);
   void WarnOfDamage(std::size_t at);
   void TellLines();
@@ -112,6 +138,12 @@ class DxfDrawing : public model::Drawing {
   std::optional<std::optional<model::ObjectKey>> root_;
   std::optional<ObjectIndex> objectsIndex_;
   std::optional<ObjectIndex> everythingIndex_;
+  std::optional<BlockTable> blocks_;
+  std::optional<ReferenceIndex> references_;
+  std::optional<EntitySections> entitySections_;
+  // How many bytes of extension dictionaries and of what they hold may still be read: each belongs
+  // to one object, so that all together are no larger than the file.
+  std::size_t extensionBytes_ = 0;
 };
 
 }  // namespace zdx::dxf

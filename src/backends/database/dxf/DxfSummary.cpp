@@ -121,12 +121,7 @@ void DxfDrawing::ReadCustomEntries(Summary& summary) {
 Summary DxfDrawing::SummaryOfRecord() {
   const std::optional<model::ObjectKey> root = RootDictionary();
   if (!root) return {};
-  const std::vector<model::DictionaryEntry> entries = DictionaryEntries(*root);
-  const auto entry = std::find_if(entries.begin(), entries.end(), [](const auto& e) {
-    return CompareIgnoringCase(e.key, kSummaryKey) == 0;
-  });
-  if (entry == entries.end()) return {};
-  const std::optional<model::ObjectKey> record = Find(entry->target);
+  const std::optional<model::ObjectKey> record = EntryOf(*root, kSummaryKey);
   if (!record || StartOf(*record).type != kXrecord) return {};
   ObjectTags tags(stream_, StartOf(*record).body);
   Tag tag;

@@ -1,6 +1,8 @@
 #include "backends/database/dxf/TagStream.h"
 
+#include <bit>
 #include <charconv>
+#include <cmath>
 #include <cstring>
 
 #include "backends/database/dxf/Lines.h"
@@ -205,6 +207,24 @@ bool ParseInteger(Form form, std::string_view value, std::int64_t& number) {
   const char* const end = value.data() + value.size();
   const auto result = std::from_chars(value.data(), end, number);
   return result.ec == std::errc() && result.ptr == end;
+}
+
+bool ParseReal(Form form, std::string_view value, double& number) {
+  double parsed = 0;
+  if (form == Form::kText) {
+    value = Trimmed(value);
+    if (value.starts_with('+')) value.remove_prefix(1);
+    const char* const end = value.data() + value.size();
+    const auto result = std::from_chars(value.data(), end, parsed);
+    if (result.ec != std::errc() || result.ptr != end) return false;
+  } else {
+    std::int64_t bits = 0;
+    if (value.size() != sizeof(bits) || !ParseInteger(form, value, bits)) return false;
+    parsed = std::bit_cast<double>(bits);
+  }
+  if (!std::isfinite(parsed)) return false;
+  number = parsed;
+  return true;
 }
 
 std::uint64_t ParseHandle(std::string_view value) {

@@ -100,6 +100,9 @@ class ObjectTags {
 // The number in `value`, which is text or little-endian by the form; false if it isn't a number.
 bool ParseInteger(Form form, std::string_view value, std::int64_t& number);
 
+// The same of a number that isn't whole; false also if it isn't finite.
+bool ParseReal(Form form, std::string_view value, double& number);
+
 // The number of a handle; 0 if `value` isn't a hexadecimal number that fits.
 std::uint64_t ParseHandle(std::string_view value);
 

@@ -12,6 +12,8 @@ inline constexpr std::string_view kTable = "TABLE";
 inline constexpr std::string_view kEndOfTable = "ENDTAB";
 inline constexpr std::string_view kEndOfFile = "EOF";
 inline constexpr std::string_view kBlock = "BLOCK";
+inline constexpr std::string_view kEndOfBlock = "ENDBLK";
+inline constexpr std::string_view kEndOfSequence = "SEQEND";
 inline constexpr std::string_view kClass = "CLASS";
 
 // A binary file begins with this product name, kBinaryMark and the bytes after it.
@@ -41,6 +43,21 @@ inline constexpr std::string_view kViewRecord = "VIEW";
 inline constexpr std::string_view kBlockRecord = "BLOCK_RECORD";
 inline constexpr std::string_view kDimensionStyleRecord = "DIMSTYLE";
 
+// Entities.
+inline constexpr std::string_view kInsert = "INSERT";
+inline constexpr std::string_view kAttribute = "ATTRIB";
+inline constexpr std::string_view kAttributeDefinition = "ATTDEF";
+inline constexpr std::string_view kText = "TEXT";
+inline constexpr std::string_view kMText = "MTEXT";
+inline constexpr std::string_view kVertex = "VERTEX";
+inline constexpr std::string_view kAttributeMarker = "AcDbAttribute";
+inline constexpr std::string_view kAttributeDefinitionMarker = "AcDbAttributeDefinition";
+
+// Groups of applications, by their first tag.
+inline constexpr std::string_view kExtensionGroup = "{ACAD_XDICTIONARY";
+inline constexpr std::string_view kReferencesGroup = "{BLKREFS";
+inline constexpr std::string_view kGroupEnd = "}";
+
 // Objects.
 inline constexpr std::string_view kDictionary = "DICTIONARY";
 inline constexpr std::string_view kDictionaryWithDefault = "ACDBDICTIONARYWDFLT";
@@ -48,6 +65,26 @@ inline constexpr std::string_view kXrecord = "XRECORD";
 inline constexpr std::string_view kXrecordMarker = "AcDbXrecord";
 inline constexpr std::string_view kProxyObject = "ACAD_PROXY_OBJECT";
 inline constexpr std::string_view kProxyEntity = "ACAD_PROXY_ENTITY";
+
+inline constexpr std::string_view kGeoData = "GEODATA";
+inline constexpr std::string_view kGeoDataMarker = "AcDbGeoData";
+// The free record of a multi-line attribute holds this before the text.
+inline constexpr std::string_view kEmbeddedMark = "Embedded Object";
+
+// Keys of extension dictionaries.
+inline constexpr std::wstring_view kDynamicBlockKey = L"ACAD_ENHANCEDBLOCK";
+inline constexpr std::wstring_view kMultiLineKey = L"ACAD_MLATT";
+inline constexpr std::wstring_view kGeoDataKey = L"ACAD_GEOGRAPHICDATA";
+
+// Applications of extended data; AC1014 has them in capitals.
+inline constexpr std::wstring_view kTrueNameApplication = L"AcDbDynamicBlockTrueName";
+inline constexpr std::wstring_view kVariationApplication = L"AcDbBlockRepBTag";
+
+// Blocks of spaces; a number may follow the first name of papers.
+inline constexpr std::wstring_view kModelSpace = L"*Model_Space";
+inline constexpr std::wstring_view kPaperSpace = L"*Paper_Space";
+inline constexpr std::wstring_view kOldModelSpace = L"$MODEL_SPACE";
+inline constexpr std::wstring_view kOldPaperSpace = L"$PAPER_SPACE";
 
 // Keys of the root dictionary.
 inline constexpr std::wstring_view kGroupKey = L"ACAD_GROUP";

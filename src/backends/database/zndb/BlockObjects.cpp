@@ -165,16 +165,18 @@ Zent::ErrorStatus EmbeddedAttributeDefinition::prompt(ZnString& prompt) const {
   return Give(attribute_.prompt, prompt);
 }
 
+const model::BlockReference& EmbeddedBlockReference::Contents() const {
+  if (!contents_) contents_ = stub_->owner->drawing()->ReadBlockReference(*stub_->key);
+  return *contents_;
+}
+
 ZnDbObjectId EmbeddedBlockReference::blockTableRecord() const {
-  EmbeddedDatabase* const database = stub_->owner;
-  const auto block = database->drawing()->ReadBlockReference(*stub_->key).block;
-  return block ? database->RecordId(model::TableKind::kBlock, *block) : ZnDbObjectId();
+  const std::optional<model::ObjectKey> block = Contents().block;
+  return block ? stub_->owner->RecordId(model::TableKind::kBlock, *block) : ZnDbObjectId();
 }
 
 ZnDbObjectIterator* EmbeddedBlockReference::attributeIterator() const {
-  EmbeddedDatabase* const database = stub_->owner;
-  return new AttributeIterator(database,
-                               database->drawing()->ReadBlockReference(*stub_->key).attributes);
+  return new AttributeIterator(stub_->owner, Contents().attributes);
 }
 
 Zent::ErrorStatus EmbeddedBlockReference::openAttribute(ZnDbAttribute*& attribute, ZnDbObjectId id,

@@ -90,6 +90,12 @@ class EmbeddedBlockReference : public EmbeddedEntity<ZnDbBlockReference> {
   ZnDbObjectIterator* attributeIterator() const override;
   Zent::ErrorStatus openAttribute(ZnDbAttribute*& attribute, ZnDbObjectId id, int mode,
                                   bool openErased) const override;
+
+ private:
+  const model::BlockReference& Contents() const;
+
+  // Kept, since its block is asked for again for each of its attributes.
+  mutable std::optional<model::BlockReference> contents_;
 };
 
 }  // namespace zdx::database
