@@ -10,12 +10,12 @@ namespace {
 using ZDXEngine::AttributeDefinitionInfo;
 using ZDXEngine::BlockInfo;
 
-// "44 references", "1 reference, 3 of variations".
+// "44 references", "1 reference, 3 to its variations".
 std::string CountText(const BlockInfo& block) {
   std::string text = block.references == 0   ? "no references"
                      : block.references == 1 ? "1 reference"
                                              : std::to_string(block.references) + " references";
-  if (block.variations > 0) text += ", " + std::to_string(block.variations) + " of variations";
+  if (block.variations > 0) text += ", " + std::to_string(block.variations) + " to its variations";
   return text;
 }
 

@@ -50,7 +50,7 @@ TEST(TextOfBlocks, TellsHowManyReferencesThereAre) {
   report.blocks[0].references = 44;
   EXPECT_THAT(TextOf(L"a", report), HasSubstr("  TITLE (44 references)\n"));
   report.blocks[0].variations = 3;
-  EXPECT_THAT(TextOf(L"a", report), HasSubstr("  TITLE (44 references, 3 of variations)\n"));
+  EXPECT_THAT(TextOf(L"a", report), HasSubstr("  TITLE (44 references, 3 to its variations)\n"));
 }
 
 TEST(TextOfBlocks, TellsAConstantWithoutText) {
