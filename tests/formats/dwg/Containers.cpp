@@ -16,7 +16,7 @@ std::vector<std::wstring> Opened::Warnings() const { return TextsOf(*report_); }
 
 std::optional<std::string> Opened::Part(SectionId id, std::uint64_t at, std::uint64_t count) {
   Section* const section = container().Find(id);
-  std::string scratch;
+  Scratch scratch;
   const auto bytes = section == nullptr ? std::nullopt : section->Bytes(at, count, scratch);
   return bytes ? std::optional<std::string>(*bytes) : std::nullopt;
 }
@@ -29,10 +29,10 @@ std::optional<std::string> Opened::All(SectionId id) {
 // Bytes that are asked for come in the scratch, so that a caller who keeps a view of an old scratch
 // is found out.
 std::optional<std::string_view> PlainSection::Bytes(std::uint64_t at, std::uint64_t count,
-                                                    std::string& scratch) {
+                                                    Scratch& scratch) {
   if (at > bytes_.size() || count > bytes_.size() - at) return std::nullopt;
-  scratch = bytes_.substr(static_cast<std::size_t>(at), static_cast<std::size_t>(count));
-  return scratch;
+  scratch.joined = bytes_.substr(static_cast<std::size_t>(at), static_cast<std::size_t>(count));
+  return scratch.joined;
 }
 
 std::vector<std::wstring> TextsOf(const model::Report& report) {

@@ -42,7 +42,7 @@ class PlainSection : public Section {
 
   std::uint64_t size() const override { return bytes_.size(); }
   std::optional<std::string_view> Bytes(std::uint64_t at, std::uint64_t count,
-                                        std::string& scratch) override;
+                                        Scratch& scratch) override;
   std::uint64_t PlaceOf(std::uint64_t at) const override { return place_ + at; }
 
  private:

@@ -27,7 +27,7 @@ class CountingSection : public zdx::dwg::Section {
 
   std::uint64_t size() const override { return bytes_.size(); }
   std::optional<std::string_view> Bytes(std::uint64_t at, std::uint64_t count,
-                                        std::string& /*scratch*/) override {
+                                        zdx::dwg::Scratch& /*scratch*/) override {
     if (at > bytes_.size() || count > bytes_.size() - at) return std::nullopt;
     asked_ += count;
     return std::string_view(bytes_).substr(at, count);

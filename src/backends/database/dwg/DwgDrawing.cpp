@@ -10,6 +10,28 @@
 #include "base/CaseFold.h"
 
 namespace zdx::dwg {
+namespace {
+
+model::ObjectDescription::Kind ToldEntity(ObjectType type) {
+  using Told = model::ObjectDescription::Kind;
+  switch (type) {
+    case kTextType:
+      return Told::kText;
+    case kAttributeType:
+      return Told::kAttribute;
+    case kAttributeDefinitionType:
+      return Told::kAttributeDefinition;
+    case kReferenceType:
+    case kReferenceArrayType:
+      return Told::kBlockReference;
+    case kMTextType:
+      return Told::kMText;
+    default:
+      return Told::kEntity;
+  }
+}
+
+}  // namespace
 
 std::variant<std::unique_ptr<model::Drawing>, Refusal> DwgDrawing::Open(
     file::MappedFile file, std::shared_ptr<model::Report> report) {
@@ -28,10 +50,7 @@ std::variant<std::unique_ptr<model::Drawing>, Refusal> DwgDrawing::Open(
 }
 
 DwgDrawing::DwgDrawing(file::MappedFile file, Format format, std::shared_ptr<model::Report> report)
-    : file_(std::move(file)),
-      format_(format),
-      report_(std::move(report)),
-      recordBytes_(Budget::OfMemory(file_.bytes().size())) {}
+    : file_(std::move(file)), format_(format), report_(std::move(report)) {}
 
 void DwgDrawing::ReportHead(const FileHead& head) {
   const std::string_view magic = file_.bytes().substr(0, kMagicSize);
@@ -57,7 +76,8 @@ const FieldValues& DwgDrawing::Header() {
   }
   SectionBlock block(*section, format_, kHeaderMark, L"header variables", *report_);
   Streams* const streams = block.Fields();
-  if (streams != nullptr && !ReadFields(HeaderLayout(), format_.version, *streams, *header_)) {
+  if (streams != nullptr &&
+      ReadFields(HeaderLayout(), format_.version, *streams, *header_) == Progress::kEnded) {
     WarnAt(L"The header variables end early.", block.place());
   }
   return *header_;
@@ -85,42 +105,84 @@ std::optional<model::ObjectKey> DwgDrawing::Find(model::Handle handle) {
   return model::ObjectKey{handle};
 }
 
-std::optional<DwgDrawing::Object> DwgDrawing::Read(model::Handle handle, Record::Extent extent) {
-  const std::optional<std::uint64_t> at = Map().Find(handle);
-  if (!at) return std::nullopt;
+Section* DwgDrawing::Objects() {
   Section* const objects = container_->Find(SectionId::kObjects);
   if (objects == nullptr) {
     Warn(L"The file has no objects.", 0);
-    return std::nullopt;
+  } else if (!recordBytes_) {
+    recordBytes_ = Budget::OfRecords(file_.bytes().size(), objects->size());
   }
-  const bool again = read_.contains(handle);
-  Record record(*objects, *at, format_, extent, again ? objects->size() : recordBytes_.left());
-  if (!again) recordBytes_.Take(record.size());
+  return objects;
+}
+
+DwgDrawing::Kind DwgDrawing::KindOfType(ObjectType type) {
+  Kind kind = {type, type, nullptr, false};
+  if (type >= kFirstClassType) kind.declared = Classes().Find(type);
+  if (kind.declared != nullptr) kind.like = kind.declared->like.value_or(type);
+  kind.isEntity = kind.declared != nullptr ? kind.declared->isEntity : IsFixedEntity(type);
+  return kind;
+}
+
+std::optional<DwgDrawing::Kind> DwgDrawing::KindOf(model::Handle handle) {
+  const std::optional<std::uint64_t> at = Map().Find(handle);
+  return at ? KindAt(handle, *at) : std::nullopt;
+}
+
+std::optional<DwgDrawing::Kind> DwgDrawing::KindAt(model::Handle handle, std::uint64_t place) {
+  Section* const objects = Objects();
+  if (objects == nullptr) return std::nullopt;
+  const Record record(*objects, place, format_, Record::Extent::kHead);
   if (!record.Whole() || record.handle() != handle) {
     Warn(L"The record of an object is damaged.", handle);
     return std::nullopt;
   }
-  if (!record.IsCut() && read_.insert(handle).second && !record.CheckIsRight()) {
+  return KindOfType(record.type());
+}
+
+std::optional<DwgDrawing::Object> DwgDrawing::Read(model::Handle handle, const Question& question,
+                                                   Record::Extent extent) {
+  const std::optional<std::uint64_t> at = Map().Find(handle);
+  return at ? ReadAt(handle, *at, question, extent) : std::nullopt;
+}
+
+// Gives the record of an object; false, which is told, if it can't be read.
+bool DwgDrawing::Load(std::optional<Record>& record, model::Handle handle, std::uint64_t place,
+                      Record::Extent extent) {
+  Section* const objects = Objects();
+  if (objects == nullptr) return false;
+  const bool again = read_.contains(handle);
+  record.emplace(*objects, place, format_, extent, again ? objects->size() : recordBytes_->left());
+  if (!again) recordBytes_->Take(record->size());
+  if (!record->Whole() || record->handle() != handle) {
+    Warn(L"The record of an object is damaged.", handle);
+    return false;
+  }
+  if (!record->IsCut() && read_.insert(handle).second && !record->CheckIsRight()) {
     Warn(L"The checksum of a record is wrong.", handle);
   }
-  Object object;
-  object.type = record.type();
-  object.like = object.type;
-  if (object.type >= kFirstClassType) object.declared = Classes().Find(object.type);
-  if (object.declared != nullptr) object.like = object.declared->like.value_or(object.type);
-  const bool isEntity = IsEntity(object);
-  std::optional<Streams> streams = record.Fields(isEntity);
-  if (streams) {
-    const model::Version version = format_.version;
-    const auto own = OwnLayout(object.like);
-    object.whole = isEntity
-                       ? ReadFields(EntityLayout(), version, *streams, object.fields)
-                       : ReadFields(ObjectLayout(), version, *streams, object.fields) &&
-                             ReadFields(ObjectHandlesLayout(), version, *streams, object.fields);
-    object.whole = object.whole && ReadFields(own, version, *streams, object.fields);
-  }
+  return true;
+}
+
+std::optional<DwgDrawing::Object> DwgDrawing::ReadAt(model::Handle handle, std::uint64_t place,
+                                                     const Question& question,
+                                                     Record::Extent extent) {
+  std::optional<Record> record;
+  if (!Load(record, handle, place, extent)) return std::nullopt;
+  Object object = {KindOfType(record->type()), FieldValues(handle), false};
+  std::optional<Streams> streams = record->Fields(object.isEntity);
+  Progress progress = streams ? Progress::kGoesOn : Progress::kEnded;
+  const auto read = [&](std::span<const Field> layout) {
+    if (progress != Progress::kGoesOn) return;
+    progress = ReadFields(layout, format_.version, *streams, object.fields, question);
+  };
+  read(object.isEntity ? EntityLayout() : ObjectLayout());
+  read(object.isEntity ? EntityHandlesLayout() : ObjectHandlesLayout());
+  read(OwnLayout(object.like));
+  object.whole = progress != Progress::kEnded;
   // What is asked for may stand behind the front after all.
-  if (!object.whole && record.IsCut()) return Read(handle);
+  if (!object.whole && record->IsCut()) {
+    return ReadAt(handle, place, question, Record::Extent::kWhole);
+  }
   if (!object.whole) Warn(L"The record of an object ends early.", handle);
   return object;
 }
@@ -132,31 +194,41 @@ bool DwgDrawing::IsPartOf(model::Handle owner, model::Handle part) {
   return false;
 }
 
-bool DwgDrawing::IsEntity(const Object& object) const {
-  return object.declared != nullptr ? object.declared->isEntity : IsFixedEntity(object.type);
+std::optional<model::Handle> DwgDrawing::ExtensionEntry(model::Handle owner,
+                                                        const FieldValues& fields,
+                                                        std::wstring_view key) {
+  const model::Handle dictionary = fields.Handle(Key::kExtension);
+  if (dictionary == 0 || !IsPartOf(owner, dictionary)) return std::nullopt;
+  return EntryOf(dictionary, key);
 }
 
+// Of an entity no more than the head of its record is looked at: there may be millions.
 model::ObjectDescription DwgDrawing::Describe(model::ObjectKey key) {
-  using Kind = model::ObjectDescription::Kind;
+  using Told = model::ObjectDescription::Kind;
   const auto handle = static_cast<model::Handle>(key);
+  const auto className = [&](const Kind& kind) {
+    if (kind.declared != nullptr) return Text(kind.declared->className, model::TextUse::kName);
+    return std::wstring(FixedClassName(kind.type));
+  };
+  const std::optional<Kind> kind = KindOf(handle);
+  if (!kind) return {};
+  if (kind->isEntity && kind->type != kProxyEntityType) {
+    return {ToldEntity(kind->type), className(*kind)};
+  }
   const std::optional<Object> object = Read(handle);
   if (!object) return {};
-  const auto className = [&](ObjectType type, const DeclaredClass* declared) {
-    if (declared != nullptr) return Text(declared->className, model::TextUse::kName);
-    return std::wstring(FixedClassName(type));
-  };
   if (object->type == kProxyObjectType || object->type == kProxyEntityType) {
     const auto number = static_cast<ObjectType>(object->fields.Number(Key::kClassNumber));
-    return {Kind::kProxy, className(number, Classes().Find(number))};
+    return {Told::kProxy, className(KindOfType(number))};
   }
-  return {object->like == kDictionaryType ? Kind::kDictionary : Kind::kObject,
-          className(object->type, object->declared)};
+  if (object->like == kGeoDataType) return {Told::kGeoData, className(*object)};
+  return {object->like == kDictionaryType ? Told::kDictionary : Told::kObject, className(*object)};
 }
 
 std::optional<model::ObjectKey> DwgDrawing::RootDictionary() {
   const FieldValues::Value* const variable = Header().Find(Key::kRootDictionary);
   if (variable == nullptr) return std::nullopt;
-  const model::Handle handle = variable->handle.From(0);
+  const model::Handle handle = variable->number;
   const std::optional<model::ObjectKey> root = Find(handle);
   if (!root) Warn(L"The root dictionary isn't there.", handle);
   return root;
@@ -167,11 +239,11 @@ std::vector<model::DictionaryEntry> DwgDrawing::DictionaryEntries(model::ObjectK
   const std::optional<Object> object = Read(handle);
   if (!object || object->like != kDictionaryType) return {};
   const std::vector<std::string>& keys = object->fields.Texts(Key::kKeys);
-  const std::vector<HandleReference>& values = object->fields.Handles(Key::kEntries);
+  const std::vector<model::Handle>& values = object->fields.Handles(Key::kEntries);
   std::vector<model::DictionaryEntry> entries;
   entries.reserve(keys.size());
   for (std::size_t i = 0; i < keys.size(); ++i) {
-    const model::Handle target = i < values.size() ? values[i].From(handle) : 0;
+    const model::Handle target = i < values.size() ? values[i] : 0;
     entries.push_back({Text(keys[i], model::TextUse::kName, handle), target});
   }
   return entries;

@@ -64,13 +64,17 @@ class DwgDrawing : public model::Drawing {
   std::vector<model::StoredPicture> PreviewPictures() override;
 
  private:
-  // What was read of an object.
-  struct Object {
+  // What an object is.
+  struct Kind {
     ObjectType type = 0;
     // The type whose layout it has, which is another if its class is like one.
     ObjectType like = 0;
     // Set if the type is the number of a class.
     const DeclaredClass* declared = nullptr;
+    bool isEntity = false;
+  };
+  // What was read of an object.
+  struct Object : Kind {
     FieldValues fields;
     // Whether the fields asked for are all there.
     bool whole = false;
@@ -83,12 +87,44 @@ class DwgDrawing : public model::Drawing {
   ObjectMap& Map();
   const ClassTable& Classes();
 
+  Section* Objects();
   // Reads an object and its fields by the layout of its type; nullopt if its record can't be found.
-  std::optional<Object> Read(model::Handle handle, Record::Extent extent = Record::Extent::kWhole);
+  std::optional<Object> Read(model::Handle handle, const Question& question = {},
+                             Record::Extent extent = Record::Extent::kWhole);
+  bool Load(std::optional<Record>& record, model::Handle handle, std::uint64_t place,
+            Record::Extent extent);
+  std::optional<Object> ReadAt(model::Handle handle, std::uint64_t place, const Question& question,
+                               Record::Extent extent);
+  // What an object is, of which no more is read.
+  std::optional<Kind> KindOf(model::Handle handle);
+  std::optional<Kind> KindAt(model::Handle handle, std::uint64_t place);
+  Kind KindOfType(ObjectType type);
+  // The handle that the extension dictionary of an object, if it has one, holds under `key`.
+  std::optional<model::Handle> ExtensionEntry(model::Handle owner, const FieldValues& fields,
+                                              std::wstring_view key);
   // Whether nobody asked for `part` as one of another object.
   bool IsPartOf(model::Handle owner, model::Handle part);
-  bool IsEntity(const Object& object) const;
   std::vector<model::ObjectKey> CollectRecords(model::TableKind table);
+  std::optional<Object> ReadBlock(model::Handle handle, const Question& question,
+                                  Record::Extent extent = Record::Extent::kWhole);
+  bool IsBlockRecord(model::Handle handle);
+  // The records of model and paper space.
+  struct Spaces {
+    model::Handle model = 0;
+    model::Handle paper = 0;
+  };
+  const Spaces& SpaceRecords();
+  model::Handle OwnerOf(const Object& entity);
+  std::vector<model::ObjectKey> Chain(model::Handle owner, const FieldValues& fields);
+  bool AnyBlockListsReferences();
+  void FindReferences();
+  void TakeReference(model::Handle handle, std::uint64_t place);
+  bool ReadMultiLine(model::Handle handle, const FieldValues& fields, model::Attribute& attribute);
+  std::optional<std::wstring> TextOf(const FieldValues& fields, Key key, model::Handle handle);
+  // What the application of that name keeps in an object.
+  std::optional<std::string> DataOf(model::Handle handle, std::wstring_view application);
+  const std::wstring& ApplicationName(model::Handle handle);
+  void FindVariations();
   std::wstring FullBlockName(std::wstring cut, const FieldValues& block, model::Handle handle);
   std::optional<std::wstring> TrueSpelling(model::Handle handle);
   std::optional<std::wstring> ArrowName(const FieldValues::Value& value);
@@ -113,7 +149,7 @@ class DwgDrawing : public model::Drawing {
   std::map<CodePageId, model::StoredTextDecoder> otherDecoders_;
 
   // Of the records, which a damaged file may let overlap each other.
-  Budget recordBytes_;
+  std::optional<Budget> recordBytes_;
   // The objects whose records were read, and whose the parts of others are.
   std::unordered_set<model::Handle> read_;
   std::unordered_map<model::Handle, model::Handle> owners_;
@@ -123,6 +159,22 @@ class DwgDrawing : public model::Drawing {
   std::optional<ObjectMap> map_;
   std::optional<ClassTable> classes_;
   std::map<model::TableKind, std::vector<model::ObjectKey>> tables_;
+  std::optional<Spaces> spaces_;
+  std::optional<std::unordered_set<model::Handle>> blockRecords_;
+  std::optional<bool> anyBlockListsReferences_;
+  // By their block, then by their own handle.
+  struct Reference {
+    model::Handle block = 0;
+    model::Handle handle = 0;
+  };
+  std::optional<std::vector<Reference>> references_;
+  std::map<model::Handle, std::wstring> applicationNames_;
+  // The blocks that carry variations, in table order, and the dynamic block of each.
+  struct Variation {
+    model::ObjectKey block{};
+    model::Handle dynamicBlock = 0;
+  };
+  std::optional<std::vector<Variation>> variations_;
 };
 
 }  // namespace zdx::dwg

@@ -61,7 +61,7 @@ std::optional<std::wstring> DwgDrawing::ArrowName(const FieldValues::Value& valu
     return model::ArrowBlockName(Text(value.bytes, model::TextUse::kName),
                                  [this](const std::wstring& name) { return BlockSpelling(name); });
   }
-  const model::Handle block = value.handle.From(0);
+  const model::Handle block = value.number;
   if (block == 0) return L"";
   if (!Find(block)) {
     Warn(L"The header names an arrow's block that isn't there.", block);
@@ -88,7 +88,7 @@ Summary DwgDrawing::SummaryOfSection() {
   Summary summary;
   Section* const section = container_->Find(SectionId::kSummary);
   if (section == nullptr) return summary;
-  std::string scratch;
+  Scratch scratch;
   const auto bytes = section->Bytes(0, section->size(), scratch);
   const StoredSummary stored = ReadSummarySection(bytes.value_or(std::string_view()), format_);
   if (stored.damaged) WarnAt(L"The summary ends early.", section->PlaceOf(0));

@@ -58,7 +58,7 @@ std::vector<model::ObjectKey> DwgDrawing::CollectRecords(model::TableKind kind) 
   const TableRow& row = RowOf(kind);
   const FieldValues::Value* const variable = Header().Find(row.variable);
   if (variable == nullptr) return {};
-  const model::Handle table = variable->handle.From(0);
+  const model::Handle table = variable->number;
   const std::optional<Object> object = Read(table);
   if (!object || object->type != row.type) {
     Warn(L"A symbol table can't be read.", table);
@@ -67,22 +67,22 @@ std::vector<model::ObjectKey> DwgDrawing::CollectRecords(model::TableKind kind) 
   std::vector<model::ObjectKey> records;
   // A record that stands in both places is told once.
   std::unordered_set<model::Handle> known;
-  const auto add = [&](const HandleReference& reference) {
-    const model::Handle handle = reference.From(table);
+  const auto add = [&](model::Handle handle) {
     if (!known.insert(handle).second) return;
     if (const auto record = Find(handle)) records.push_back(*record);
   };
   for (const Key key : {row.firstApart, row.secondApart}) {
-    if (const FieldValues::Value* const apart = object->fields.Find(key)) add(apart->handle);
+    if (const FieldValues::Value* const apart = object->fields.Find(key)) add(apart->number);
   }
-  for (const HandleReference& reference : object->fields.Handles(Key::kEntries)) add(reference);
+  for (const model::Handle entry : object->fields.Handles(Key::kEntries)) add(entry);
   return records;
 }
 
 std::optional<std::wstring> DwgDrawing::RecordName(model::TableKind table,
                                                    model::ObjectKey record) {
   const auto handle = static_cast<model::Handle>(record);
-  const std::optional<Object> object = Read(handle, Record::Extent::kFront);
+  const Key last = table == model::TableKind::kBlock ? Key::kBlockBegin : Key::kName;
+  const std::optional<Object> object = Read(handle, {last}, Record::Extent::kFront);
   if (!object) return std::nullopt;
   const FieldValues::Value* const name = object->fields.Find(Key::kName);
   if (object->type != RowOf(table).recordType || name == nullptr) {
@@ -99,9 +99,7 @@ std::optional<std::wstring> DwgDrawing::RecordName(model::TableKind table,
 // The name in the block's begin, which isn't cut.
 std::wstring DwgDrawing::FullBlockName(std::wstring cut, const FieldValues& block,
                                        model::Handle handle) {
-  const FieldValues::Value* const begin = block.Find(Key::kBlockBegin);
-  if (begin == nullptr) return cut;
-  const model::Handle beginHandle = begin->handle.From(handle);
+  const model::Handle beginHandle = block.Handle(Key::kBlockBegin);
   if (beginHandle == 0 || !IsPartOf(handle, beginHandle)) return cut;
   const std::optional<Object> object = Read(beginHandle);
   if (!object || object->type != kBlockBeginType) return cut;
@@ -122,12 +120,9 @@ bool DwgDrawing::HasName(model::TableKind table, model::ObjectKey record,
 // The spelling stands in a free record of the record's extension dictionary: a group that begins
 // the spellings, then the name in capitals and the true one.
 std::optional<std::wstring> DwgDrawing::TrueSpelling(model::Handle handle) {
-  const std::optional<Object> record = Read(handle);
-  const FieldValues::Value* const extension =
-      record ? record->fields.Find(Key::kExtension) : nullptr;
-  const model::Handle dictionary = extension == nullptr ? 0 : extension->handle.From(handle);
-  if (dictionary == 0 || !IsPartOf(handle, dictionary)) return std::nullopt;
-  const auto spellings = EntryOf(dictionary, kSpellingKey);
+  const std::optional<Object> record = Read(handle, {Key::kExtension});
+  if (!record) return std::nullopt;
+  const auto spellings = ExtensionEntry(handle, record->fields, kSpellingKey);
   if (!spellings || *spellings == 0 || !IsPartOf(handle, *spellings)) return std::nullopt;
   const std::optional<Object> object = Read(*spellings);
   const FieldValues::Value* const content =

@@ -40,14 +40,14 @@ std::vector<model::StoredPicture> ReadPreviewArea(Section& section, model::Repor
   std::vector<model::StoredPicture> pictures;
   const std::uint64_t place = section.PlaceOf(0);
   const auto warn = [&](const wchar_t* text) { report.Warn({text, place, {}, {}}); };
-  std::string scratch;
+  Scratch scratch;
   const auto head = section.Bytes(0, kHeadSize, scratch);
   if (!head || head->substr(0, kPreviewMark.size()) != kPreviewMark) {
     warn(L"The preview's mark is wrong, or not there.");
     return pictures;
   }
   const auto count = LittleEndianAt<std::uint8_t>(*head, kCountAt);
-  std::string listScratch;
+  Scratch listScratch;
   const auto list = section.Bytes(kHeadSize, count * kEntrySize, listScratch);
   if (!list) {
     warn(L"The list of preview pictures ends early.");
@@ -60,7 +60,7 @@ std::vector<model::StoredPicture> ReadPreviewArea(Section& section, model::Repor
     const auto address = LittleEndianAt<std::uint32_t>(entry, 1);
     const auto size = LittleEndianAt<std::uint32_t>(entry, 5);
     if (!kind || size == 0) continue;
-    std::string bytesScratch;
+    Scratch bytesScratch;
     const auto bytes = address < place || size > left
                            ? std::nullopt
                            : section.Bytes(address - place, size, bytesScratch);

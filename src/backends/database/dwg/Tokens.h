@@ -37,7 +37,9 @@ struct LikeClass {
   std::uint16_t type;
 };
 inline constexpr LikeClass kLikeClasses[] = {
-    {"ACDBDICTIONARYWDFLT", 42}, {"XRECORD", 79},  // in AC1014
+    {"ACDBDICTIONARYWDFLT", 42},
+    {"XRECORD", 79},  // in AC1014
+    {"GEODATA", 9},
 };
 
 // The classes of the objects that have a type of their own.
@@ -46,18 +48,78 @@ struct FixedClass {
   std::wstring_view name;
 };
 inline constexpr FixedClass kFixedClasses[] = {
-    {42, L"AcDbDictionary"},           {48, L"AcDbBlockTable"},
-    {49, L"AcDbBlockTableRecord"},     {50, L"AcDbLayerTable"},
-    {51, L"AcDbLayerTableRecord"},     {52, L"AcDbTextStyleTable"},
-    {53, L"AcDbTextStyleTableRecord"}, {56, L"AcDbLinetypeTable"},
-    {57, L"AcDbLinetypeTableRecord"},  {60, L"AcDbViewTable"},
-    {61, L"AcDbViewTableRecord"},      {62, L"AcDbUCSTable"},
-    {63, L"AcDbUCSTableRecord"},       {64, L"AcDbViewportTable"},
-    {65, L"AcDbViewportTableRecord"},  {66, L"AcDbRegAppTable"},
-    {67, L"AcDbRegAppTableRecord"},    {68, L"AcDbDimStyleTable"},
-    {69, L"AcDbDimStyleTableRecord"},  {72, L"AcDbGroup"},
-    {73, L"AcDbMlineStyle"},           {79, L"AcDbXrecord"},
-    {80, L"AcDbPlaceHolder"},          {82, L"AcDbLayout"},
+    {1, L"AcDbText"},
+    {2, L"AcDbAttribute"},
+    {3, L"AcDbAttributeDefinition"},
+    {4, L"AcDbBlockBegin"},
+    {5, L"AcDbBlockEnd"},
+    {6, L"AcDbSequenceEnd"},
+    {7, L"AcDbBlockReference"},
+    {8, L"AcDbMInsertBlock"},
+    {10, L"AcDb2dVertex"},
+    {11, L"AcDb3dPolylineVertex"},
+    {12, L"AcDbPolygonMeshVertex"},
+    {13, L"AcDbPolyFaceMeshVertex"},
+    {14, L"AcDbFaceRecord"},
+    {15, L"AcDb2dPolyline"},
+    {16, L"AcDb3dPolyline"},
+    {17, L"AcDbArc"},
+    {18, L"AcDbCircle"},
+    {19, L"AcDbLine"},
+    {20, L"AcDbOrdinateDimension"},
+    {21, L"AcDbRotatedDimension"},
+    {22, L"AcDbAlignedDimension"},
+    {23, L"AcDb3PointAngularDimension"},
+    {24, L"AcDb2LineAngularDimension"},
+    {25, L"AcDbRadialDimension"},
+    {26, L"AcDbDiametricDimension"},
+    {27, L"AcDbPoint"},
+    {28, L"AcDbFace"},
+    {29, L"AcDbPolyFaceMesh"},
+    {30, L"AcDbPolygonMesh"},
+    {31, L"AcDbSolid"},
+    {32, L"AcDbTrace"},
+    {33, L"AcDbShape"},
+    {34, L"AcDbViewport"},
+    {35, L"AcDbEllipse"},
+    {36, L"AcDbSpline"},
+    {37, L"AcDbRegion"},
+    {38, L"AcDb3dSolid"},
+    {39, L"AcDbBody"},
+    {40, L"AcDbRay"},
+    {41, L"AcDbXline"},
+    {43, L"AcDbOleFrame"},
+    {44, L"AcDbMText"},
+    {45, L"AcDbLeader"},
+    {46, L"AcDbFcf"},
+    {47, L"AcDbMline"},
+    {74, L"AcDbOle2Frame"},
+    {77, L"AcDbPolyline"},
+    {78, L"AcDbHatch"},
+    {42, L"AcDbDictionary"},
+    {48, L"AcDbBlockTable"},
+    {49, L"AcDbBlockTableRecord"},
+    {50, L"AcDbLayerTable"},
+    {51, L"AcDbLayerTableRecord"},
+    {52, L"AcDbTextStyleTable"},
+    {53, L"AcDbTextStyleTableRecord"},
+    {56, L"AcDbLinetypeTable"},
+    {57, L"AcDbLinetypeTableRecord"},
+    {60, L"AcDbViewTable"},
+    {61, L"AcDbViewTableRecord"},
+    {62, L"AcDbUCSTable"},
+    {63, L"AcDbUCSTableRecord"},
+    {64, L"AcDbViewportTable"},
+    {65, L"AcDbViewportTableRecord"},
+    {66, L"AcDbRegAppTable"},
+    {67, L"AcDbRegAppTableRecord"},
+    {68, L"AcDbDimStyleTable"},
+    {69, L"AcDbDimStyleTableRecord"},
+    {72, L"AcDbGroup"},
+    {73, L"AcDbMlineStyle"},
+    {79, L"AcDbXrecord"},
+    {80, L"AcDbPlaceHolder"},
+    {82, L"AcDbLayout"},
 };
 
 // Keys of the root dictionary.
@@ -66,6 +128,22 @@ inline constexpr std::wstring_view kMlineStyleKey = L"ACAD_MLINESTYLE";
 inline constexpr std::wstring_view kLayoutKey = L"ACAD_LAYOUT";
 inline constexpr std::wstring_view kPlotSettingsKey = L"ACAD_PLOTSETTINGS";
 inline constexpr std::wstring_view kSummaryKey = L"DWGPROPS";
+
+// Keys of extension dictionaries: of model space the location; of a block what makes it dynamic; of
+// an attribute its many lines, and the group that stands before them.
+inline constexpr std::wstring_view kGeoDataKey = L"ACAD_GEOGRAPHICDATA";
+inline constexpr std::wstring_view kDynamicBlockKey = L"ACAD_ENHANCEDBLOCK";
+inline constexpr std::wstring_view kMultiLineKey = L"ACAD_MLATT";
+inline constexpr std::wstring_view kMultiLineGroup = L"Embedded Object";
+
+// Applications with data at the record of a block: the name of a dynamic one, and the block whose
+// variation another is.
+inline constexpr std::wstring_view kTrueNameApplication = L"AcDbDynamicBlockTrueName";
+inline constexpr std::wstring_view kVariationApplication = L"AcDbBlockRepBTag";
+
+// Blocks that are layouts', whatever their records say; the second has a number behind it.
+inline constexpr std::wstring_view kModelSpaceName = L"*Model_Space";
+inline constexpr std::wstring_view kPaperSpaceName = L"*Paper_Space";
 
 // Where AC1014 keeps the true spelling of a name that it stores in capitals: the key of the record
 // in the extension dictionary, and the group that begins the spellings in it.

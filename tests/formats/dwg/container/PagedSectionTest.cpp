@@ -21,8 +21,11 @@ class PagedSectionTest : public testing::Test {
   // Each page is made of the digit of its number; those of number 9 can't be read.
   PagedSection Of(std::uint64_t size, std::vector<SectionPage> pages) {
     return PagedSection(
-        size, std::move(pages), [this](const SectionPage& page) -> std::optional<PageBytes> {
+        size, std::move(pages), cache,
+        [this](const SectionPage& page, bool again) -> std::optional<PageBytes> {
           ++reads[page.id];
+          if (again) ++readsAgain;
+          if (!cache.MakeRoom(page.size)) return std::nullopt;
           if (page.id == 9) return std::nullopt;
           const auto digit = static_cast<char>('0' + page.id);
           return PageBytes{std::string(static_cast<std::size_t>(page.size), digit), {}};
@@ -31,12 +34,15 @@ class PagedSectionTest : public testing::Test {
 
   static std::optional<std::string> Bytes(PagedSection& section, std::uint64_t at,
                                           std::uint64_t count) {
-    std::string scratch;
+    Scratch scratch;
     const auto bytes = section.Bytes(at, count, scratch);
     return bytes ? std::optional<std::string>(*bytes) : std::nullopt;
   }
 
+  // For a file of no bytes.
+  PageCache cache{0};
   std::map<std::int64_t, int> reads;
+  int readsAgain = 0;
 };
 
 TEST_F(PagedSectionTest, BytesWithinAPageAndOverItsEdge) {
@@ -89,10 +95,60 @@ TEST_F(PagedSectionTest, AViewStaysValidWhileOtherPagesAreRead) {
   std::vector<SectionPage> pages;
   for (std::uint64_t i = 0; i < 1000; ++i) pages.push_back(At(4 * i, 4, 1));
   PagedSection section = Of(4000, pages);
-  std::string scratch;
+  Scratch scratch;
   const auto first = section.Bytes(0, 4, scratch);
   for (std::uint64_t i = 1; i < 1000; ++i) Bytes(section, 4 * i, 4);
   EXPECT_EQ(first, "1111");
+}
+
+constexpr std::uint64_t kMebibyte = 1 << 20;
+
+std::vector<SectionPage> PagesOf(std::uint64_t count, std::uint64_t size) {
+  std::vector<SectionPage> pages;
+  for (std::uint64_t i = 0; i < count; ++i) {
+    pages.push_back(At(i * size, size, static_cast<std::int64_t>(i % 9)));
+  }
+  return pages;
+}
+
+TEST_F(PagedSectionTest, MorePagesThanTheCacheHoldsAreReadOneAfterAnother) {
+  PagedSection section = Of(100 * kMebibyte, PagesOf(100, kMebibyte));
+  for (std::uint64_t i = 0; i < 100; ++i) {
+    EXPECT_EQ(Bytes(section, i * kMebibyte, 1), std::string(1, static_cast<char>('0' + i % 9)));
+  }
+  EXPECT_EQ(readsAgain, 0);
+}
+
+TEST_F(PagedSectionTest, APageThatWasLetGoIsReadAgain) {
+  PagedSection section = Of(100 * kMebibyte, PagesOf(100, kMebibyte));
+  for (const std::uint64_t page : {0, 1}) Bytes(section, page * kMebibyte, 1);
+  EXPECT_EQ(readsAgain, 0);
+  for (std::uint64_t i = 2; i < 100; ++i) {
+    // The second one stays in use.
+    Bytes(section, kMebibyte, 1);
+    Bytes(section, i * kMebibyte, 1);
+  }
+  EXPECT_EQ(Bytes(section, kMebibyte + 7, 2), "11");
+  EXPECT_EQ(readsAgain, 0);
+  EXPECT_EQ(Bytes(section, 7, 2), "00");
+  EXPECT_EQ(readsAgain, 1);
+}
+
+TEST_F(PagedSectionTest, APageThatSomebodyHoldsStays) {
+  PagedSection section = Of(100 * kMebibyte, PagesOf(100, kMebibyte));
+  Scratch scratch;
+  const auto held = section.Bytes(5, 3, scratch);
+  for (std::uint64_t i = 1; i < 100; ++i) Bytes(section, i * kMebibyte, 1);
+  EXPECT_EQ(held, "000");
+  EXPECT_EQ(Bytes(section, 0, 1), "0");
+  EXPECT_EQ(readsAgain, 0);
+}
+
+TEST_F(PagedSectionTest, TheSamePagesAreNotReadAgainForEver) {
+  PagedSection section = Of(64 * kMebibyte, PagesOf(64, kMebibyte));
+  for (std::uint64_t i = 0; i < 10000; ++i) Bytes(section, i % 64 * kMebibyte, 1);
+  EXPECT_GT(readsAgain, 100);
+  EXPECT_LT(readsAgain, 1000);
 }
 
 TEST_F(PagedSectionTest, MegabytesOfZerosAreNotJoined) {

@@ -1,6 +1,7 @@
 // How much one file may cost.
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 
@@ -11,8 +12,19 @@ class Budget {
  public:
   // For the bytes that decompressed pages take in memory.
   static Budget OfMemory(std::uint64_t fileSize) { return {std::uint64_t{32} << 20, 3 * fileSize}; }
-  // For the bytes of the file that are gone through: in a sound one each is so once.
+  // For the bytes of the file that are gone through: in a sound one each is so once, but for what
+  // is decompressed again.
   static Budget OfReading(std::uint64_t fileSize) { return {std::uint64_t{4} << 20, 2 * fileSize}; }
+  // For the bytes that decompression gives, pages that were let go and are wanted again included.
+  static Budget OfWork(std::uint64_t fileSize) {
+    return {std::uint64_t{512} << 20, 64 * 3 * fileSize};
+  }
+  // For the bytes of the records that are read: no byte of their section belongs to two of them.
+  static Budget OfRecords(std::uint64_t fileSize, std::uint64_t sectionSize) {
+    return {std::uint64_t{32} << 20, std::clamp(sectionSize, 3 * fileSize, 64 * fileSize)};
+  }
+  // For the objects that are looked at to find some of them.
+  static Budget OfObjects(std::uint64_t fileSize) { return {std::uint64_t{1} << 20, fileSize}; }
 
   // For the pages of its sections: none is smaller than 32 bytes.
   static Budget OfPages(std::uint64_t fileSize) { return {0, fileSize / 32}; }

@@ -48,6 +48,7 @@ class CodedContainer : public Container {
       : bytes_(bytes),
         report_(report),
         memory_(Budget::OfMemory(bytes.size())),
+        cache_(bytes.size()),
         reading_(Budget::OfReading(bytes.size())),
         pagesLeft_(Budget::OfPages(bytes.size())) {}
 
@@ -63,15 +64,18 @@ class CodedContainer : public Container {
   void ReadPageMap(std::string_view map);
   void ReadSectionMap(std::string_view map);
   std::vector<SectionPage> ReadPages(std::string_view list, const CodedSectionEntry& section);
-  std::optional<PageBytes> ReadPage(const CodedSectionEntry& section, const SectionPage& page);
-  std::optional<PageBytes> ReadCodedPage(const SectionPage& page);
+  std::optional<PageBytes> ReadPage(const CodedSectionEntry& section, const SectionPage& page,
+                                    bool again);
+  std::optional<PageBytes> ReadCodedPage(const SectionPage& page, bool again);
   std::optional<Content> CodedPage(const SectionPage& page, bool mends);
   std::optional<std::uint64_t> AddressOf(std::uint64_t page) const;
   void Warn(std::wstring text, std::uint64_t at) { report_.Warn({std::move(text), at, {}, {}}); }
 
   std::string_view bytes_;
   model::Report& report_;
+  // For the maps.
   Budget memory_;
+  PageCache cache_;
   Budget reading_;
   Budget pagesLeft_;
   PageMap pageMap_;
@@ -223,42 +227,46 @@ Section* CodedContainer::Find(SectionId id) {
   auto found = sections_.find(id);
   if (found == sections_.end()) {
     CodedSectionEntry& section = entry->second;
-    const auto read = [this, &section](const SectionPage& page) { return ReadPage(section, page); };
-    found = sections_.try_emplace(id, section.size, std::move(section.pages), read).first;
+    const auto read = [this, &section](const SectionPage& page, bool again) {
+      return ReadPage(section, page, again);
+    };
+    found = sections_.try_emplace(id, section.size, std::move(section.pages), cache_, read).first;
   }
   return &found->second;
 }
 
 std::optional<PageBytes> CodedContainer::ReadPage(const CodedSectionEntry& section,
-                                                  const SectionPage& page) {
+                                                  const SectionPage& page, bool again) {
   if (page.address < kFirstCodedPage || page.address > bytes_.size()) {
     Warn(L"A page isn't in the file.", page.address);
     return std::nullopt;
   }
-  if (section.withParity) return ReadCodedPage(page);
+  if (section.withParity) return ReadCodedPage(page, again);
   const std::string_view behind = bytes_.substr(static_cast<std::size_t>(page.address));
-  if (page.storedSize > behind.size() || !reading_.Take(page.storedSize) ||
-      (page.storedSize < page.size && !memory_.Take(page.size))) {
-    Warn(L"A page is said to be larger than this file can make it.", page.address);
+  const bool isCompressed = page.storedSize < page.size;
+  if (page.storedSize > behind.size() || (!again && !reading_.Take(page.storedSize)) ||
+      (isCompressed && !cache_.MakeRoom(page.size))) {
+    Warn(kTooMuch, page.address);
     return std::nullopt;
   }
   const std::string_view stored = behind.substr(0, static_cast<std::size_t>(page.storedSize));
-  if (page.storedSize >= page.size) {
+  if (!isCompressed) {
     const std::string_view data = stored.substr(0, static_cast<std::size_t>(page.size));
-    if (CodedPageSum(data) != page.checksum)
+    if (CodedPageSum(data) != page.checksum) {
       Warn(L"The checksum of a page is wrong.", page.address);
+    }
     return PageBytes{{}, data};
   }
   Decompressed data = DecompressCoded(stored, static_cast<std::size_t>(page.size));
-  if (!data.whole || CodedPageSum(data.bytes) != page.checksum) {
+  if (!again && (!data.whole || CodedPageSum(data.bytes) != page.checksum)) {
     Warn(L"The checksum of a page is wrong.", page.address);
   }
   return PageBytes{std::move(data.bytes), {}};
 }
 
-std::optional<PageBytes> CodedContainer::ReadCodedPage(const SectionPage& page) {
-  if (!reading_.Take(page.storedSize) || !memory_.Take(page.size)) {
-    Warn(L"A page is said to be larger than this file can make it.", page.address);
+std::optional<PageBytes> CodedContainer::ReadCodedPage(const SectionPage& page, bool again) {
+  if ((!again && !reading_.Take(page.storedSize)) || !cache_.MakeRoom(page.size)) {
+    Warn(kTooMuch, page.address);
     return std::nullopt;
   }
   std::optional<Content> content = CodedPage(page, false);
@@ -266,14 +274,15 @@ std::optional<PageBytes> CodedContainer::ReadCodedPage(const SectionPage& page) 
     Warn(L"A page isn't all in the file.", page.address);
     return std::nullopt;
   }
-  if (!content->right) {
+  // Mending is slow, so that doing it again isn't free.
+  if (!content->right && (!again || reading_.Take(page.storedSize))) {
     // A page may be large: there is never more than one form of it.
     content.reset();
     content = CodedPage(page, true);
     if (content->right) {
-      Warn(L"A page is damaged; it was mended.", page.address);
+      if (!again) Warn(L"A page is damaged; it was mended.", page.address);
     } else {
-      Warn(L"The checksum of a page is wrong.", page.address);
+      if (!again) Warn(L"The checksum of a page is wrong.", page.address);
       content.reset();
       content = CodedPage(page, false);
     }

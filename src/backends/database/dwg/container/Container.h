@@ -19,15 +19,22 @@ namespace zdx::dwg {
 
 enum class SectionId { kHeader, kClasses, kObjectMap, kObjects, kSummary, kPreview };
 
+// What keeps alive the bytes that a section gave: it may have had to join them, and lets a page go
+// that nobody holds.
+struct Scratch {
+  std::string joined;
+  std::shared_ptr<const std::string> page;
+};
+
 class Section {
  public:
   virtual ~Section() = default;
 
   virtual std::uint64_t size() const = 0;
   // The `count` bytes from `at` on; nullopt if they aren't all there or can't be read.  The view is
-  // valid as long as the section, or as `scratch`, which may be used to join them.
+  // valid until `scratch` is used for other bytes or goes, and no longer than the section.
   virtual std::optional<std::string_view> Bytes(std::uint64_t at, std::uint64_t count,
-                                                std::string& scratch) = 0;
+                                                Scratch& scratch) = 0;
   // Where in the file the byte at `at` stands or, in a compressed page, that page.
   virtual std::uint64_t PlaceOf(std::uint64_t at) const = 0;
 

@@ -27,7 +27,7 @@ class FlatSection : public Section {
 
   std::uint64_t size() const override { return bytes_.size(); }
   std::optional<std::string_view> Bytes(std::uint64_t at, std::uint64_t count,
-                                        std::string& /*scratch*/) override {
+                                        Scratch& /*scratch*/) override {
     if (at > bytes_.size() || count > bytes_.size() - at) return std::nullopt;
     return bytes_.substr(static_cast<std::size_t>(at), static_cast<std::size_t>(count));
   }

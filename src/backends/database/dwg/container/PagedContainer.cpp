@@ -67,6 +67,7 @@ class PagedContainer : public Container {
       : bytes_(bytes),
         report_(report),
         memory_(Budget::OfMemory(bytes.size())),
+        cache_(bytes.size()),
         reading_(Budget::OfReading(bytes.size())),
         pagesLeft_(Budget::OfPages(bytes.size())) {}
 
@@ -81,14 +82,17 @@ class PagedContainer : public Container {
   void ReadPageMap(std::string_view map);
   void ReadSectionMap(std::string_view map);
   std::vector<SectionPage> ReadPages(std::string_view list, const SectionEntry& section);
-  std::optional<PageBytes> ReadPage(const SectionEntry& section, const SectionPage& page);
+  std::optional<PageBytes> ReadPage(const SectionEntry& section, const SectionPage& page,
+                                    bool again);
   std::string PageHead(std::uint64_t address) const;
   void CheckSums(const std::string& head, std::string_view stored, std::uint64_t address);
   void Warn(std::wstring text, std::uint64_t at) { report_.Warn({std::move(text), at, {}, {}}); }
 
   std::string_view bytes_;
   model::Report& report_;
+  // For the maps.
   Budget memory_;
+  PageCache cache_;
   Budget reading_;
   Budget pagesLeft_;
   PageMap pageMap_;
@@ -200,8 +204,10 @@ Section* PagedContainer::Find(SectionId id) {
   auto found = sections_.find(id);
   if (found == sections_.end()) {
     SectionEntry& section = entry->second;
-    const auto read = [this, &section](const SectionPage& page) { return ReadPage(section, page); };
-    found = sections_.try_emplace(id, section.size, std::move(section.pages), read).first;
+    const auto read = [this, &section](const SectionPage& page, bool again) {
+      return ReadPage(section, page, again);
+    };
+    found = sections_.try_emplace(id, section.size, std::move(section.pages), cache_, read).first;
   }
   return &found->second;
 }
@@ -246,7 +252,7 @@ std::uint64_t StoredSize(std::string_view head, const SectionPage& page, std::st
 }
 
 std::optional<PageBytes> PagedContainer::ReadPage(const SectionEntry& section,
-                                                  const SectionPage& page) {
+                                                  const SectionPage& page, bool again) {
   const std::uint64_t address = page.address;
   if (address < kFirstPage || address > bytes_.size() || bytes_.size() - address < kPageHeadSize) {
     Warn(L"A page isn't in the file.", address);
@@ -255,24 +261,24 @@ std::optional<PageBytes> PagedContainer::ReadPage(const SectionEntry& section,
   const std::string head = PageHead(address);
   const int agreeing = AgreeingWords(head, section, page);
   const bool headRight = agreeing == kIdentifyingWords;
-  if (!headRight) Warn(L"The head of a page is damaged.", address);
+  if (!headRight && !again) Warn(L"The head of a page is damaged.", address);
   const std::string_view behind = bytes_.substr(static_cast<std::size_t>(address) + kPageHeadSize);
   const std::uint64_t storedSize = headRight ? StoredSize(head, page, behind) : page.storedSize;
   // With more than one word wrong it is some other part of the file.
   if (agreeing < kIdentifyingWords - 1 || storedSize > behind.size() ||
-      !reading_.Take(storedSize)) {
+      (!again && !reading_.Take(storedSize))) {
     Warn(L"A page can't be read.", address);
     return std::nullopt;
   }
   const std::string_view stored = behind.substr(0, static_cast<std::size_t>(storedSize));
-  if (headRight) CheckSums(head, stored, address);
+  if (headRight && !again) CheckSums(head, stored, address);
   if (!section.compressed) return PageBytes{{}, stored};
-  if (section.pageSize > kMostPageSize || !memory_.Take(section.pageSize)) {
-    Warn(L"A page is said to be larger than this file can make it.", address);
+  if (section.pageSize > kMostPageSize || !cache_.MakeRoom(section.pageSize)) {
+    Warn(kTooMuch, address);
     return std::nullopt;
   }
   Decompressed data = DecompressPaged(stored, static_cast<std::size_t>(section.pageSize));
-  if (!data.whole) Warn(L"The compressed data of a page are damaged.", address);
+  if (!data.whole && !again) Warn(L"The compressed data of a page are damaged.", address);
   return PageBytes{std::move(data.bytes), {}};
 }
 

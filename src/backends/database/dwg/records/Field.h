@@ -1,6 +1,7 @@
 // Layouts: what a record holds, as tables of fields.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <limits>
 
@@ -17,14 +18,20 @@ enum class Code : std::uint8_t {
   kBL,
   kBLL,
   kBD,
+  kDD,
+  kRD,
   k2RD,
   k3BD,
+  kThickness,
+  kExtrusion,
   kText,
   kHandle,
   kDataHandle,    // a handle that stays among the other data in every version
   kColour,        // of an object
-  kEntityColour,  // of an entity
+  kEntityColour,  // of an entity; its value says whether it has a handle
+  kRun,           // bytes up to the first that is zero; its value is their number
   kBytes,         // as many bytes as `times` says, as one value
+  kTable,         // the fields of another table
 };
 
 // The fields that somebody asks for, or on which others depend.
@@ -36,11 +43,73 @@ enum class Key : std::uint8_t {
   kNoExtension,
   kExtension,
   kOwner,
+  // Of entities.
+  kLinetypeOfLayer,
+  kNeighboursByNumber,
+  kColourHandle,
+  kLinetypeKind,
+  kPlotStyle,
+  kMaterial,
+  kShadow,
+  kFullVisualStyle,
+  kFaceVisualStyle,
+  kEdgeVisualStyle,
+  kPrevious,
+  kNext,
   // Of table records, and of the blocks' begins.
   kName,
   kComments,
   kAnonymous,
   kBlockBegin,
+  // Of the records of blocks.
+  kIsReference,
+  kIsOverlay,
+  kOwnedCount,
+  kInsertCount,
+  kFirst,
+  kLast,
+  kOwned,
+  kInserts,
+  kLayout,
+  // Of block references, which have kFirst and kLast, too.
+  kBlock,
+  kScaleKind,
+  kHasAttributes,
+  kAttributeCount,
+  kAttributes,
+  // Of texts and attributes.
+  kTextFlags,
+  kText,
+  kBackground,
+  kNotAnnotative,
+  kColumns,
+  kColumnCount,
+  kAutoHeight,
+  kAttributeKind,
+  kTag,
+  kAttributeFlags,
+  kPrompt,
+  // Of the location.
+  kGeoVersion,
+  kCoordinateType,
+  kDesignPoint,
+  kReferencePoint,
+  kHorizontalScale,
+  kHorizontalUnits,
+  kVerticalScale,
+  kVerticalUnits,
+  kUpDirection,
+  kNorthVector,
+  kNorthAngle,
+  kScaleFactor,
+  kSeaLevel,
+  kSeaElevation,
+  kProjectionRadius,
+  kCoordinateSystem,
+  kGeoTag,
+  kObservationFrom,
+  kObservationTo,
+  kObservationCoverage,
   // Of dictionaries, tables and free records.
   kCount,
   kKeys,
@@ -86,10 +155,15 @@ inline constexpr Versions kAlways = {};
 constexpr Versions Since(model::Version first) { return {first, kAlways.last}; }
 constexpr Versions Until(model::Version last) { return {kAlways.first, last}; }
 
-// A field is there if an earlier one has this value; kNone is always fulfilled.
+// A field is there if these bits of an earlier one have this value, or haven't; kNone is always
+// fulfilled.
 struct Condition {
   Key key = Key::kNone;
   std::uint64_t value = 0;
+  std::uint64_t bits = ~std::uint64_t{0};
+  bool isEqual = true;
+
+  constexpr bool Holds(std::uint64_t number) const { return ((number & bits) == value) == isEqual; }
 };
 
 struct Field {
@@ -101,19 +175,56 @@ struct Field {
   // It comes as often as this earlier field says, instead of `count`.
   Key times = Key::kNone;
   Condition when = {};
+  // A list that may be long and is only kept for who asks for it, without null handles.
+  bool isOnRequest = false;
+  // Of kTable.
+  const Field* table = nullptr;
+  std::size_t tableSize = 0;
 };
 
 constexpr Field Unnamed(Code code, unsigned count = 1, Versions versions = kAlways) {
-  return {code, count, versions, Key::kNone, Key::kNone, {}};
+  Field field = {code};
+  field.count = count;
+  field.versions = versions;
+  return field;
 }
 constexpr Field Named(Key key, Code code, Versions versions = kAlways) {
-  return {code, 1, versions, key, Key::kNone, {}};
+  Field field = Unnamed(code, 1, versions);
+  field.key = key;
+  return field;
 }
 constexpr Field Repeated(Key key, Code code, Key times, Versions versions = kAlways) {
-  return {code, 1, versions, key, times, {}};
+  Field field = Named(key, code, versions);
+  field.times = times;
+  return field;
+}
+constexpr Field OnRequest(Field list) {
+  list.isOnRequest = true;
+  return list;
+}
+template <std::size_t kSize>
+constexpr Field Table(const Field (&fields)[kSize], Versions versions = kAlways) {
+  Field field = Unnamed(Code::kTable, 1, versions);
+  field.table = fields;
+  field.tableSize = kSize;
+  return field;
 }
 constexpr Field If(Key key, std::uint64_t value, Field field) {
   field.when = {key, value};
+  return field;
+}
+constexpr Field IfNot(Key key, std::uint64_t value, Field field) {
+  field.when = {key, value};
+  field.when.isEqual = false;
+  return field;
+}
+// If any of these bits is set, or none.
+constexpr Field IfAny(Key key, std::uint64_t bits, Field field) {
+  field.when = {key, 0, bits, false};
+  return field;
+}
+constexpr Field IfNone(Key key, std::uint64_t bits, Field field) {
+  field.when = {key, 0, bits, true};
   return field;
 }
 

@@ -9,22 +9,49 @@ using model::kVersion1018;
 using model::kVersion1021;
 using model::kVersion1024;
 using model::kVersion1027;
+using model::kVersion1032;
 
 constexpr Field kEntity[] = {
     Named(Key::kOwnerMode, Code::kBB),
     Named(Key::kReactorCount, Code::kBL),
-    Unnamed(Code::kB, 1, Until(kVersion1014)),  // line type of the layer
+    Named(Key::kLinetypeOfLayer, Code::kB, Until(kVersion1014)),
     Named(Key::kNoExtension, Code::kB, Since(kVersion1018)),
-    Unnamed(Code::kB, 1, Until(kVersion1015)),  // neighbours by number
+    Named(Key::kNeighboursByNumber, Code::kB, Until(kVersion1015)),
     Unnamed(Code::kB, 1, Since(kVersion1027)),  // has data in another section
-    Unnamed(Code::kEntityColour),
-    Unnamed(Code::kBD),                          // scale of the line type
-    Unnamed(Code::kBB, 2, Since(kVersion1015)),  // line type, plot style
-    Unnamed(Code::kBB, 1, Since(kVersion1021)),  // material
-    Unnamed(Code::kRC, 1, Since(kVersion1021)),  // shadows
-    Unnamed(Code::kB, 3, Since(kVersion1024)),   // visual styles
+    Named(Key::kColourHandle, Code::kEntityColour),
+    Unnamed(Code::kBD),  // scale of the line type
+    Named(Key::kLinetypeKind, Code::kBB, Since(kVersion1015)),
+    Named(Key::kPlotStyle, Code::kBB, Since(kVersion1015)),
+    Named(Key::kMaterial, Code::kBB, Since(kVersion1021)),
+    Named(Key::kShadow, Code::kRC, Since(kVersion1021)),
+    Named(Key::kFullVisualStyle, Code::kB, Since(kVersion1024)),
+    Named(Key::kFaceVisualStyle, Code::kB, Since(kVersion1024)),
+    Named(Key::kEdgeVisualStyle, Code::kB, Since(kVersion1024)),
     Unnamed(Code::kBS),                          // invisible
     Unnamed(Code::kRC, 1, Since(kVersion1015)),  // line weight
+};
+
+// Of what comes from elsewhere, the value that says that a handle tells from where.
+constexpr std::uint64_t kByHandle = 3;
+
+constexpr Field kEntityHandles[] = {
+    If(Key::kOwnerMode, 0, Named(Key::kOwner, Code::kHandle)),
+    Repeated(Key::kNone, Code::kHandle, Key::kReactorCount),
+    If(Key::kNoExtension, 0, Named(Key::kExtension, Code::kHandle)),
+    If(Key::kColourHandle, 1, Unnamed(Code::kHandle)),
+    // Layer and line type.
+    Unnamed(Code::kHandle, 1, Until(kVersion1014)),
+    If(Key::kLinetypeOfLayer, 0, Unnamed(Code::kHandle, 1, Until(kVersion1014))),
+    If(Key::kNeighboursByNumber, 0, Named(Key::kPrevious, Code::kHandle, Until(kVersion1015))),
+    If(Key::kNeighboursByNumber, 0, Named(Key::kNext, Code::kHandle, Until(kVersion1015))),
+    Unnamed(Code::kHandle, 1, Since(kVersion1015)),
+    If(Key::kLinetypeKind, kByHandle, Unnamed(Code::kHandle, 1, Since(kVersion1015))),
+    If(Key::kMaterial, kByHandle, Unnamed(Code::kHandle, 1, Since(kVersion1021))),
+    If(Key::kShadow, kByHandle, Unnamed(Code::kHandle, 1, Since(kVersion1021))),
+    If(Key::kPlotStyle, kByHandle, Unnamed(Code::kHandle, 1, Since(kVersion1015))),
+    If(Key::kFullVisualStyle, 1, Unnamed(Code::kHandle, 1, Since(kVersion1024))),
+    If(Key::kFaceVisualStyle, 1, Unnamed(Code::kHandle, 1, Since(kVersion1024))),
+    If(Key::kEdgeVisualStyle, 1, Unnamed(Code::kHandle, 1, Since(kVersion1024))),
 };
 
 constexpr Field kObject[] = {
@@ -70,6 +97,16 @@ constexpr Field kLinetype[] = {
     Named(Key::kComments, Code::kText),
 };
 
+// Of a block that stands in this drawing.
+constexpr Field kOwnedCountField[] = {
+    If(Key::kIsOverlay, 0, Named(Key::kOwnedCount, Code::kBL, Since(kVersion1018))),
+};
+constexpr Field kEndsOfChain[] = {
+    If(Key::kIsOverlay, 0, Named(Key::kFirst, Code::kHandle, Until(kVersion1015))),
+    If(Key::kIsOverlay, 0, Named(Key::kLast, Code::kHandle, Until(kVersion1015))),
+};
+
+// The handles that are asked for most stand as early as they may.
 constexpr Field kBlockRecord[] = {
     Named(Key::kName, Code::kText),
     kReferenceFlag,
@@ -78,6 +115,210 @@ constexpr Field kBlockRecord[] = {
     Named(Key::kAnonymous, Code::kB),
     Unnamed(Code::kHandle),  // external reference
     Named(Key::kBlockBegin, Code::kHandle),
+    Unnamed(Code::kB),  // has attributes
+    Named(Key::kIsReference, Code::kB),
+    Named(Key::kIsOverlay, Code::kB),
+    Unnamed(Code::kB, 1, Since(kVersion1015)),  // loaded
+    If(Key::kIsReference, 0, Table(kOwnedCountField)),
+    Unnamed(Code::k3BD),   // base
+    Unnamed(Code::kText),  // path
+    Named(Key::kInsertCount, Code::kRun, Since(kVersion1015)),
+    // Description, preview, unit, what may be done with references.
+    Unnamed(Code::kText, 1, Since(kVersion1015)),
+    Named(Key::kByteCount, Code::kBL, Since(kVersion1015)),
+    Repeated(Key::kNone, Code::kBytes, Key::kByteCount, Since(kVersion1015)),
+    Unnamed(Code::kBS, 1, Since(kVersion1021)),
+    Unnamed(Code::kB, 1, Since(kVersion1021)),
+    Unnamed(Code::kRC, 1, Since(kVersion1021)),
+    If(Key::kIsReference, 0, Table(kEndsOfChain)),
+    OnRequest(Repeated(Key::kOwned, Code::kHandle, Key::kOwnedCount, Since(kVersion1018))),
+    Unnamed(Code::kHandle),  // end
+    OnRequest(Repeated(Key::kInserts, Code::kHandle, Key::kInsertCount, Since(kVersion1015))),
+    Named(Key::kLayout, Code::kHandle, Since(kVersion1015)),
+};
+
+constexpr std::uint64_t kUnscaled = 3;
+constexpr std::uint64_t kEquallyScaled = 2;
+constexpr std::uint64_t kScaledButX = 1;
+
+constexpr Field kScale[] = {
+    Named(Key::kScaleKind, Code::kBB),
+    If(Key::kScaleKind, kScaledButX, Unnamed(Code::kDD, 2)),
+    If(Key::kScaleKind, kEquallyScaled, Unnamed(Code::kRD)),
+    If(Key::kScaleKind, 0, Unnamed(Code::kRD)),
+    If(Key::kScaleKind, 0, Unnamed(Code::kDD, 2)),
+};
+
+constexpr Field kReferenceBegin[] = {
+    Named(Key::kBlock, Code::kHandle),
+    Unnamed(Code::k3BD),  // place
+    Unnamed(Code::k3BD, 1, Until(kVersion1014)),
+    Table(kScale, Since(kVersion1015)),
+    Unnamed(Code::kBD),   // rotation
+    Unnamed(Code::k3BD),  // direction
+    Named(Key::kHasAttributes, Code::kB),
+    If(Key::kHasAttributes, 1, Named(Key::kAttributeCount, Code::kBL, Since(kVersion1018))),
+};
+constexpr Field kReferenceEnd[] = {
+    If(Key::kHasAttributes, 1, Named(Key::kFirst, Code::kHandle, Until(kVersion1015))),
+    If(Key::kHasAttributes, 1, Named(Key::kLast, Code::kHandle, Until(kVersion1015))),
+    Repeated(Key::kAttributes, Code::kHandle, Key::kAttributeCount, Since(kVersion1018)),
+};
+
+// What stands between them in an array of references, rows and columns, nobody asks for.
+constexpr Field kReference[] = {Table(kReferenceBegin), Table(kReferenceEnd)};
+
+// Flags of a text: fields that it lacks, as they have the usual value.
+constexpr std::uint64_t kNoElevation = 1;
+constexpr std::uint64_t kNoAlignment = 2;
+constexpr std::uint64_t kNoOblique = 4;
+constexpr std::uint64_t kNoRotation = 8;
+constexpr std::uint64_t kNoWidth = 16;
+constexpr std::uint64_t kNoGeneration = 32;
+constexpr std::uint64_t kNoHorizontal = 64;
+constexpr std::uint64_t kNoVertical = 128;
+
+constexpr Field kOldText[] = {
+    Unnamed(Code::kBD),  // elevation
+    Unnamed(Code::k2RD, 2),
+    Unnamed(Code::kExtrusion),
+    Unnamed(Code::kThickness),
+    Unnamed(Code::kBD, 4),  // from the slant to the width
+    Named(Key::kText, Code::kText),
+    Unnamed(Code::kBS, 3),
+};
+constexpr Field kNewText[] = {
+    Named(Key::kTextFlags, Code::kRC),
+    IfNone(Key::kTextFlags, kNoElevation, Unnamed(Code::kRD)),
+    Unnamed(Code::k2RD),
+    IfNone(Key::kTextFlags, kNoAlignment, Unnamed(Code::kDD, 2)),
+    Unnamed(Code::kExtrusion),
+    Unnamed(Code::kThickness),
+    IfNone(Key::kTextFlags, kNoOblique, Unnamed(Code::kRD)),
+    IfNone(Key::kTextFlags, kNoRotation, Unnamed(Code::kRD)),
+    Unnamed(Code::kRD),  // height
+    IfNone(Key::kTextFlags, kNoWidth, Unnamed(Code::kRD)),
+    Named(Key::kText, Code::kText),
+    IfNone(Key::kTextFlags, kNoGeneration, Unnamed(Code::kBS)),
+    IfNone(Key::kTextFlags, kNoHorizontal, Unnamed(Code::kBS)),
+    IfNone(Key::kTextFlags, kNoVertical, Unnamed(Code::kBS)),
+};
+constexpr Field kTextFields[] = {Table(kOldText, Until(kVersion1014)),
+                                 Table(kNewText, Since(kVersion1015))};
+
+constexpr std::uint64_t kHasBackground = 1;
+constexpr std::uint64_t kHasFrame = 16;
+constexpr std::uint64_t kColumnsOfHeights = 2;
+
+constexpr Field kBackgroundFields[] = {Unnamed(Code::kBD), Unnamed(Code::kColour),
+                                       Unnamed(Code::kBL)};
+constexpr Field kHeights[] = {
+    If(Key::kColumns, kColumnsOfHeights, Repeated(Key::kNone, Code::kBD, Key::kColumnCount)),
+};
+constexpr Field kColumnFields[] = {
+    Named(Key::kColumnCount, Code::kBL),      Unnamed(Code::kBD, 2),
+    Named(Key::kAutoHeight, Code::kB),        Unnamed(Code::kB),
+    If(Key::kAutoHeight, 0, Table(kHeights)),
+};
+constexpr Field kPlainMText[] = {
+    Unnamed(Code::kBS),
+    Unnamed(Code::kB),
+    Unnamed(Code::kBL),
+    Unnamed(Code::k3BD, 2),
+    Unnamed(Code::kBD, 4),
+    Named(Key::kColumns, Code::kBS),
+    IfNot(Key::kColumns, 0, Table(kColumnFields)),
+};
+constexpr Field kMText[] = {
+    // Place, direction, direction of the text; width, from AC1021 on height of the box.
+    Unnamed(Code::k3BD, 3),
+    Unnamed(Code::kBD),
+    Unnamed(Code::kBD, 1, Since(kVersion1021)),
+    // Height, attachment, flow, extents.
+    Unnamed(Code::kBD),
+    Unnamed(Code::kBS, 2),
+    Unnamed(Code::kBD, 2),
+    Named(Key::kText, Code::kText),
+    // Distance of the lines.
+    Unnamed(Code::kBS, 1, Since(kVersion1015)),
+    Unnamed(Code::kBD, 1, Since(kVersion1015)),
+    Unnamed(Code::kB, 1, Since(kVersion1015)),
+    Named(Key::kBackground, Code::kBL, Since(kVersion1018)),
+    IfAny(Key::kBackground, kHasBackground, Table(kBackgroundFields, {kVersion1018, kVersion1027})),
+    IfAny(Key::kBackground, kHasBackground | kHasFrame,
+          Table(kBackgroundFields, Since(kVersion1032))),
+    Named(Key::kNotAnnotative, Code::kB, Since(kVersion1032)),
+    If(Key::kNotAnnotative, 1, Table(kPlainMText, Since(kVersion1032))),
+};
+
+// An attribute with many lines holds an entity of its own, whose text counts.  Its handles stand
+// behind the attribute's.
+constexpr Field kAnnotation[] = {
+    Repeated(Key::kNone, Code::kBytes, Key::kByteCount),
+    Unnamed(Code::kBS),
+};
+constexpr Field kEmbeddedText[] = {
+    Table(kEntity),
+    Table(kMText),
+    Named(Key::kByteCount, Code::kBS),
+    IfNot(Key::kByteCount, 0, Table(kAnnotation)),
+};
+
+constexpr Field kAttribute[] = {
+    Table(kTextFields),
+    Unnamed(Code::kRC, 1, Since(kVersion1024)),  // version
+    Named(Key::kAttributeKind, Code::kRC, Since(kVersion1032)),
+    IfAny(Key::kAttributeKind, kMultiLineKinds, Table(kEmbeddedText)),
+    Named(Key::kTag, Code::kText),
+    Unnamed(Code::kBS),  // length
+    Named(Key::kAttributeFlags, Code::kRC),
+    Unnamed(Code::kB, 1, Since(kVersion1021)),  // keeps its place
+};
+
+constexpr Field kAttributeDefinition[] = {
+    Table(kAttribute),
+    Unnamed(Code::kRC, 1, Since(kVersion1024)),  // version
+    Named(Key::kPrompt, Code::kText),
+};
+
+constexpr Field kFirstGeoData[] = {
+    Named(Key::kReferencePoint, Code::k3BD),
+    Named(Key::kHorizontalUnits, Code::kBL),
+    Named(Key::kDesignPoint, Code::k3BD),
+    Unnamed(Code::k3BD),
+    Named(Key::kUpDirection, Code::k3BD),
+    Named(Key::kNorthAngle, Code::kBD),
+    Unnamed(Code::k3BD),
+    Named(Key::kCoordinateSystem, Code::kText),
+    Named(Key::kGeoTag, Code::kText),
+    Named(Key::kHorizontalScale, Code::kBD),
+    Unnamed(Code::kText, 2),
+};
+constexpr Field kLaterGeoData[] = {
+    Named(Key::kDesignPoint, Code::k3BD),
+    Named(Key::kReferencePoint, Code::k3BD),
+    Named(Key::kHorizontalScale, Code::kBD),
+    Named(Key::kHorizontalUnits, Code::kBL),
+    Named(Key::kVerticalScale, Code::kBD),
+    Named(Key::kVerticalUnits, Code::kBL),
+    Named(Key::kUpDirection, Code::k3BD),
+    Named(Key::kNorthVector, Code::k2RD),
+    Unnamed(Code::kBL),  // how the scale is found
+    Named(Key::kScaleFactor, Code::kBD),
+    Named(Key::kSeaLevel, Code::kB),
+    Named(Key::kSeaElevation, Code::kBD),
+    Named(Key::kProjectionRadius, Code::kBD),
+    Named(Key::kCoordinateSystem, Code::kText),
+    Named(Key::kGeoTag, Code::kText),
+};
+constexpr Field kGeoData[] = {
+    Named(Key::kGeoVersion, Code::kBL),
+    Named(Key::kCoordinateType, Code::kBS),
+    If(Key::kGeoVersion, 1, Table(kFirstGeoData)),
+    IfNot(Key::kGeoVersion, 1, Table(kLaterGeoData)),
+    Named(Key::kObservationFrom, Code::kText),
+    Named(Key::kObservationTo, Code::kText),
+    Named(Key::kObservationCoverage, Code::kText),
 };
 
 constexpr Field kDictionary[] = {
@@ -245,11 +486,26 @@ constexpr Field kHeader[] = {
 }  // namespace
 
 std::span<const Field> EntityLayout() { return kEntity; }
+std::span<const Field> EntityHandlesLayout() { return kEntityHandles; }
 std::span<const Field> ObjectLayout() { return kObject; }
 std::span<const Field> ObjectHandlesLayout() { return kObjectHandles; }
 
 std::span<const Field> OwnLayout(ObjectType type) {
   switch (type) {
+    case kTextType:
+      return kTextFields;
+    case kAttributeType:
+      return kAttribute;
+    case kAttributeDefinitionType:
+      return kAttributeDefinition;
+    case kReferenceType:
+    case kReferenceArrayType:
+      return kReference;
+    case kMTextType:
+      return kMText;
+    case kGeoDataType:
+      return kGeoData;
+    case kApplicationType:
     case kBlockBeginType:
     case kLayerType:
     case kViewType:

@@ -45,7 +45,7 @@ void ObjectMap::FindPages(model::Handle handle) {
 
 // Finds the next page; false if there is none.
 bool ObjectMap::FindPage() {
-  std::string scratch;
+  Scratch scratch;
   const auto head = section_->Bytes(next_, kPageSizeSize, scratch);
   const std::uint64_t size = head ? HighFirst(*head) : 0;
   if (size == kPageSizeSize) return false;
@@ -82,7 +82,7 @@ void ObjectMap::CheckSum(std::string_view bytes, const Page& page) {
 
 void ObjectMap::SetMarks(Page& page) {
   page.isMarked = true;
-  std::string scratch;
+  Scratch scratch;
   const auto bytes = section_->Bytes(page.at, page.size, scratch);
   if (!bytes) {
     Warn(L"A page of the object map can't be read.", page.at);
@@ -101,7 +101,7 @@ void ObjectMap::SetMarks(Page& page) {
 void ObjectMap::Sort() {
   Warn(L"The object map isn't in order.", 0);
   sorted_.emplace();
-  std::string scratch;
+  Scratch scratch;
   for (const Page& page : pages_) {
     const auto bytes = section_->Bytes(page.at, page.size, scratch);
     if (!bytes) continue;
@@ -146,7 +146,7 @@ std::optional<std::uint64_t> ObjectMap::FindIn(Page& page, model::Handle handle)
   if (mark != page.marks.begin()) --mark;
   if (mark == page.marks.end()) return std::nullopt;
   const std::uint64_t left = page.size - kCrcSize - mark->next;
-  std::string scratch;
+  Scratch scratch;
   const auto bytes =
       section_->Bytes(page.at + mark->next, std::min(left, kMarkEvery * kMostEntrySize), scratch);
   if (!bytes) return std::nullopt;
@@ -155,6 +155,34 @@ std::optional<std::uint64_t> ObjectMap::FindIn(Page& page, model::Handle handle)
   while (entry.first < handle && ReadEntry(reader, entry)) {
   }
   return entry.first == handle ? std::optional(entry.second) : std::nullopt;
+}
+
+void ObjectMap::ForEach(const Visit& visit) {
+  FindPages(std::numeric_limits<model::Handle>::max());
+  if (!sorted_) {
+    for (const Page& page : pages_) {
+      if (!VisitPage(page, visit)) return;
+    }
+    return;
+  }
+  for (std::size_t i = 0; i < sorted_->size(); ++i) {
+    const Entry& entry = (*sorted_)[i];
+    // Of those with the same handle the first counts.
+    if (i > 0 && (*sorted_)[i - 1].first == entry.first) continue;
+    if (!visit(entry.first, entry.second)) return;
+  }
+}
+
+bool ObjectMap::VisitPage(const Page& page, const Visit& visit) const {
+  Scratch scratch;
+  const auto bytes = section_->Bytes(page.at, page.size, scratch);
+  if (!bytes) return true;
+  BitReader reader(*bytes, kPageSizeSize * 8, (page.size - kCrcSize) * 8);
+  Entry entry = {0, 0};
+  while (ReadEntry(reader, entry)) {
+    if (!visit(entry.first, entry.second)) return false;
+  }
+  return true;
 }
 
 void ObjectMap::Warn(const wchar_t* text, std::uint64_t at) {

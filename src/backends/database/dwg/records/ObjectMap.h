@@ -6,6 +6,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -28,6 +29,10 @@ class ObjectMap {
 
   // Where the record of `handle` begins in the section of the objects.
   std::optional<std::uint64_t> Find(model::Handle handle);
+  // Calls `visit` with each handle and its place, by ascending handles, until that is false.  It
+  // may ask the map.
+  using Visit = std::function<bool(model::Handle handle, std::uint64_t place)>;
+  void ForEach(const Visit& visit);
 
  private:
   // A handle and its offset.
@@ -52,6 +57,7 @@ class ObjectMap {
   std::optional<std::uint64_t> FindKnown(model::Handle handle);
   // Steps to the next entry; false if the page has no more.
   static bool ReadEntry(BitReader& reader, Entry& entry);
+  bool VisitPage(const Page& page, const Visit& visit) const;
   void CheckSum(std::string_view bytes, const Page& page);
   void SetMarks(Page& page);
   std::optional<std::uint64_t> FindIn(Page& page, model::Handle handle);

@@ -23,6 +23,11 @@ bool IsFixedEntity(ObjectType type) {
                      [type](TypeRange range) { return type >= range.first && type <= range.last; });
 }
 
+bool IsPartOfEntity(ObjectType type) {
+  return type == kAttributeType || type == kBlockBeginType || type == kBlockEndType ||
+         type == kSequenceEndType || (type >= kFirstVertexType && type <= kLastVertexType);
+}
+
 std::wstring_view FixedClassName(ObjectType type) {
   const auto* const row = std::find_if(std::begin(kFixedClasses), std::end(kFixedClasses),
                                        [type](const FixedClass& c) { return c.type == type; });

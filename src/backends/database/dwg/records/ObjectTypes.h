@@ -8,8 +8,18 @@ namespace zdx::dwg {
 
 using ObjectType = std::uint16_t;
 
+inline constexpr ObjectType kTextType = 1;
+inline constexpr ObjectType kAttributeType = 2;
+inline constexpr ObjectType kAttributeDefinitionType = 3;
 inline constexpr ObjectType kBlockBeginType = 4;
+inline constexpr ObjectType kBlockEndType = 5;
+inline constexpr ObjectType kSequenceEndType = 6;
+inline constexpr ObjectType kReferenceType = 7;
+inline constexpr ObjectType kReferenceArrayType = 8;
+inline constexpr ObjectType kFirstVertexType = 10;
+inline constexpr ObjectType kLastVertexType = 14;
 inline constexpr ObjectType kDictionaryType = 42;
+inline constexpr ObjectType kMTextType = 44;
 inline constexpr ObjectType kBlockTableType = 48;
 inline constexpr ObjectType kBlockRecordType = 49;
 inline constexpr ObjectType kLayerTableType = 50;
@@ -18,17 +28,22 @@ inline constexpr ObjectType kLinetypeTableType = 56;
 inline constexpr ObjectType kLinetypeType = 57;
 inline constexpr ObjectType kViewTableType = 60;
 inline constexpr ObjectType kViewType = 61;
+inline constexpr ObjectType kApplicationType = 67;
 inline constexpr ObjectType kFreeRecordType = 79;
 inline constexpr ObjectType kProxyEntityType = 498;
 inline constexpr ObjectType kProxyObjectType = 499;
 // From here on a type is the number of a class.
 inline constexpr ObjectType kFirstClassType = 500;
+// Stands for a class that has no type: no record has this number.
+inline constexpr ObjectType kGeoDataType = 9;
 
 // Whether a type below kFirstClassType is that of an entity.
 bool IsFixedEntity(ObjectType type);
 
-// The class of a type below kFirstClassType that isn't one of an entity; empty if it has no name
-// that anybody asks for.
+// Whether an entity of that type is a part of another, or begins or ends something.
+bool IsPartOfEntity(ObjectType type);
+
+// The class of a type below kFirstClassType; empty if it has no name that anybody asks for.
 std::wstring_view FixedClassName(ObjectType type);
 
 }  // namespace zdx::dwg

@@ -1,6 +1,7 @@
 #include "backends/database/dwg/records/Record.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "backends/database/dwg/bits/Checksums.h"
 #include "base/LittleEndian.h"
@@ -30,6 +31,10 @@ Record::Record(Section& objects, std::uint64_t at, Format format, Extent extent,
   const std::uint64_t sizesSize = sizes.position() / 8;
   if (sizes.failed() || size > left || handleBits > size * 8) return;
   if (!ReadHead(begin->substr(static_cast<std::size_t>(sizesSize)), size, handleBits)) return;
+  if (extent == Extent::kHead) {
+    whole_ = true;
+    return;
+  }
   const std::uint64_t front = handlesAt_ / 8 + kFrontHandles;
   isCut_ = extent == Extent::kFront && format.version >= model::kVersion1018 && size > kLong &&
            front < size;
@@ -65,6 +70,18 @@ void Record::SkipExtendedData(BitReader& reader) const {
     reader.H();
     reader.Skip(size * 8);
   }
+}
+
+std::vector<std::pair<HandleReference, std::string>> Record::ExtendedData() const {
+  std::vector<std::pair<HandleReference, std::string>> data;
+  BitReader reader(body_, extendedDataAt_, std::uint64_t{body_.size()} * 8);
+  for (std::uint64_t size = reader.BS(); size != 0; size = reader.BS()) {
+    const HandleReference application = reader.H();
+    std::string bytes = reader.Bytes(size);
+    if (reader.failed()) break;
+    data.emplace_back(application, std::move(bytes));
+  }
+  return data;
 }
 
 void Record::SkipPicture(BitReader& reader) const {

@@ -13,6 +13,8 @@
 #include <limits>
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "backends/database/dwg/container/Container.h"
 #include "backends/database/dwg/records/Format.h"
@@ -26,9 +28,10 @@ namespace zdx::dwg {
 // Holds the bytes that its streams read.
 class Record {
  public:
-  // How much of a long record is read.  Its front has all fields but the later ones of its handles:
-  // a block's record may name a million entities.
-  enum class Extent { kWhole, kFront };
+  // How much of a record is read: all of it; of a long one the front, which has all fields but the
+  // later ones of its handles, for a block's record may name a million entities; or nothing behind
+  // its own handle.
+  enum class Extent { kWhole, kFront, kHead };
 
   // The record at `at` in the section of the objects, if what is read of it has `most` bytes at
   // most.
@@ -50,8 +53,12 @@ class Record {
   // Its own handle, from which others are counted.
   model::Handle handle() const { return handle_; }
 
-  // Its fields.  `isEntity` tells whether a picture stands before them, which the type alone
-  // doesn't tell.  nullopt if what stands before them runs past their end.
+  // What applications keep in it: the reference to the application's record, and its bytes.  Those
+  // before damage if there is any.
+  std::vector<std::pair<HandleReference, std::string>> ExtendedData() const;
+  // Its fields, none if only its head was read.  `isEntity` tells whether a picture stands before
+  // them, which the type alone doesn't tell.  nullopt if what stands before them runs past their
+  // end.
   std::optional<Streams> Fields(bool isEntity);
 
  private:
@@ -60,7 +67,7 @@ class Record {
   void SkipPicture(BitReader& reader) const;
 
   Format format_;
-  std::string scratch_;
+  Scratch scratch_;
   // What was read, and the part from its type to its check.
   std::string_view bytes_;
   std::string_view body_;

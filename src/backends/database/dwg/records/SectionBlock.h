@@ -32,7 +32,7 @@ class SectionBlock {
   std::uint64_t place() const { return place_; }
 
  private:
-  std::string scratch_;
+  Scratch scratch_;
   std::uint64_t place_;
   std::optional<Streams> streams_;
 };
