@@ -37,17 +37,19 @@ std::string Dwg(drawing::DrawingSpec spec, const char* version) {
   return dwg::Make(spec);
 }
 
+std::string SitePlanDwg(const char* version) { return Dwg(SitePlan(version), version); }
+
 }  // namespace
 
 std::vector<ExampleFile> AllFiles() {
-  return {{"site-plan.dxf", dxf::Make(SitePlan())},
+  return {{"site-plan.dxf", dxf::Make(SitePlan("AC1032"))},
           {"grading.dxf", dxf::Make(Grading(), {.lineEnd = "\n"})},
           {"survey-r2000.dxf", dxf::Make(Survey())},
           {"legacy-r12.dxf", dxf::Make(LegacyPlan(), {.form = dxf::Form::Binary})},
-          {"site-plan.dwg", Dwg(SitePlan(), "AC1032")},
-          {"site-plan-2013.dwg", Dwg(SitePlan(), "AC1027")},
-          {"site-plan-2010.dwg", Dwg(SitePlan(), "AC1024")},
-          {"site-plan-2007.dwg", Dwg(SitePlan(), "AC1021")},
+          {"site-plan.dwg", SitePlanDwg("AC1032")},
+          {"site-plan-2013.dwg", SitePlanDwg("AC1027")},
+          {"site-plan-2010.dwg", SitePlanDwg("AC1024")},
+          {"site-plan-2007.dwg", SitePlanDwg("AC1021")},
           {"grading-2004.dwg", Dwg(Grading(), "AC1018")},
           {"survey-r2000.dwg", Dwg(Survey(), "AC1015")},
           {"legacy-r14.dwg", Dwg(LegacyPlan(), "AC1014")}};

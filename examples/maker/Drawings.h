@@ -13,7 +13,8 @@ struct ExampleFile {
   std::string bytes;
 };
 
-drawing::DrawingSpec SitePlan();
+// With its location in the form of that version.
+drawing::DrawingSpec SitePlan(const std::string& version);
 drawing::DrawingSpec Grading();
 drawing::DrawingSpec Survey();
 drawing::DrawingSpec LegacyPlan();

@@ -22,6 +22,12 @@ constexpr const char* kHouseOutline = "A10";
 constexpr const char* kHouseText = "A11";
 constexpr const char* kWorkshopOutline = "A12";
 
+constexpr const char* kCoordinateSystem =
+    "<CoordinateSystem id=\"LOCAL-GRID-17\">\n"
+    "  <Description>A grid that was made up</Description>\n"
+    "  <Unit>METER</Unit>\n"
+    "</CoordinateSystem>";
+
 void AddTables(drawing::DrawingSpec& spec) {
   spec.layers = {{"0"},
                  {kBoundary, 1, "BOUNDARY"},
@@ -99,6 +105,25 @@ drawing::EntitySpec TitleInsert() {
       {}, kTitle);
 }
 
+// A gate of two or four metres: a dynamic block, and a block for each of its variations.
+void AddGates(drawing::DrawingSpec& spec) {
+  const drawing::AttributeSpec mark{.tag = "MARK", .prompt = "Mark of the gate?", .height = 0.8};
+  const drawing::AttributeSpec maker{
+      .tag = "MAKER", .value = "Example Gates", .flags = drawing::kConstant, .height = 0.4};
+  spec.blocks.push_back(
+      {.name = "GATE",
+       .definitions = {mark, maker},
+       .entities = {drawing::Line("0", {}, {2, 0}), drawing::Circle("0", {}, 0.1)},
+       .isDynamic = true});
+  for (const int width : {2, 4}) {
+    spec.blocks.push_back({.name = "*U" + std::to_string(width),
+                           .definitions = {mark, maker},
+                           .entities = {drawing::Line("0", {}, {static_cast<double>(width), 0}),
+                                        drawing::Circle("0", {}, 0.1)},
+                           .copyOf = "GATE"});
+  }
+}
+
 void AddBlocks(drawing::DrawingSpec& spec) {
   spec.blocks = {TitleBlock()};
   spec.blocks.push_back({.name = "TREE",
@@ -111,6 +136,7 @@ void AddBlocks(drawing::DrawingSpec& spec) {
        .entities = {drawing::Line("0", {0, -4}, {0, 4}), drawing::Circle("0", {}, 3),
                     drawing::Polyline("0", {{-1, 2}, {0, 4}, {1, 2}}),
                     drawing::Text("0", {-0.6, 4.6}, 1.6, "N")}});
+  AddGates(spec);
   // The arrow that the settings name, without the underscore.
   spec.blocks.push_back(
       {.name = "_ArchTick", .entities = {drawing::Polyline("0", {{-0.5, -0.5}, {0.5, 0.5}})}});
@@ -140,6 +166,10 @@ void AddRoads(std::vector<drawing::EntitySpec>& entities) {
   entities.push_back(drawing::Polyline(kRoad, {{0, 14}, {24, 14}, {30, 20}, {118, 22}}));
   entities.push_back(drawing::Polyline(kRoad, {{0, 20}, {21, 20}, {27, 26}, {117.5, 28}}));
   entities.push_back(drawing::Arc(kRoad, {24, 20}, 6, 270, 360));
+  entities.push_back(drawing::Insert("*U4", {{.tag = "MARK", .value = "G1", .at = {0.5, 15}}},
+                                     {.at = {0.5, 15}, .angle = 90}, kRoad));
+  entities.push_back(drawing::Insert("*U2", {{.tag = "MARK", .value = "G2", .at = {96, 58}}},
+                                     {.at = {96, 58}}, kRoad));
   for (int bay = 0; bay < 14; ++bay) {
     entities.push_back(drawing::Polyline(kCarPark, Rectangle({56 + bay * 2.5, 8}, 2.5, 5), true));
     entities.push_back(
@@ -188,6 +218,19 @@ void AddPaper(drawing::DrawingSpec& spec) {
   spec.plotSettings = {"A1 final", "A3 draft"};
 }
 
+// Where the plot's corner lies, in the form that drawings of that version mostly have.
+drawing::ObjectSpec Location(const std::string& version) {
+  return drawing::GeoObject({.version = version < "AC1024"   ? 1
+                                        : version < "AC1027" ? 2
+                                                             : 3,
+                             .coordinateType = 2,
+                             .referencePoint = {512300.0, 6213450.0, 41.0},
+                             .northX = 0.0523359562429438,
+                             .northY = 0.9986295347545738,
+                             .coordinateSystem = kCoordinateSystem,
+                             .geoRss = "alder-court"});
+}
+
 void AddObjects(drawing::DrawingSpec& spec) {
   spec.groups = {{"HOUSE_A", "House with its name", {kHouseOutline, kHouseText}},
                  {"BUILDINGS", "Both outlines", {kHouseOutline, kWorkshopOutline}}};
@@ -196,13 +239,7 @@ void AddObjects(drawing::DrawingSpec& spec) {
       {"SITE_SCHEDULE", drawing::Dictionary({{"TREES", drawing::Xrecord({{1, "44"}, {40, 1.8}})},
                                              {"PARKING", drawing::Xrecord({{90, 14}})}})}};
   spec.classes = {{drawing::kGeoType, drawing::kGeoClass}};
-  spec.modelExtension = {
-      {drawing::kGeoKey, drawing::GeoObject({.coordinateType = 2,
-                                             .referencePoint = {512300.0, 6213450.0, 41.0},
-                                             .northX = 0.0523359562429438,
-                                             .northY = 0.9986295347545738,
-                                             .coordinateSystem = "LOCAL-GRID-17",
-                                             .geoRss = "alder-court"})}};
+  spec.modelExtension = {{drawing::kGeoKey, Location(spec.version)}};
   spec.images = {{.name = "site-photo",
                   .path = "site-photo.png",
                   .pixelsAcross = 160,
@@ -214,8 +251,9 @@ void AddObjects(drawing::DrawingSpec& spec) {
 
 }  // namespace
 
-drawing::DrawingSpec SitePlan() {
+drawing::DrawingSpec SitePlan(const std::string& version) {
   drawing::DrawingSpec spec;
+  spec.version = version;
   AddTables(spec);
   AddDescription(spec);
   AddBlocks(spec);

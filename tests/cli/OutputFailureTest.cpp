@@ -34,6 +34,17 @@ TEST_P(OutputFailure, OfJsonIsToldAndEndsTheRun) {
   ExpectTold({"info", "-o", "json", "plan.dxf", "plan.dxf"});
 }
 
+TEST_P(OutputFailure, OfBlocksIsToldAndEndsTheRun) {
+  Write("plan.dxf", DxfText());
+  ExpectTold({"blocks", "plan.dxf", "plan.dxf"});
+  ExpectTold({"blocks", "-o", "json", "plan.dxf", "plan.dxf"});
+}
+
+TEST_P(OutputFailure, OfAValueIsToldAndEndsTheRun) {
+  Write("plan.dxf", DxfText());
+  ExpectTold({"get", "Title", "plan.dxf", "plan.dxf"});
+}
+
 TEST_P(OutputFailure, OfTheVersionIsTold) { ExpectTold({"--version"}); }
 
 TEST_P(OutputFailure, OfHelpIsTold) { ExpectTold({"info", "--help"}); }

@@ -50,6 +50,39 @@ TEST_F(Usage, HelpOfThumbNamesItsOptionsAndExitCodes) {
   }
 }
 
+TEST_F(Usage, HelpNamesBlocksAndGet) {
+  EXPECT_THAT(Zdx({"--help"}).out, HasSubstr("blocks"));
+  EXPECT_THAT(Zdx({"--help"}).out, HasSubstr("get"));
+}
+
+TEST_F(Usage, HelpOfBlocksNamesItsOptionsAndExitCodes) {
+  const Outcome outcome = Zdx({"blocks", "--help"});
+  EXPECT_EQ(outcome.exitCode, 0);
+  for (const char* const word : {"-o", "--output", "FILE", "Exit codes"}) {
+    EXPECT_THAT(outcome.out, HasSubstr(word));
+  }
+}
+
+TEST_F(Usage, HelpOfGetNamesItsKeysAndExitCodes) {
+  const Outcome outcome = Zdx({"get", "--help"});
+  EXPECT_EQ(outcome.exitCode, 0);
+  for (const char* const word :
+       {"KEY", "FILE", "Title", "custom:NAME", "block:NAME:TAG", "layers", "Exit codes"}) {
+    EXPECT_THAT(outcome.out, HasSubstr(word));
+  }
+}
+
+TEST_F(Usage, BlocksWithoutAFileIsRefused) { ExpectRefused({"blocks"}, "FILE"); }
+
+TEST_F(Usage, GetWithoutAKeyOrAFileIsRefused) {
+  ExpectRefused({"get"}, "KEY");
+  ExpectRefused({"get", "Title"}, "FILE");
+}
+
+TEST_F(Usage, GetInJsonIsRefused) {
+  ExpectRefused({"get", "Title", "a.dxf", "--output=json"}, "--output");
+}
+
 TEST_F(Usage, ThumbWithoutAPlaceToWriteIsRefused) { ExpectRefused({"thumb", "a.dxf"}, "--output"); }
 
 TEST_F(Usage, ThumbWithoutAFileIsRefused) { ExpectRefused({"thumb", "-O", "a.png"}, "FILE"); }
@@ -67,9 +100,9 @@ TEST_F(Usage, APictureOfAnUnknownKindIsRefused) {
 TEST_F(Usage, HelpOfInfoNamesItsOptionsAndSelections) {
   const Outcome outcome = Zdx({"info", "--help"});
   EXPECT_EQ(outcome.exitCode, 0);
-  for (const char* const word :
-       {"--output", "--select", "FILE", "summary", "custom", "thumbnail", "creator", "flavour",
-        "settings", "geo", "dictionaries", "tables", "blocks", "Exit codes"}) {
+  for (const char* const word : {"--output", "--select", "--block", "[:tag|:prompt]", "FILE",
+                                 "summary", "custom", "thumbnail", "creator", "flavour", "settings",
+                                 "geo", "dictionaries", "tables", "blocks", "Exit codes"}) {
     EXPECT_THAT(outcome.out, HasSubstr(word));
   }
 }

@@ -5,6 +5,8 @@
 #include <variant>
 #include <vector>
 
+#include "BlocksCommand.h"
+#include "GetCommand.h"
 #include "InfoCommand.h"
 #include "ThumbCommand.h"
 
@@ -21,7 +23,8 @@ struct WrongUsage {
   std::string text;
 };
 
-using Request = std::variant<InfoOptions, ThumbOptions, PrintAndLeave, WrongUsage>;
+using Request =
+    std::variant<InfoOptions, BlocksOptions, GetOptions, ThumbOptions, PrintAndLeave, WrongUsage>;
 
 // Reads what stands behind the program's name.
 Request ParseCommandLine(const std::vector<std::string>& arguments);

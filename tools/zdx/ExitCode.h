@@ -4,8 +4,9 @@
 namespace zdx {
 
 inline constexpr int kAllFilesRead = 0;
-// The drawing was read, and has no preview picture to write.
-inline constexpr int kNoPicture = 1;
+// All files were read, but what was asked for isn't there: a preview picture to write, or in some
+// file a value to print.
+inline constexpr int kNothingThere = 1;
 // At least one file failed; the others were told.
 inline constexpr int kFileFailed = 2;
 inline constexpr int kWrongUsage = 64;

@@ -4,15 +4,14 @@
 #include <string>
 #include <vector>
 
-#include "Selection.h"
+#include "DrawingReport.h"
+#include "OutputFormat.h"
 
 namespace zdx {
 
-enum class OutputFormat { kText, kJson };
-
 struct InfoOptions {
   OutputFormat format = OutputFormat::kText;
-  Selection selection = ZDXEngine::FilePropertyMgr::AllProperties;
+  Wanted wanted;
   // As the command line gives them, in the system's bytes.
   std::vector<std::string> files;
 };

@@ -1,7 +1,8 @@
 // The property sets and names that the tool knows by sight.
 #pragma once
 
-#include <string>
+#include <span>
+#include <string_view>
 
 #include "ZDXEngine/PropData.h"
 
@@ -13,11 +14,23 @@ enum class PropertySet { kSummary, kCustom, kStorage, kUnknown };
 // The set that `property` belongs to.
 PropertySet SetOf(const ZDXEngine::_PropData& property);
 
+// Whether the properties of the set of `property` are named by numbers.
+bool IsKnownByNumber(const ZDXEngine::_PropData& property);
+
+inline constexpr std::wstring_view kDrawingType = L"DWG Type";
+
 // Whether `property` tells which product made the drawing.
 bool IsDrawingType(const ZDXEngine::_PropData& property);
 
-// The name of the summary property that is known by the decimal text `number`; for an unknown one
-// "Property " and the number.
-std::wstring SummaryName(const std::wstring& number);
+// A text of the summary.
+struct SummaryField {
+  // As a property of the summary's set is named.
+  const wchar_t* number;
+  // As people call it.
+  const wchar_t* name;
+};
+
+// All of them, in the order in which they are told.
+std::span<const SummaryField> SummaryFields();
 
 }  // namespace zdx

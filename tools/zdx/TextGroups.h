@@ -1,11 +1,10 @@
 // The groups in which text output shows the properties of a drawing.
 #pragma once
 
-#include <cstddef>
 #include <span>
 #include <string_view>
 
-#include "ZDXEngine/PropData.h"
+#include "PropertyGroups.h"
 
 namespace zdx {
 
@@ -20,15 +19,16 @@ enum class GroupLayout {
 };
 
 struct TextGroup {
+  PropertyGroup group;
   std::string_view title;
   GroupLayout layout;
 };
 
-// All groups in the order in which they are shown.
+// All groups in the order in which they are shown; the last takes what the others don't.
 std::span<const TextGroup> TextGroups();
 
 // The index of the group in which `property` is shown.
-std::size_t GroupOf(const ZDXEngine::_PropData& property);
+std::size_t TextGroupOf(const ZDXEngine::_PropData& property);
 
 // Whether `property` is the second half of a row of a kPairs group.
 bool IsSecondOfPair(const ZDXEngine::_PropData& property);

@@ -1,15 +1,16 @@
 #include "TextOutput.h"
 
-#include <array>
-#include <charconv>
 #include <optional>
 #include <span>
 #include <vector>
 
+#include "BlockValues.h"
+#include "NumberText.h"
 #include "PropertyNames.h"
 #include "PropertyValue.h"
 #include "ReadableText.h"
 #include "TextGroups.h"
+#include "TextHead.h"
 #include "TextTable.h"
 #include "ThumbnailPicture.h"
 
@@ -32,11 +33,7 @@ struct ShowValue {
 
   Lines operator()(std::monostate) const { return {"(none)"}; }
   Lines operator()(bool flag) const { return {flag ? "yes" : "no"}; }
-  Lines operator()(double number) const {
-    std::array<char, 32> digits = {};
-    const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr;
-    return {std::string(digits.data(), end)};
-  }
+  Lines operator()(double number) const { return {NumberText(number)}; }
   Lines operator()(std::wstring_view text) const {
     return text.empty() ? Lines{"(empty)"} : ReadableLines(text);
   }
@@ -70,10 +67,17 @@ bool IsEmptyText(const _PropData& property) {
   return text != nullptr && text->empty();
 }
 
+std::wstring SummaryLabel(const _PropData& property) {
+  for (const SummaryField& field : SummaryFields()) {
+    if (property.name == field.number) return field.name;
+  }
+  return IsThumbnail(property) ? L"Thumbnail" : L"Property " + property.name;
+}
+
 std::wstring LabelOf(const _PropData& property) {
   switch (SetOf(property)) {
     case PropertySet::kSummary:
-      return SummaryName(property.name);
+      return SummaryLabel(property);
     case PropertySet::kCustom:
     case PropertySet::kStorage:
       return property.name;
@@ -123,38 +127,56 @@ void AddRow(Rows& group, GroupLayout layout, const _PropData& property) {
   }
 }
 
-// "Zent drawing, DXF (text), AC1032, code page ANSI_1252", as far as it is known.
-std::string HeadLine(const DrawingReport& report) {
-  const ZDXEngine::Diagnostics& found = report.diagnostics;
-  const std::string type = ReadableText(report.drawingType);
-  std::string line = type.empty() ? "Drawing" : type + " drawing";
-  if (!found.format.empty()) line += ", " + ReadableText(found.format);
-  if (!found.version.empty()) line += ", " + ReadableText(found.version);
-  if (!found.codePage.empty()) line += ", code page " + ReadableText(found.codePage);
-  return line;
+std::string TitleOf(const TextGroup& group, const std::vector<TextRow>& rows) {
+  std::string title(group.title);
+  if (group.layout != GroupLayout::kFields) title += " (" + std::to_string(rows.size()) + ")";
+  return title;
+}
+
+void AppendGroups(std::string& text, std::span<const _PropData> properties) {
+  const std::span<const TextGroup> groups = TextGroups();
+  std::vector<Rows> filled(groups.size());
+  for (const _PropData& property : properties) {
+    // The head line tells it.
+    if (IsDrawingType(property)) continue;
+    const std::size_t at = TextGroupOf(property);
+    AddRow(filled[at], groups[at].layout, property);
+  }
+  for (std::size_t i = 0; i < groups.size(); ++i) {
+    const std::vector<TextRow>& rows = filled[i].rows;
+    if (rows.empty()) continue;
+    text.push_back('\n');
+    AppendTable(text, TitleOf(groups[i], rows), rows);
+  }
+}
+
+// "Block TITLE", or "Block TITLE, NOTES" of blocks that share a format id.
+std::string TitleOf(const BlockValues& group) {
+  std::string title = "Block ";
+  for (const BlockFilter* const block : group.blocks) {
+    if (block != group.blocks.front()) title += ", ";
+    title += ReadableText(block->blockName);
+  }
+  return group.values.empty() ? title + " (none)" : title;
+}
+
+void AppendBlocks(std::string& text, const DrawingReport& report) {
+  for (const BlockValues& group : SortBlockValues(report.BlockProperties(), report.blocks)) {
+    std::vector<TextRow> rows;
+    for (const _PropData* const value : group.values) {
+      rows.push_back({ReadableText(value->name), Shown(*value)});
+    }
+    text.push_back('\n');
+    AppendTable(text, TitleOf(group), rows);
+  }
 }
 
 }  // namespace
 
 std::string TextOf(const std::wstring& path, const DrawingReport& report) {
-  const std::span<const TextGroup> groups = TextGroups();
-  std::vector<Rows> filled(groups.size());
-  for (const _PropData& property : report.properties) {
-    // The head line tells it.
-    if (IsDrawingType(property)) continue;
-    const std::size_t at = GroupOf(property);
-    AddRow(filled[at], groups[at].layout, property);
-  }
-
-  std::string text = ReadableText(path) + "\n  " + HeadLine(report) + "\n";
-  for (std::size_t i = 0; i < groups.size(); ++i) {
-    const std::vector<TextRow>& rows = filled[i].rows;
-    if (rows.empty()) continue;
-    std::string title(groups[i].title);
-    if (groups[i].layout != GroupLayout::kFields) title += " (" + std::to_string(rows.size()) + ")";
-    text.push_back('\n');
-    AppendTable(text, title, rows);
-  }
+  std::string text = TextHead(path, report.drawingType, report.diagnostics);
+  AppendGroups(text, report.OwnProperties());
+  AppendBlocks(text, report);
   return text;
 }
 

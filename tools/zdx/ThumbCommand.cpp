@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "AsciiCase.h"
 #include "DrawingReport.h"
 #include "EngineSession.h"
 #include "ExitCode.h"
@@ -22,14 +23,6 @@ struct NamedKind {
 
 constexpr NamedKind kKinds[] = {
     {".png", PictureKind::kPng}, {".bmp", PictureKind::kBmp}, {".wmf", PictureKind::kWmf}};
-
-bool EndsIn(std::string_view name, std::string_view ending) {
-  if (name.size() < ending.size()) return false;
-  const std::string_view end = name.substr(name.size() - ending.size());
-  return std::equal(end.begin(), end.end(), ending.begin(), [](char c, char lower) {
-    return (c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c) == lower;
-  });
-}
 
 void ComplainAbout(const std::string& file, std::string_view sentence) {
   Complain(ReadableText(ZDXEngine::WideFromUtf8(file)) + ": " + std::string(sentence));
@@ -52,7 +45,7 @@ int WritePictureOf(const ThumbOptions& options, const DrawingReport& report) {
   const auto found = std::find_if(properties.begin(), properties.end(), IsThumbnail);
   if (found == properties.end()) {
     ComplainAbout(options.file, "There is no preview picture.");
-    return kNoPicture;
+    return kNothingThere;
   }
   const PropertyValue value = ValueOf(*found);
   const auto* const bytes = std::get_if<std::span<const std::uint8_t>>(&value);
@@ -66,7 +59,7 @@ int WritePictureOf(const ThumbOptions& options, const DrawingReport& report) {
 
 std::optional<PictureKind> PictureKindOf(std::string_view name) {
   for (const NamedKind& entry : kKinds) {
-    if (EndsIn(name, entry.ending)) return entry.kind;
+    if (EndsInIgnoringAsciiCase(name, entry.ending)) return entry.kind;
   }
   return std::nullopt;
 }
@@ -74,7 +67,7 @@ std::optional<PictureKind> PictureKindOf(std::string_view name) {
 int RunThumb(const ThumbOptions& options) {
   const EngineSession session;
   const std::wstring path = ZDXEngine::WideFromUtf8(options.file);
-  const auto result = ReadDrawing(path, ZDXEngine::FilePropertyMgr::Thumbnail);
+  const auto result = ReadProperties(path, {ZDXEngine::FilePropertyMgr::Thumbnail, {}});
   if (const auto* const failure = std::get_if<Failure>(&result)) {
     ComplainAboutFailure(path, *failure);
     return kFileFailed;

@@ -4,17 +4,17 @@
 #include "CommandLine.h"
 #include "ExitCode.h"
 #include "Failure.h"
-#include "InfoCommand.h"
 #include "Messages.h"
 #include "ReadableText.h"
 #include "StandardStreams.h"
 #include "SystemNames.h"
-#include "ThumbCommand.h"
 
 namespace {
 
 struct Follow {
   int operator()(const zdx::InfoOptions& options) const { return zdx::RunInfo(options); }
+  int operator()(const zdx::BlocksOptions& options) const { return zdx::RunBlocks(options); }
+  int operator()(const zdx::GetOptions& options) const { return zdx::RunGet(options); }
   int operator()(const zdx::ThumbOptions& options) const { return zdx::RunThumb(options); }
   int operator()(const zdx::PrintAndLeave& print) const {
     return zdx::WriteOutput(print.text) ? zdx::kAllFilesRead : zdx::kOutputFailed;

@@ -5,53 +5,33 @@
 #include <limits>
 #include <nlohmann/json.hpp>
 
+#include "JsonFailure.h"
 #include "JsonOutput.h"
 #include "TextOutput.h"
+#include "cli/parts/MadeUpReport.h"
 
 namespace zdx {
 
 namespace {
 
 using ::testing::HasSubstr;
-using ZDXEngine::_PropData;
 
-constexpr const wchar_t* kSummarySet = L"{F29F85E0-4FF9-1068-AB91-08002B27B3D9}";
-constexpr const wchar_t* kStorageSet = L"{B725F130-47EF-101A-A5F1-02608C9EEBAC}";
-
-// A report whose values stay the test's: none of them may be released by a record.
 class OutputOfReports : public ::testing::Test {
  protected:
-  ~OutputOfReports() override {
-    for (_PropData& property : report_.properties) property.value.vt = VT_EMPTY;
-  }
-
-  VARIANT& Add(const wchar_t* set, const wchar_t* name, std::int32_t typeCode) {
-    // Only records that hold nothing are copied as the list grows.
-    report_.properties.reserve(kMostProperties);
-    _PropData& property = report_.properties.emplace_back();
-    property.formatId = set;
-    property.name = name;
-    property.typeCode = typeCode;
-    return property.value;
-  }
-
   void AddNumber(const wchar_t* name, double number) {
-    VARIANT& value = Add(kStorageSet, name, ZDXEngine::kTypeNumber);
+    VARIANT& value = made_.Add(kStorageSet, name, ZDXEngine::kTypeNumber);
     value.vt = VT_R8;
     value.dblVal = number;
   }
 
   void AddFlag(const wchar_t* name, bool flag) {
-    VARIANT& value = Add(kStorageSet, name, ZDXEngine::kTypeFlag);
+    VARIANT& value = made_.Add(kStorageSet, name, ZDXEngine::kTypeFlag);
     value.vt = VT_BOOL;
     value.boolVal = flag ? VARIANT_TRUE : VARIANT_FALSE;
   }
 
-  // `text`, which may be null, must outlive the test.
-  void AddText(const wchar_t* set, const wchar_t* name, wchar_t* text) {
-    VARIANT& value = Add(set, name, ZDXEngine::kTypeText);
-    value.vt = VT_BSTR;
-    value.bstrVal = text;
+  void AddText(const wchar_t* set, const wchar_t* name, const wchar_t* text) {
+    made_.AddText(set, name, text);
   }
 
   void AddPicture() {
@@ -59,7 +39,7 @@ class OutputOfReports : public ::testing::Test {
     array_.cbElements = 1;
     array_.pvData = bytes_.data();
     array_.rgsabound[0].cElements = static_cast<std::uint32_t>(bytes_.size());
-    VARIANT& value = Add(kSummarySet, L"17", ZDXEngine::kTypeBinary);
+    VARIANT& value = made_.Add(kSummarySet, L"17", ZDXEngine::kTypeBinary);
     value.vt = VT_ARRAY | VT_UI1;
     value.parray = &array_;
   }
@@ -68,10 +48,10 @@ class OutputOfReports : public ::testing::Test {
     return nlohmann::json::parse(JsonOf(L"a", report_)).at("properties").at(at).at("value");
   }
 
-  DrawingReport report_;
+  MadeUpReport made_;
+  DrawingReport& report_ = made_.Report();
 
  private:
-  static constexpr std::size_t kMostProperties = 8;
   std::array<std::uint8_t, 4> bytes_ = {3, 0, 0, 0xFF};
   SAFEARRAY array_ = {};
 };
@@ -79,7 +59,7 @@ class OutputOfReports : public ::testing::Test {
 TEST_F(OutputOfReports, ANumberIsANumber) {
   AddNumber(L"scaleFactor", 0.1);
   EXPECT_EQ(Value(0), 0.1);
-  EXPECT_THAT(TextOf(L"a", report_), HasSubstr("  Location\n    scaleFactor  0.1\n"));
+  EXPECT_THAT(TextOf(L"a", report_), HasSubstr("  Geographic location\n    scaleFactor  0.1\n"));
 }
 
 TEST_F(OutputOfReports, ANumberThatIsNotFiniteIsNullInJson) {
@@ -99,9 +79,8 @@ TEST_F(OutputOfReports, AFlagIsAFlag) {
 }
 
 TEST_F(OutputOfReports, ANullTextIsNullAndAnEmptyOneEmpty) {
-  std::array<wchar_t, 1> empty = {};
   AddText(kSummarySet, L"2", nullptr);
-  AddText(kSummarySet, L"3", empty.data());
+  AddText(kSummarySet, L"3", L"");
   EXPECT_TRUE(Value(0).is_null());
   EXPECT_EQ(Value(1), "");
   EXPECT_THAT(TextOf(L"a", report_), HasSubstr("    Title    (none)\n    Subject  (empty)\n"));
@@ -120,10 +99,9 @@ TEST_F(OutputOfReports, BytesThatAreNoPictureAreBase64InJsonAndASizeInText) {
 }
 
 TEST_F(OutputOfReports, AnUnknownPropertyIsStillShown) {
-  std::array<wchar_t, 2> text = {L'x', 0};
-  AddText(kSummarySet, L"99", text.data());
-  AddText(kStorageSet, L"Novelty", text.data());
-  AddText(L"{0}", L"Tag", text.data());
+  AddText(kSummarySet, L"99", L"x");
+  AddText(kStorageSet, L"Novelty", L"x");
+  AddText(L"{0}", L"Tag", L"x");
   EXPECT_EQ(TextOf(L"a", report_),
             "a\n"
             "  Drawing\n"
@@ -137,12 +115,10 @@ TEST_F(OutputOfReports, AnUnknownPropertyIsStillShown) {
 }
 
 TEST_F(OutputOfReports, CommentsWithoutALineTypeNameGetARowOfTheirOwn) {
-  std::array<wchar_t, 2> name = {L'n', 0};
-  std::array<wchar_t, 2> comments = {L'c', 0};
-  AddText(kStorageSet, L"LineType Comments", comments.data());
-  AddText(kStorageSet, L"LineType Name", name.data());
-  AddText(kStorageSet, L"LineType Name", name.data());
-  AddText(kStorageSet, L"LineType Comments", comments.data());
+  AddText(kStorageSet, L"LineType Comments", L"c");
+  AddText(kStorageSet, L"LineType Name", L"n");
+  AddText(kStorageSet, L"LineType Name", L"n");
+  AddText(kStorageSet, L"LineType Comments", L"c");
   EXPECT_THAT(TextOf(L"a", report_), HasSubstr("  Line types (3)\n"
                                                "    (no name)  c\n"
                                                "    n\n"
