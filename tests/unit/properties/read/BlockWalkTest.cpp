@@ -358,6 +358,22 @@ TEST_F(BlockWalkFailures, AFailureToCloseIsIgnored) {
   EXPECT_THAT(ReadValues(), ElementsAre("MAKER=Smith", "A=one", "A=two"));
 }
 
+TEST_F(BlockWalkFailures, WhatTheLibraryThrowsComesOutAndNothingStaysOpen) {
+  filters[0].usePrompt = true;
+  door.AddDefinition(L"A", L"Width");
+  window.references.clear();
+  window.dynamic = true;
+  window.copies = {&door};
+  for (const char* call :
+       {"isLayout", "getName", "newIterator", "getEntity", "isConstant", "textString", "ownerId",
+        "attributeIterator", "openAttribute", "isMTextAttribute", "getEntityId", "prompt",
+        "ZnDbDynBlockTableRecord", "getAnonymousBlockIds", "seek", "getBlockReference"}) {
+    world.ForgetScripts();
+    world.Throw(call);
+    EXPECT_THROW(Read(), scripted::Fault) << call;
+  }
+}
+
 TEST(BlockWalkWithoutMemory, RaisesTheComErrorAndLeaksNothing) {
   outages::FailEachAllocation(
       [](scripted::World& world) {
