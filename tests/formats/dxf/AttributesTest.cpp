@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "formats/dxf/HandmadeDrawing.h"
+#include "support/drawing/Tokens.h"
 #include "support/drawing/Version.h"
 
 namespace {
@@ -12,7 +13,7 @@ using testing::ElementsAre;
 using zdx::model::ObjectKey;
 using StoredAttributes = std::vector<zdx::model::Attribute>;
 
-const Tags kEmbeddedStart = {{101, "Embedded Object"}};
+const Tags kEmbeddedStart = {{101, drawing::kEmbeddedObject}};
 
 // What the definitions of the block "door", and the attributes of its references, tell.
 struct Told {
@@ -37,10 +38,11 @@ Told ReadDoor(OpenDrawing& drawing) {
 // `text` are the tags of the text part, `own` those behind the attribute's marker.
 Tags AttributeOf(const std::string& type, const Tags& text, const Tags& own,
                  const Tags& head = {}) {
-  const std::string marker = type == "ATTDEF" ? "AcDbAttributeDefinition" : "AcDbAttribute";
+  const std::string marker =
+      type == "ATTDEF" ? drawing::kAttributeDefinitionMarker : drawing::kAttributeMarker;
   return Join({{{0, type}, {5, "A0"}},
                head,
-               {{100, "AcDbEntity"}, {8, "0"}, {100, "AcDbText"}},
+               {{100, drawing::kEntityMarker}, {8, "0"}, {100, drawing::kTextMarker}},
                text,
                {{100, marker}},
                own});
@@ -157,13 +159,22 @@ zdx::model::Attribute WithRecord(const std::string& version, const Tags& record)
   const Tags attribute =
       AttributeOf("ATTRIB", {{1, "plain"}}, {{2, "NOTE_001"}, {70, 0}}, Extension("70"));
   OpenDrawing drawing(BytesOf(WithAttributes(
-      version, {}, attribute, Join({Dictionary("70", "ACAD_MLATT", "71"), record}))));
+      version, {}, attribute, Join({Dictionary("70", drawing::kMultiLineKey, "71"), record}))));
   return ReadDoor(drawing).attributes.at(0);
 }
 
-const Tags kMultiLineRecord = {
-    {0, "XRECORD"},         {5, "71"}, {100, "AcDbXrecord"}, {280, 1},   {70, 2}, {2, "NOTE"},
-    {1, "Embedded Object"}, {10, 1.0}, {3, "one "},          {1, "two"}, {73, 1}, {1, "other"}};
+const Tags kMultiLineRecord = {{0, "XRECORD"},
+                               {5, "71"},
+                               {100, drawing::kXrecordMarker},
+                               {280, 1},
+                               {70, 2},
+                               {2, "NOTE"},
+                               {1, drawing::kEmbeddedObject},
+                               {10, 1.0},
+                               {3, "one "},
+                               {1, "two"},
+                               {73, 1},
+                               {1, "other"}};
 
 class DxfMultiLineRecord : public testing::TestWithParam<const char*> {};
 
@@ -175,8 +186,8 @@ TEST_P(DxfMultiLineRecord, TellsTheTagAndTheText) {
 }
 
 TEST_P(DxfMultiLineRecord, LeavesTheAttributeWhatItDoesNotTell) {
-  const auto attribute =
-      WithRecord(GetParam(), {{0, "XRECORD"}, {5, "71"}, {100, "AcDbXrecord"}, {1, "text"}});
+  const auto attribute = WithRecord(
+      GetParam(), {{0, "XRECORD"}, {5, "71"}, {100, drawing::kXrecordMarker}, {1, "text"}});
   EXPECT_TRUE(attribute.isMultiLine);
   EXPECT_EQ(attribute.tag, L"NOTE_001");
   EXPECT_EQ(attribute.text, L"plain");
@@ -232,14 +243,15 @@ TEST(DamagedDxfAttributes, LoseWhatStoodBehindTheDamage) {
   EXPECT_EQ(ReadDoor(late).attributes.at(0).tag, std::nullopt);
   EXPECT_EQ(ReadDoor(late).attributes.at(0).text, L"text");
   EXPECT_EQ(late.report().warningCount, 1u);
-  OpenDrawing early(CutBehind(attribute, "AcDbText\n"));
+  OpenDrawing early(CutBehind(attribute, std::string(drawing::kTextMarker) + "\n"));
   EXPECT_EQ(ReadDoor(early).attributes.at(0).text, std::nullopt);
 }
 
 TEST(DamagedDxfAttributes, TellNoPartOfATextOfManyPieces) {
   const Tags attribute = AttributeOf(
       "ATTRIB", {{1, ""}}, Join({{{2, "TAG"}}, kEmbeddedStart, {{3, "one"}, {1, "two"}}}));
-  for (const char* const line : {"Embedded Object\n", "one\n"}) {
+  for (const std::string& line :
+       {std::string(drawing::kEmbeddedObject) + "\n", std::string("one\n")}) {
     OpenDrawing drawing(CutBehind(attribute, line));
     EXPECT_EQ(ReadDoor(drawing).attributes.at(0).text, std::nullopt) << line;
     EXPECT_EQ(ReadDoor(drawing).attributes.at(0).tag, L"TAG") << line;

@@ -2,7 +2,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "ZDXEngine/Utf8.h"
 #include "formats/dxf/HandmadeDrawing.h"
+#include "support/drawing/Tokens.h"
 
 namespace {
 
@@ -73,13 +75,13 @@ TEST(DxfBlocks, AreLayoutsByTheirLayoutOrTheirName) {
 }
 
 TEST(DxfBlocks, HoldTheirEntitiesInStoredOrderWithoutPartsOfOthers) {
-  const Tags entities = Join({Entity("CIRCLE", "10", "", "AcDbCircle"),
+  const Tags entities = Join({Entity("CIRCLE", "10", "", drawing::kCircleMarker),
                               Insert("other", "11"),
                               Attribute("TAG", "text"),
                               {{0, "SEQEND"}},
-                              Entity("POLYLINE", "12", "", "AcDb2dPolyline"),
+                              Entity("POLYLINE", "12", "", drawing::k2dPolylineMarker),
                               {{0, "VERTEX"}, {5, "13"}, {0, "SEQEND"}},
-                              Entity("ATTDEF", "14", "", "AcDbText")});
+                              Entity("ATTDEF", "14", "", drawing::kTextMarker)});
   OpenDrawing drawing(
       BytesOf({.records = kSpaceRecords,
                .blocks = Join({BlockOf("first", Line("1")), BlockOf("door", entities),
@@ -157,10 +159,10 @@ TEST(DxfBlocks, WithoutTheirEndEndAtTheNextOrWithTheSection) {
 TEST(DxfBlocks, AreDynamicByTheirExtensionOrTheirExtendedData) {
   const Tags records =
       Join({Record("1", "*Model_Space"), Record("2", "by extension", Extension("70")),
-            Record("3", "by data", {{1001, "AcDbDynamicBlockTrueName"}, {1000, "by data"}}),
+            Record("3", "by data", {{1001, drawing::kTrueNameApplication}, {1000, "by data"}}),
             Record("4", "extended otherwise", Extension("71")), Record("5", "plain"),
             Record("6", "lost", Extension("79"))});
-  const Tags objects = Join({Dictionary("70", "ACAD_ENHANCEDBLOCK", "72"),
+  const Tags objects = Join({Dictionary("70", drawing::kDynamicBlockKey, "72"),
                              Dictionary("71", "OTHER", "72"),
                              {{0, "XRECORD"}, {5, "72"}}});
   OpenDrawing drawing(BytesOf({.records = records, .objects = objects}));
@@ -176,7 +178,7 @@ TEST(DxfBlocks, AreDynamicByTheirExtensionOrTheirExtendedData) {
 
 TEST(DxfBlocks, CarryTheVariationsOfTheBlockThatTheyName) {
   const auto variation = [](const std::string& of) {
-    return Tags{{1001, "AcDbBlockRepBTag"}, {1070, 1}, {1005, of}};
+    return Tags{{1001, drawing::kCopyApplication}, {1070, 1}, {1005, of}};
   };
   const Tags records = Join({Record("1", "*Model_Space"), Record("22", "*U2", variation("A0")),
                              Record("A0", "first"), Record("21", "*U1", variation("A0")),
@@ -195,12 +197,17 @@ TEST(DxfBlocks, CarryTheVariationsOfTheBlockThatTheyName) {
   EXPECT_THAT(copiesOf(L"*U1"), IsEmpty());
 }
 
+std::string Capital(std::string text) {
+  for (char& c : text) c = static_cast<char>(c >= 'a' && c <= 'z' ? c - 'a' + 'A' : c);
+  return text;
+}
+
 class DxfTrueName : public testing::TestWithParam<std::pair<const char*, const wchar_t*>> {};
 
 // Also where the applications' names are in capitals.
 TEST_P(DxfTrueName, IsToldWhereTheRecordHasAnotherAndReferencesUseTheRecords) {
   const auto& [version, name] = GetParam();
-  const Tags data = {{1001, "ACDBDYNAMICBLOCKTRUENAME"}, {1000, "window"}};
+  const Tags data = {{1001, Capital(drawing::kTrueNameApplication)}, {1000, "window"}};
   OpenDrawing drawing(
       BytesOf({.version = version,
                .records = Join({Record("1", "*Model_Space"), Record("2", "*U17", data)}),
@@ -218,7 +225,7 @@ INSTANTIATE_TEST_SUITE_P(Versions, DxfTrueName,
                          [](const auto& test) { return std::string(test.param.first); });
 
 TEST(DxfBlocks, ThatWereGivenANameKeepItInEveryVersion) {
-  const Tags data = {{1001, "AcDbDynamicBlockTrueName"}, {1000, "before"}};
+  const Tags data = {{1001, drawing::kTrueNameApplication}, {1000, "before"}};
   OpenDrawing drawing(
       BytesOf({.version = "AC1021",
                .records = Join({Record("1", "*Model_Space"), Record("2", "now", data)})}));
@@ -226,10 +233,11 @@ TEST(DxfBlocks, ThatWereGivenANameKeepItInEveryVersion) {
 }
 
 TEST(DxfEntities, AreDescribedByTheirType) {
-  const Tags entities =
-      Join({Insert("door"), Attribute("T", "v"), Entity("ATTDEF", "", "", "AcDbText"),
-            Entity("TEXT", "", "", "AcDbText"), Entity("MTEXT", "", "", "AcDbMText"),
-            Entity("LINE", "", "", "AcDbLine"), Entity("SPECIAL", "", "", "AcDbEntity")});
+  const Tags entities = Join(
+      {Insert("door"), Attribute("T", "v"), Entity("ATTDEF", "", "", drawing::kTextMarker),
+       Entity("TEXT", "", "", drawing::kTextMarker), Entity("MTEXT", "", "", drawing::kMTextMarker),
+       Entity("LINE", "", "", drawing::kLineMarker),
+       Entity("SPECIAL", "", "", drawing::kEntityMarker)});
   const Tags objects = Join({{{0, "GEODATA"}, {5, "70"}}, {{0, "XRECORD"}, {5, "71"}}});
   OpenDrawing drawing(
       BytesOf({.records = kSpaceRecords, .entities = entities, .objects = objects}));
@@ -246,25 +254,25 @@ TEST(DxfEntities, AreDescribedByTheirType) {
 
 TEST(DxfEntities, WithoutAKindOfTheirOwnTellTheirClass) {
   for (const auto& [version, name] :
-       {std::pair("AC1015", L"AcDbLine"), std::pair("AC1009", L"LINE")}) {
+       {std::pair("AC1015", drawing::kLineMarker), std::pair("AC1009", "LINE")}) {
     OpenDrawing drawing(BytesOf({.version = version, .blocks = BlockOf("door", Line("10"))}));
     const auto entities = drawing->BlockEntities(drawing.BlockNamed(L"door"));
     ASSERT_EQ(entities.size(), 1u);
-    EXPECT_EQ(drawing->Describe(entities[0]).className, name) << version;
+    EXPECT_EQ(drawing->Describe(entities[0]).className, ZDXEngine::WideFromUtf8(name)) << version;
   }
 }
 
 TEST(DxfEntities, OfTextTellItInOneOrManyPieces) {
-  const Tags entities = Join({Entity("TEXT", "", "", "AcDbText", {{1, "one line"}}),
-                              Entity("MTEXT", "", "", "AcDbMText",
+  const Tags entities = Join({Entity("TEXT", "", "", drawing::kTextMarker, {{1, "one line"}}),
+                              Entity("MTEXT", "", "", drawing::kMTextMarker,
                                      {{3, "first \\P"},
                                       {3, "second "},
                                       {1, "third"},
                                       {7, "style"},
-                                      {101, "Embedded Object"},
+                                      {101, drawing::kEmbeddedObject},
                                       {1, "another"}}),
-                              Entity("MTEXT", "", "", "AcDbMText", {{3, "cut"}}),
-                              Entity("TEXT", "", "", "AcDbText")});
+                              Entity("MTEXT", "", "", drawing::kMTextMarker, {{3, "cut"}}),
+                              Entity("TEXT", "", "", drawing::kTextMarker)});
   OpenDrawing drawing(BytesOf({.records = kSpaceRecords, .entities = entities}));
   std::vector<std::optional<std::wstring>> texts;
   for (const ObjectKey entity : drawing->BlockEntities(drawing.BlockNamed(L"*Model_Space"))) {

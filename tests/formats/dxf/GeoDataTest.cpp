@@ -5,6 +5,7 @@
 #include <numbers>
 
 #include "formats/dxf/HandmadeDrawing.h"
+#include "support/drawing/Tokens.h"
 
 namespace {
 
@@ -19,7 +20,7 @@ Tags GeoObject(const Tags& values) {
                 {330, "70"},
                 {102, "}"},
                 {330, "70"},
-                {100, "AcDbGeoData"}},
+                {100, drawing::kGeoClass}},
                values});
 }
 
@@ -27,7 +28,7 @@ Contents WithLocation(const Tags& object, const std::string& version = "AC1027")
   return {.version = version,
           .records = Join({Record("1", "*Model_Space", Extension("70")),
                            Record("2", "*Paper_Space", Extension("72"))}),
-          .objects = Join({Dictionary("70", "ACAD_GEOGRAPHICDATA", "71"), object})};
+          .objects = Join({Dictionary("70", drawing::kGeoKey, "71"), object})};
 }
 
 std::optional<GeoData> ReadLocation(const std::string& bytes) {
@@ -113,7 +114,7 @@ TEST(DxfLocationObject, IsNoneWithoutTheEntryOfModelSpace) {
   const Tags object = GeoObject(Join({{{90, 3}}, kLater}));
   EXPECT_TRUE(OpenDrawing(BytesOf(WithLocation(object)))->GeoDataObject());
   Contents onPaper = WithLocation(object);
-  onPaper.objects = Join({Dictionary("72", "ACAD_GEOGRAPHICDATA", "71"), object});
+  onPaper.objects = Join({Dictionary("72", drawing::kGeoKey, "71"), object});
   EXPECT_FALSE(OpenDrawing(BytesOf(onPaper))->GeoDataObject());
   Contents another = WithLocation(object);
   another.objects = Join({Dictionary("70", "OTHER", "71"), object});

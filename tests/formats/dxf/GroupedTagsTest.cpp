@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "backends/database/dxf/GroupedTags.h"
+#include "backends/database/dxf/Tokens.h"
 
 namespace zdx::dxf {
 namespace {
@@ -31,9 +32,9 @@ TEST(GroupedTags, EndAnOpenGroupAtTheNextMarker) {
 }
 
 TEST(EntityHead, IsReadOutsideOfGroups) {
-  const EntityHead head = HeadOf(
-      "  5\nA\n102\n{ONE\n330\nB\n  5\nC\n102\n}\n102\n{ACAD_XDICTIONARY\n360\nD\n102\n}\n330\nE\n"
-      "100\nFirst\n 67\n     1\n");
+  const EntityHead head =
+      HeadOf("  5\nA\n102\n{ONE\n330\nB\n  5\nC\n102\n}\n102\n" + std::string(kExtensionGroup) +
+             "\n360\nD\n102\n}\n330\nE\n100\nFirst\n 67\n     1\n");
   EXPECT_EQ(head.handle, 0xAu);
   EXPECT_EQ(head.owner, 0xEu);
   EXPECT_EQ(head.extension, 0xDu);

@@ -6,6 +6,7 @@
 #include "backends/database/dxf/GroupedTags.h"
 #include "backends/database/dxf/Recognition.h"
 #include "support/Paths.h"
+#include "support/drawing/Tokens.h"
 #include "support/dxf/TagSink.h"
 #include "support/dxf/TagWriter.h"
 #include "support/dxf/TextEncoder.h"
@@ -67,7 +68,7 @@ Tags Record(const std::string& handle, const std::string& name, const Tags& more
 Tags BlockOf(const std::string& name, const Tags& entities, const std::string& owner) {
   Tags begin = {{0, "BLOCK"}};
   if (!owner.empty()) begin.emplace_back(330, owner);
-  begin.insert(begin.end(), {{100, "AcDbEntity"}, {100, "AcDbBlockBegin"}});
+  begin.insert(begin.end(), {{100, drawing::kEntityMarker}, {100, drawing::kBlockBeginMarker}});
   if (!name.empty()) begin.emplace_back(2, name);
   return Join({begin, entities, {{0, "ENDBLK"}}});
 }
@@ -77,11 +78,11 @@ Tags Entity(const std::string& type, const std::string& handle, const std::strin
   Tags head = {{0, type}};
   if (!handle.empty()) head.emplace_back(5, handle);
   if (!owner.empty()) head.emplace_back(330, owner);
-  return Join({head, {{100, "AcDbEntity"}, {8, "0"}, {100, marker}}, body});
+  return Join({head, {{100, drawing::kEntityMarker}, {8, "0"}, {100, marker}}, body});
 }
 
 Tags Line(const std::string& handle, const std::string& owner, bool isOnPaper) {
-  Tags tags = Entity("LINE", handle, owner, "AcDbLine", {{10, 1.0}, {20, 2.0}});
+  Tags tags = Entity("LINE", handle, owner, drawing::kLineMarker, {{10, 1.0}, {20, 2.0}});
   if (isOnPaper) {
     const auto layer =
         std::find_if(tags.begin(), tags.end(), [](const auto& t) { return t.code == 8; });
@@ -91,12 +92,13 @@ Tags Line(const std::string& handle, const std::string& owner, bool isOnPaper) {
 }
 
 Tags Insert(const std::string& block, const std::string& handle, const std::string& owner) {
-  return Entity("INSERT", handle, owner, "AcDbBlockReference", {{2, block}, {10, 1.0}, {20, 2.0}});
+  return Entity("INSERT", handle, owner, drawing::kBlockReferenceMarker,
+                {{2, block}, {10, 1.0}, {20, 2.0}});
 }
 
 Tags Attribute(const std::string& tag, const std::string& text) {
-  return {{0, "ATTRIB"}, {100, "AcDbEntity"},    {8, "0"}, {100, "AcDbText"},
-          {1, text},     {100, "AcDbAttribute"}, {2, tag}, {70, 0}};
+  return {{0, "ATTRIB"}, {100, drawing::kEntityMarker},    {8, "0"}, {100, drawing::kTextMarker},
+          {1, text},     {100, drawing::kAttributeMarker}, {2, tag}, {70, 0}};
 }
 
 Tags Extension(const std::string& handle) {
@@ -104,7 +106,8 @@ Tags Extension(const std::string& handle) {
 }
 
 Tags Dictionary(const std::string& handle, const std::string& key, const std::string& value) {
-  return {{0, "DICTIONARY"}, {5, handle}, {100, "AcDbDictionary"}, {3, key}, {360, value}};
+  return {
+      {0, "DICTIONARY"}, {5, handle}, {100, drawing::kDictionaryMarker}, {3, key}, {360, value}};
 }
 
 OpenDrawing::OpenDrawing(const std::string& bytes)

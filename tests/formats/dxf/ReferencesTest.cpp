@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "formats/dxf/HandmadeDrawing.h"
+#include "support/drawing/Tokens.h"
 
 namespace {
 
@@ -57,7 +58,7 @@ TEST(DxfReferences, NameTheirBlockInAnyCase) {
 }
 
 TEST(DxfReferences, OfNoBlockAreToldOfAndLeadNowhere) {
-  Tags nameless = {{0, "INSERT"}, {5, "B"}, {100, "AcDbEntity"}, {10, 0.0}};
+  Tags nameless = {{0, "INSERT"}, {5, "B"}, {100, drawing::kEntityMarker}, {10, 0.0}};
   OpenDrawing drawing(BytesOf(WithDoor(Join({Insert("window", "A"), nameless}))));
   EXPECT_THAT(drawing.ReferencesOf(L"door"), IsEmpty());
   EXPECT_EQ(drawing.report().warningCount, 2u);

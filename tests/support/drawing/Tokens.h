@@ -10,6 +10,7 @@ inline constexpr const char* kAttributeDefinition = "ATTDEF";
 inline constexpr const char* kSequenceEnd = "SEQEND";
 inline constexpr const char* kPolyline = "POLYLINE";
 inline constexpr const char* kImage = "IMAGE";
+inline constexpr const char* kMText = "MTEXT";
 
 inline constexpr const char* kDictionary = "DICTIONARY";
 inline constexpr const char* kDictionaryWithDefault = "ACDBDICTIONARYWDFLT";
@@ -53,6 +54,9 @@ inline constexpr const char* kSummaryKey = "DWGPROPS";
 inline constexpr const char* kSummaryCookie = "DWGPROPS COOKIE";
 inline constexpr const char* kMultiLineKey = "ACAD_MLATT";
 inline constexpr const char* kEmbeddedObject = "Embedded Object";
+inline constexpr const char* kDynamicBlockKey = "ACAD_ENHANCEDBLOCK";
+inline constexpr const char* kTrueNameApplication = "AcDbDynamicBlockTrueName";
+inline constexpr const char* kCopyApplication = "AcDbBlockRepBTag";
 
 inline constexpr const char* kApplication = "ACAD";
 inline constexpr const char* kGeoKey = "ACAD_GEOGRAPHICDATA";
@@ -67,6 +71,7 @@ inline constexpr const char* kDimStyleTableRecordMarker = "AcDbDimStyleTableReco
 inline constexpr const char* kGeoClass = "AcDbGeoData";
 inline constexpr const char* kLayerTableRecordMarker = "AcDbLayerTableRecord";
 inline constexpr const char* kLineMarker = "AcDbLine";
+inline constexpr const char* kMTextMarker = "AcDbMText";
 inline constexpr const char* kLinetypeTableRecordMarker = "AcDbLinetypeTableRecord";
 inline constexpr const char* kPlaceHolderMarker = "AcDbPlaceHolder";
 inline constexpr const char* kPointMarker = "AcDbPoint";
