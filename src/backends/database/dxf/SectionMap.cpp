@@ -53,6 +53,7 @@ std::size_t SectionMap::FindEnd(std::size_t from) {
       flaws_.push_back({L"A section lacks its end; the file may have been cut.", end});
       return end;
     }
+    if (start.type == kInsert) references_.push_back(start.at);
     from = start.body;
   }
 }

@@ -33,6 +33,9 @@ class SectionMap {
     std::size_t at;
   };
   const std::vector<Flaw>& flaws() const { return flaws_; }
+  // Where references of blocks begin in the sections that were found, in order.  They are noted on
+  // the way, since to look for them alone costs as much again.
+  const std::vector<std::size_t>& references() const { return references_; }
 
  private:
   bool FindNext();
@@ -43,6 +46,7 @@ class SectionMap {
   bool complete_ = false;
   std::vector<Section> sections_;
   std::vector<Flaw> flaws_;
+  std::vector<std::size_t> references_;
 };
 
 }  // namespace zdx::dxf
