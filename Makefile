@@ -3,7 +3,7 @@
 SHELL := /bin/bash
 MAKEFLAGS += --no-print-directory
 .DEFAULT_GOAL := help
-.PHONY: help demo test test-windows compare-systems package-windows windows-tools lint format-check bench clean
+.PHONY: help demo test test-windows compare-systems package-windows windows-tools lint format-check bench bench-blocks clean
 
 JOBS ?= $(shell nproc)
 
@@ -28,6 +28,7 @@ help:
 	@echo 'make package-windows  make build/ZDXEngine-VERSION-windows-x86_64.zip, and try it'
 	@echo 'make lint             check the form of the sources, and run clang-tidy'
 	@echo 'make bench            measure the tool on large drawings'
+	@echo 'make bench-blocks     measure the values of one block among many references'
 	@echo 'make clean            remove everything that was built'
 	@echo 'JOBS=N limits the builds and tests to N at a time.'
 
@@ -98,6 +99,10 @@ lint:
 bench:
 	@.ci/packages $(BENCH_PACKAGES)
 	@benchmarks/run.sh
+
+bench-blocks:
+	@.ci/packages $(BENCH_PACKAGES)
+	@benchmarks/run.sh blocks
 
 clean:
 	@.ci/wine --stop

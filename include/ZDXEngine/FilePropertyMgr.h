@@ -26,11 +26,14 @@ enum class DwgFileType : std::int32_t {
   Terrane3D = 7,
 };
 
-// Names a block whose attribute values are wanted.
+// Names a block whose attribute values are wanted: those of its constant definitions and of one of
+// its references, the first in a layout if there is one.
 struct BlockFilterParam {
-  // Compared without regard to case.
+  // Compared without regard to case; of two filters with one name the first counts.  Layouts can't
+  // be asked for.
   std::wstring blockName;
-  // The property set under which this block's values are published.
+  // The property set under which this block's values are published; each is published under
+  // FMTID_Storage, too.  Of two filters with one set the first decides about the prompt.
   GUID formatId = {};
   // Set by the engine where it looks blocks up by name; GetProperties leaves it alone.
   bool matched = false;
@@ -64,9 +67,10 @@ class ZDXENGINE_API FilePropertyMgr {
   // can't be opened, or with an empty file name in its sentence if the block table can't.
   DwgFileType GetFileType(const std::wstring& path);
 
-  // Opens the drawing at `path` and collects what `selection` names, in a fixed order.  Throws a
-  // FileError as GetFileType does, and _com_error if a value can't be allocated; there
-  // is no partial result.  A value that can't be read is left out.
+  // Opens the drawing at `path` and collects what `selection` names, in a fixed order; of blocks,
+  // which come last, what `filters` name.  Throws a FileError as GetFileType does, and _com_error
+  // if a value can't be allocated; there is no partial result.  A value that can't be read is left
+  // out, but for an attribute's: its text is null then.
   std::vector<_PropData> GetProperties(const std::wstring& path,
                                        std::vector<BlockFilterParam>& filters,
                                        FilePropertiesSet selection);

@@ -5,9 +5,8 @@
 
 #include <tuple>
 
+#include "interface/Writings.h"
 #include "support/PublicRead.h"
-#include "support/dwg/DwgMaker.h"
-#include "support/dxf/DxfMaker.h"
 
 namespace {
 
@@ -18,43 +17,7 @@ using testing::Pair;
 using zdx_test::kSummary;
 using zdx_test::Reading;
 
-struct Writing {
-  const char* name;
-  const wchar_t* format;
-  std::string (*make)(const drawing::DrawingSpec& spec);
-};
-
-template <char... kLineEnd>
-std::string MakeText(const drawing::DrawingSpec& spec) {
-  return dxf::Make(spec, {.form = dxf::Form::Ascii, .lineEnd = {kLineEnd...}});
-}
-
-std::string MakeBinary(const drawing::DrawingSpec& spec) {
-  return dxf::Make(spec, {.form = dxf::Form::Binary});
-}
-
-std::string MakeDwg(const drawing::DrawingSpec& spec) { return dwg::Make(spec); }
-
-std::string MakeDwgOfManyPages(const drawing::DrawingSpec& spec) {
-  return dwg::Make(spec, {.objectPageSize = 0x400, .mapPageSize = 64});
-}
-
-std::string MakeDwgWithoutRepeats(const drawing::DrawingSpec& spec) {
-  return dwg::Make(spec, {.squeeze = dwg::Squeeze::LiteralsOnly});
-}
-
-constexpr Writing kDxfWritings[] = {
-    {"TextWithCrLf", L"DXF (text)", MakeText<'\r', '\n'>},
-    {"TextWithLf", L"DXF (text)", MakeText<'\n'>},
-    {"TextWithCr", L"DXF (text)", MakeText<'\r'>},
-    {"Binary", L"DXF (binary)", MakeBinary},
-};
-
-constexpr Writing kDwgWritings[] = {
-    {"Dwg", L"DWG", MakeDwg},
-    {"DwgOfManyPages", L"DWG", MakeDwgOfManyPages},
-    {"DwgWithoutRepeats", L"DWG", MakeDwgWithoutRepeats},
-};
+using zdx_test::Writing;
 
 drawing::DrawingSpec Site() {
   drawing::DrawingSpec spec;
@@ -95,12 +58,12 @@ class EveryVersion : public testing::TestWithParam<std::tuple<const char*, Writi
   EveryVersion() {
     drawing::DrawingSpec spec = Site();
     spec.version = version();
-    reading = zdx_test::ReadBytes(writing().make(spec), isDwg() ? ".dwg" : ".dxf");
+    reading = zdx_test::ReadBytes(writing().make(spec), writing().Suffix());
   }
 
   std::string version() const { return std::get<0>(GetParam()); }
   const Writing& writing() const { return std::get<1>(GetParam()); }
-  bool isDwg() const { return std::wstring(L"DWG") == writing().format; }
+  bool isDwg() const { return writing().IsDwg(); }
   // Names as the version stores them: the oldest DWG files have them in capitals.
   std::vector<std::string> Names(std::vector<std::string> names) const {
     if (!isDwg() || version() != "AC1014") return names;
@@ -214,20 +177,13 @@ TEST_P(EveryVersion, IsAPlainDrawing) {
   EXPECT_THAT(reading.Texts(L"DWG Type"), ElementsAre("Zent"));
 }
 
-std::string TestName(const testing::TestParamInfo<EveryVersion::ParamType>& info) {
-  return std::string(std::get<0>(info.param)) + std::get<1>(info.param).name;
-}
-
 INSTANTIATE_TEST_SUITE_P(Dxf, EveryVersion,
-                         testing::Combine(testing::Values("AC1009", "AC1012", "AC1014", "AC1015",
-                                                          "AC1018", "AC1021", "AC1024", "AC1027",
-                                                          "AC1032"),
-                                          testing::ValuesIn(kDxfWritings)),
-                         TestName);
+                         testing::Combine(testing::ValuesIn(zdx_test::kDxfVersions),
+                                          testing::ValuesIn(zdx_test::kDxfWritings)),
+                         zdx_test::WritingTestName);
 INSTANTIATE_TEST_SUITE_P(Dwg, EveryVersion,
-                         testing::Combine(testing::Values("AC1014", "AC1015", "AC1018", "AC1021",
-                                                          "AC1024", "AC1027", "AC1032"),
-                                          testing::ValuesIn(kDwgWritings)),
-                         TestName);
+                         testing::Combine(testing::ValuesIn(zdx_test::kDwgVersions),
+                                          testing::ValuesIn(zdx_test::kDwgWritings)),
+                         zdx_test::WritingTestName);
 
 }  // namespace

@@ -16,6 +16,7 @@
 namespace {
 
 using nlohmann::json;
+using Records = std::vector<std::pair<std::string, std::string>>;
 
 // The real drawings that are there in both formats, without their extensions.
 std::vector<std::string> RealPairs() {
@@ -35,19 +36,50 @@ std::set<std::string> NamedObjectsInTruth(const std::string& name) {
   return {names.begin(), names.end()};
 }
 
+// Asks for the values of all blocks that are told to carry some.
+std::vector<ZDXEngine::BlockFilterParam> AllBlocks(const std::filesystem::path& path,
+                                                   bool usePrompt) {
+  std::vector<ZDXEngine::BlockFilterParam> filters;
+  for (const ZDXEngine::BlockInfo& block : zdx_test::ListBlocks(zdx_test::NameOf(path))) {
+    filters.push_back(zdx_test::FilterFor(block.name, usePrompt));
+  }
+  return filters;
+}
+
 // Everything that the file tells, but for what only one of the two may carry: the picture, and the
 // program that wrote the drawing.
-std::vector<std::string> Told(const std::filesystem::path& path) {
-  const auto reading = zdx_test::ReadFile(zdx_test::NameOf(path));
+std::vector<std::string> Told(const std::filesystem::path& path,
+                              std::vector<ZDXEngine::BlockFilterParam> filters = {}) {
+  const auto reading = zdx_test::ReadFile(zdx_test::NameOf(path), std::move(filters),
+                                          ZDXEngine::FilePropertyMgr::AllProperties);
   std::vector<std::string> told;
   for (const ZDXEngine::_PropData& record : reading.properties) {
     if (record.formatId == zdx_test::kSummary && record.name == L"17") continue;
     if (record.name.starts_with(L"DWG Creator ")) continue;
     std::string line = ZDXEngine::Utf8FromWide(record.formatId + L" " + record.name + L": ");
     if (record.value.vt == VT_BSTR) line += ZDXEngine::Utf8FromWide(record.value.bstrVal);
+    if (record.value.vt == VT_R8) line += std::to_string(record.value.dblVal);
+    if (record.value.vt == VT_BOOL) line += record.value.boolVal != 0 ? "true" : "false";
     told.push_back(line);
   }
   return told;
+}
+
+// What is told of the blocks that carry attributes.
+std::vector<std::string> Listed(const std::filesystem::path& path) {
+  std::vector<std::string> lines;
+  const auto add = [&](const std::wstring& text, const std::string& more) {
+    lines.push_back(ZDXEngine::Utf8FromWide(text) + more);
+  };
+  for (const ZDXEngine::BlockInfo& block : zdx_test::ListBlocks(zdx_test::NameOf(path))) {
+    add(block.name, ": " + std::to_string(block.references) + " references and " +
+                        std::to_string(block.variations) + " of variations");
+    for (const ZDXEngine::AttributeDefinitionInfo& definition : block.definitions) {
+      add(definition.tag + L", " + definition.prompt + L" = " + definition.text,
+          definition.isConstant ? " (constant)" : "");
+    }
+  }
+  return lines;
 }
 
 class RealTwins : public testing::TestWithParam<std::string> {};
@@ -70,6 +102,46 @@ TEST_P(RealTwins, TellTheSame) {
   EXPECT_EQ(dwg, dxf);
 }
 
+TEST_P(RealTwins, TellTheSameOfTheirBlocks) {
+  const std::filesystem::path dwg = zdx_test::SampleFolder() / (GetParam() + ".dwg");
+  const std::filesystem::path dxf = zdx_test::SampleFolder() / (GetParam() + ".dxf");
+  EXPECT_EQ(Listed(dwg), Listed(dxf));
+}
+
+// The values of a block's references that have attributes, by the truth.
+std::set<Records> ValuesInTruth(const std::string& file, const std::string& block) {
+  json truth;
+  std::ifstream(zdx_test::TruthOf(file)) >> truth;
+  std::set<Records> all;
+  for (const json& insert : truth["inserts"]) {
+    if (insert["block"] != block) continue;
+    Records values;
+    for (const json& attribute : insert["attributes"]) {
+      values.emplace_back(attribute["tag"], attribute["value"]);
+    }
+    all.insert(values);
+  }
+  return all;
+}
+
+// The two files may list a block's references in different orders, so that each tells the values of
+// another one.
+TEST_P(RealTwins, TellValuesOfReferencesThatBothHave) {
+  const std::filesystem::path path = zdx_test::SampleFolder() / GetParam();
+  for (const ZDXEngine::BlockInfo& block : zdx_test::ListBlocks(zdx_test::NameOf(path) + L".dwg")) {
+    const std::string name = ZDXEngine::Utf8FromWide(block.name);
+    const std::set<Records> values = ValuesInTruth(GetParam() + ".dwg", name);
+    EXPECT_EQ(values, ValuesInTruth(GetParam() + ".dxf", name));
+    for (const wchar_t* const suffix : {L".dwg", L".dxf"}) {
+      const Records told = zdx_test::ReadFile(zdx_test::NameOf(path) + suffix,
+                                              {zdx_test::FilterFor(block.name, false)},
+                                              ZDXEngine::FilePropertyMgr::BlockAttributes)
+                               .Records(zdx_test::kBlockSet);
+      EXPECT_TRUE(values.contains(told)) << name;
+    }
+  }
+}
+
 GTEST_ALLOW_UNINSTANTIATED_PARAMETERIZED_TEST(RealTwins);
 INSTANTIATE_TEST_SUITE_P(Samples, RealTwins, testing::ValuesIn(RealPairs()),
                          [](const auto& info) { return zdx_test::SampleTestName(info.param); });
@@ -81,9 +153,13 @@ TEST(ExampleTwins, TellTheSame) {
       {"site-plan-2010.dwg", "site-plan.dxf"}, {"site-plan-2007.dwg", "site-plan.dxf"},
       {"grading-2004.dwg", "grading.dxf"},     {"survey-r2000.dwg", "survey-r2000.dxf"}};
   for (const auto& [dwg, dxf] : twins) {
-    const std::vector<std::string> told = Told(examples / dwg);
-    EXPECT_GT(told.size(), 30u);
-    EXPECT_EQ(told, Told(examples / dxf)) << dwg;
+    EXPECT_EQ(Listed(examples / dwg), Listed(examples / dxf)) << dwg;
+    for (const bool usePrompt : {false, true}) {
+      const std::vector<std::string> told =
+          Told(examples / dwg, AllBlocks(examples / dwg, usePrompt));
+      EXPECT_GT(told.size(), 30u);
+      EXPECT_EQ(told, Told(examples / dxf, AllBlocks(examples / dxf, usePrompt))) << dwg;
+    }
   }
 }
 

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "ZDXEngine/BlockListing.h"
 #include "ZDXEngine/Diagnostics.h"
 #include "ZDXEngine/FilePropertyMgr.h"
 
@@ -27,13 +28,25 @@ struct Reading {
   std::vector<std::string> Texts(std::wstring_view formatId, std::wstring_view name) const;
   // Those of the engine's own set.
   std::vector<std::string> Texts(std::wstring_view name) const { return Texts(kStorage, name); }
-  // Names and values of the custom entries.
-  std::vector<std::pair<std::string, std::string>> Custom() const;
+  // Names and values of all records of that set, in their order.
+  std::vector<std::pair<std::string, std::string>> Records(std::wstring_view formatId) const;
+  // Those of the custom entries.
+  std::vector<std::pair<std::string, std::string>> Custom() const { return Records(kCustom); }
 };
 
 // Reads the file at `path`; the engine is started at the first call.
 Reading ReadFile(const std::wstring& path, ZDXEngine::FilePropertyMgr::FilePropertiesSet selection =
                                                ZDXEngine::FilePropertyMgr::AllProperties);
+// The same with values of the blocks that `filters` name.
+Reading ReadFile(const std::wstring& path, std::vector<ZDXEngine::BlockFilterParam> filters,
+                 ZDXEngine::FilePropertyMgr::FilePropertiesSet selection);
+// What is told of the blocks that carry attributes; the engine is started at the first call.
+std::vector<ZDXEngine::BlockInfo> ListBlocks(const std::wstring& path);
+
+// The set under which the tests' filters publish values, and one such filter.
+inline constexpr std::wstring_view kBlockSet = L"{5F3C1A52-8B1D-4E0A-9C43-2F6B7D1E0A94}";
+ZDXEngine::BlockFilterParam FilterFor(const std::wstring& block, bool usePrompt);
+
 // Writes `bytes` to a file and reads it.
 Reading ReadBytes(std::string_view bytes, const std::string& suffix = ".dxf");
 

@@ -33,6 +33,11 @@ TEST_F(StringResource, HoldsEveryTextOfTheFailures) {
   for (const auto& [id, text] : expected::FailureTexts()) EXPECT_EQ(Text(id), text) << id;
 }
 
+TEST_F(StringResource, HoldsEveryWordOfALocation) {
+  ASSERT_NE(module, nullptr);
+  for (const auto& [id, text] : expected::LocationTexts()) EXPECT_EQ(Text(id), text) << id;
+}
+
 TEST_F(StringResource, HasNoTextUnderANumberThatIsNotGiven) {
   ASSERT_NE(module, nullptr);
   EXPECT_EQ(Text(105), L"");

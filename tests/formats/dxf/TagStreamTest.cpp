@@ -231,6 +231,26 @@ TEST(Numbers, AnIntegerIsTextOrLittleEndian) {
   EXPECT_EQ(number, 501);
 }
 
+TEST(Numbers, OfRealsAreTextOrBytesByTheForm) {
+  double number = 0;
+  EXPECT_TRUE(ParseReal(Form::kText, "  -12.5e1 ", number));
+  EXPECT_EQ(number, -125.0);
+  EXPECT_TRUE(ParseReal(Form::kText, "+0.5", number));
+  EXPECT_EQ(number, 0.5);
+  EXPECT_TRUE(ParseReal(Form::kBinaryOneByte, "\0\0\0\0\0\0\xF8\x3F"s, number));
+  EXPECT_EQ(number, 1.5);
+}
+
+TEST(Numbers, ThatAreNotFiniteOrWholeLeaveTheNumberInItsPlace) {
+  double number = 7;
+  for (const char* text : {"", "x", "1.5x", "1,5", "nan", "inf", "1e999", "--1", "+-1"}) {
+    EXPECT_FALSE(ParseReal(Form::kText, text, number)) << text;
+  }
+  EXPECT_FALSE(ParseReal(Form::kBinaryTwoByte, "\0\0\0\0\0\0\xF0\x7F"s, number));
+  EXPECT_FALSE(ParseReal(Form::kBinaryTwoByte, "\0\0\0\0"s, number));
+  EXPECT_EQ(number, 7.0);
+}
+
 TEST(Numbers, WhatIsNoIntegerIsRefused) {
   std::int64_t number = 0;
   for (const char* text : {"", "x", "5x", "99999999999999999999"}) {

@@ -40,11 +40,12 @@ void AppendForeignValues(std::vector<Tag>& tags) {
                 {140, 0.0},   {95, 0},  {141, 9.0}, {96, 0},   {142, 9.0}, {143, 9.0}, {4, "END"}});
 }
 
+// The reference point tells the northing before the easting.
 std::vector<Tag> FirstVersion(const GeoSpec& geo) {
   const SpacePoint& reference = geo.referencePoint;
   std::vector<Tag> tags = {
       {100, kGeoClass},  {90, geo.version}, {70, geo.coordinateType}, {330, kModelSpaceHandle},
-      {40, reference.x}, {41, reference.y}, {42, reference.z},        {91, geo.horizontalUnits}};
+      {40, reference.y}, {41, reference.x}, {42, reference.z},        {91, geo.horizontalUnits}};
   AppendSpacePoint(tags, 10, geo.designPoint);
   AppendSpacePoint(tags, 11, SpacePoint());
   AppendSpacePoint(tags, 210, geo.upDirection);

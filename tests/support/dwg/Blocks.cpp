@@ -107,7 +107,7 @@ void WriteRecord(Drawing& drawing, const PlannedBlock& block) {
 // A block's first and last entities stand apart from those between.
 void WriteEnds(Drawing& drawing, const PlannedBlock& block) {
   const EntitySpec plain;
-  const EntityPlace place{block.record, block.space};
+  const EntityPlace place{block.record, block.PlaceOfEntities()};
   Fields begin = drawing.NewFields(block.begin);
   BeginEntity(drawing, begin, plain, place, {});
   begin.T(StoredName(block.name, drawing.version));

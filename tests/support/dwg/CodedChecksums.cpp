@@ -1,5 +1,6 @@
 #include "support/dwg/CodedChecksums.h"
 
+#include <array>
 #include <string>
 
 #include "support/dwg/Checksums.h"
@@ -9,6 +10,17 @@ namespace {
 
 constexpr std::uint64_t kMirroredPolynomial = 0x95AC9329AC4BC9B5;
 constexpr std::uint64_t kPlainPolynomial = 0x42F0E1EBA9EA3693;
+
+// What each byte leaves in a register that shifts to the right.
+constexpr std::array<std::uint64_t, 256> kMirroredRests = [] {
+  std::array<std::uint64_t, 256> rests = {};
+  for (std::size_t byte = 0; byte < rests.size(); ++byte) {
+    std::uint64_t crc = byte;
+    for (int i = 0; i < 8; ++i) crc = crc >> 1 ^ ((crc & 1) != 0 ? kMirroredPolynomial : 0);
+    rests[byte] = crc;
+  }
+  return rests;
+}();
 
 std::uint64_t Stirred(std::uint64_t value) { return value * 0x343FD + 0x269EC3; }
 
@@ -42,8 +54,7 @@ std::uint64_t CodedCrc64(std::string_view bytes) {
   const std::uint64_t first = Stirred(bytes.size());
   std::uint64_t crc = ~(Stirred(first) << 32 | first);
   for (const char byte : Reordered(bytes)) {
-    crc ^= static_cast<unsigned char>(byte);
-    for (int i = 0; i < 8; ++i) crc = crc >> 1 ^ ((crc & 1) != 0 ? kMirroredPolynomial : 0);
+    crc = crc >> 8 ^ kMirroredRests[(crc ^ static_cast<unsigned char>(byte)) & 0xFF];
   }
   return crc;
 }

@@ -34,6 +34,8 @@ struct PlannedBlock {
   // In full, as in the block's first entity.
   std::string name;
   Space space = Space::None;
+  // Of a paper that isn't the first: its entities name it as their owner, as those of other blocks.
+  bool isInactive = false;
   // Nothing for the spaces.
   const drawing::BlockSpec* spec = nullptr;
   // Of the record.
@@ -47,6 +49,9 @@ struct PlannedBlock {
   std::vector<PlannedEntity> entities = {};
   // The entities that insert the block, those that its record lists.
   std::vector<Handle> inserts = {};
+
+  // Where its entities say that they stand.
+  Space PlaceOfEntities() const { return isInactive ? Space::None : space; }
 };
 
 struct NamedHandle {

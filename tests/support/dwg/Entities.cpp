@@ -301,7 +301,7 @@ void WriteEntities(Drawing& drawing, const PlannedBlock& block) {
     const PlannedEntity& planned = entities[i];
     const Neighbours neighbours{i == 0 ? 0 : entities[i - 1].handle,
                                 i + 1 == entities.size() ? 0 : entities[i + 1].handle};
-    const EntityPlace place{block.record, block.space, neighbours};
+    const EntityPlace place{block.record, block.PlaceOfEntities(), neighbours};
     if (planned.entity != nullptr) {
       WriteEntity(drawing, planned, place);
     } else if (planned.definition != nullptr) {

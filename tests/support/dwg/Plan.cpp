@@ -63,6 +63,7 @@ void PlanBlocks(Drawing& drawing) {
   const std::size_t papers = HasLayouts(drawing.version) ? spec.layouts.size() : 1;
   for (std::size_t i = 0; i < papers; ++i) {
     drawing.blocks.push_back(PlannedSpace(drawing, PaperName(i), Space::Paper));
+    drawing.blocks.back().isInactive = i != 0;
   }
   for (const drawing::BlockSpec& block : spec.blocks) {
     drawing.blocks.push_back(Planned(drawing, block));

@@ -1,5 +1,6 @@
 #include "support/dwg/ReedSolomon.h"
 
+#include <array>
 #include <vector>
 
 namespace dwg {
@@ -36,19 +37,35 @@ Coefficients Generator(const WordShape& shape) {
   return generator;
 }
 
-// What is left of the word's data, followed by zeros, divided by the generator.
-std::string Parity(std::string_view data, const Coefficients& generator, unsigned polynomial) {
-  Coefficients rest(generator.size() - 1, 0);
-  for (const char byte : data) {
-    const unsigned factor = rest[0] ^ static_cast<unsigned char>(byte);
-    rest.erase(rest.begin());
-    rest.push_back(0);
-    for (std::size_t i = 0; i < rest.size(); ++i) {
-      rest[i] ^= Product(factor, generator[i + 1], polynomial);
+// Divides by the generator, whose multiples by every byte it keeps.
+class Divider {
+ public:
+  explicit Divider(const WordShape& shape) {
+    const Coefficients generator = Generator(shape);
+    for (unsigned factor = 0; factor < multiples_.size(); ++factor) {
+      for (std::size_t i = 1; i < generator.size(); ++i) {
+        multiples_[factor] +=
+            static_cast<char>(Product(factor, generator[i], shape.fieldPolynomial));
+      }
     }
   }
-  return {rest.begin(), rest.end()};
-}
+
+  // What is left of the word's data, followed by zeros.
+  std::string Rest(std::string_view data) const {
+    std::string rest(multiples_[0].size(), '\0');
+    for (const char byte : data) {
+      const std::string& multiple = multiples_[static_cast<unsigned char>(rest[0] ^ byte)];
+      for (std::size_t i = 0; i + 1 < rest.size(); ++i) {
+        rest[i] = static_cast<char>(rest[i + 1] ^ multiple[i]);
+      }
+      rest.back() = multiple.back();
+    }
+    return rest;
+  }
+
+ private:
+  std::array<std::string, 256> multiples_;
+};
 
 }  // namespace
 
@@ -58,12 +75,12 @@ std::size_t WordCount(std::size_t size, const WordShape& shape) {
 
 std::string Protected(std::string_view bytes, const WordShape& shape) {
   const std::size_t count = WordCount(bytes.size(), shape);
-  const Coefficients generator = Generator(shape);
+  const Divider divider(shape);
   std::string words(count * kWordSize, '\0');
   for (std::size_t i = 0; i < count; ++i) {
     std::string word(bytes.substr(i * shape.dataSize, shape.dataSize));
     word.resize(shape.dataSize, '\0');
-    word += Parity(word, generator, shape.fieldPolynomial);
+    word += divider.Rest(word);
     for (std::size_t j = 0; j < kWordSize; ++j) words[i + j * count] = word[j];
   }
   return words;

@@ -110,10 +110,10 @@ class ReferenceObject : public EntityObject<ZnDbBlockReference> {
                                   bool openErased) const override {
     attribute = nullptr;
     const Outcome outcome = Record("openAttribute", Arguments(LabelOf(id), mode, openErased));
-    if (outcome.status == Zent::kOk) {
-      attribute = static_cast<ZnDbAttribute*>(Owner().Open(*NodeOf(id)));
-    }
-    return outcome.status;
+    if (outcome.status != Zent::kOk) return outcome.status;
+    if (id.isNull()) return Zent::kUnknownHandle;
+    attribute = static_cast<ZnDbAttribute*>(Owner().Open(*NodeOf(id)));
+    return Zent::kOk;
   }
 };
 

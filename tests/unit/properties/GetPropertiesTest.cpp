@@ -11,11 +11,13 @@
 #include "support/scripted/ScriptedTest.h"
 #include "unit/properties/Outages.h"
 #include "unit/properties/Shown.h"
+#include "unit/properties/read/Location.h"
 
 using testing::Contains;
 using testing::Each;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::SizeIs;
 using testing::StartsWith;
 using ZDXEngine::_PropData;
 using ZDXEngine::BlockFilterParam;
@@ -26,7 +28,7 @@ namespace {
 
 using Set = FilePropertyMgr::FilePropertiesSet;
 
-// A drawing with one mark for each step but the thumbnail's, which owns handles.
+// A drawing with something for each step but the thumbnail's, which owns handles.
 void FillDrawing(scripted::World& world) {
   world.files.contents[L"C:\\a.dwg"] =
       appinfo::FileWithSummary(u"<prop id=\"258\"><string>Program</string></prop>");
@@ -37,6 +39,20 @@ void FillDrawing(scripted::World& world) {
   world.drawing.layers.Add(L"0");
   world.drawing.linetypes.Add(L"DASHED", L"- - -");
   world.drawing.views.Add(L"Front");
+  location::GiveTexts(world);
+  world.drawing.location = location::Somewhere();
+  scripted::Record& modelSpace = world.drawing.blocks.Add(L"*Model_Space");
+  modelSpace.layout = true;
+  scripted::Record& door = world.drawing.blocks.Add(L"Door");
+  door.AddConstant(L"MAKER", L"Made by", L"Smith");
+  door.AddReference(&modelSpace).AddAttribute(L"WIDTH", L"90");
+}
+
+// A filter for the block of that drawing.
+std::vector<BlockFilterParam> Door() {
+  std::vector<BlockFilterParam> filters(1);
+  filters[0].blockName = L"door";
+  return filters;
 }
 
 std::vector<_PropData> Get(int selection, std::vector<BlockFilterParam> filters = {}) {
@@ -137,7 +153,8 @@ TEST(Selection, EveryFlavourHasItsValue) {
 // The steps of the row, each told by the first call that only it makes.
 std::vector<std::string> StepsOf(const scripted::World& world) {
   return world.Calls({"getTitle", "numCustomInfo", "getFilename", "SetFilePointer",
-                      "namedObjectsDictionaryId", "getMenu", "getGroupDictionary"});
+                      "namedObjectsDictionaryId", "getMenu", "zndbGetGeoDataObjId",
+                      "getGroupDictionary", "newBlockReferenceIdIterator"});
 }
 
 TEST_F(GetProperties, SummaryAloneGivesTheSevenFields) {
@@ -179,17 +196,80 @@ TEST_F(GetProperties, SymbolTablesAloneGiveTheThreeTables) {
                           "View Name=Front"));
 }
 
-TEST_F(GetProperties, EverythingRunsTheStepsInTheirOrder) {
+TEST_F(GetProperties, LocationAloneGivesTheNineteenValues) {
+  const std::vector<_PropData> properties = Get(0x020);
+  ASSERT_THAT(properties, SizeIs(19));
+  EXPECT_EQ(properties.front().name, L"CoordinateProjectionRadius");
+  EXPECT_EQ(properties.back().name, L"verticalUnitScale");
+}
+
+TEST_F(GetProperties, BlocksAloneGiveWhatTheFiltersName) {
+  EXPECT_THAT(expected::Shown(Get(0x001, Door())),
+              ElementsAre("Made by=Smith", "Made by=Smith", "WIDTH=90", "WIDTH=90"));
+}
+
+TEST_F(GetProperties, EverythingWithoutFiltersRunsTheStepsInTheirOrderButForTheBlocks) {
   Get(0);
   EXPECT_THAT(StepsOf(world),
               ElementsAre("getTitle()", "numCustomInfo()", "getFilename()",
                           "SetFilePointer(file 2, 128, null, 0)", "namedObjectsDictionaryId()",
-                          "getMenu()", "getGroupDictionary(0)"));
+                          "getMenu()", "zndbGetGeoDataObjId(database 1)", "getGroupDictionary(0)"));
   EXPECT_THAT(
       world.Calls({"getGroupDictionary", "getSymbolTable"}),
       ElementsAre("getSymbolTable(ZnDbBlockTable, 0)", "getGroupDictionary(0)",
                   "getSymbolTable(ZnDbLayerTable, 0)", "getSymbolTable(ZnDbLinetypeTable, 0)",
                   "getSymbolTable(ZnDbViewTable, 0)"));
+}
+
+TEST_F(GetProperties, EverythingWithFiltersRunsTheBlocksLast) {
+  Get(0, Door());
+  EXPECT_THAT(StepsOf(world),
+              ElementsAre("getTitle()", "numCustomInfo()", "getFilename()",
+                          "SetFilePointer(file 2, 128, null, 0)", "namedObjectsDictionaryId()",
+                          "getMenu()", "zndbGetGeoDataObjId(database 1)", "getGroupDictionary(0)",
+                          "block Door.newBlockReferenceIdIterator()"));
+  EXPECT_THAT(world.Calls({"getGroupDictionary", "getSymbolTable", "zndbGetGeoDataObjId"}),
+              ElementsAre("getSymbolTable(ZnDbBlockTable, 0)", "zndbGetGeoDataObjId(database 1)",
+                          "getGroupDictionary(0)", "getSymbolTable(ZnDbLayerTable, 0)",
+                          "getSymbolTable(ZnDbLinetypeTable, 0)",
+                          "getSymbolTable(ZnDbViewTable, 0)", "getSymbolTable(ZnDbBlockTable, 0)"));
+}
+
+TEST_F(GetProperties, EveryBitSetRunsTheSameStepsWithFilters) {
+  const std::vector<std::string> all = expected::Shown(Get(0, Door()));
+  EXPECT_EQ(all.back(), "WIDTH=90");
+  EXPECT_EQ(expected::Shown(Get(0x3FF, Door())), all);
+}
+
+TEST_F(GetProperties, TheRecordsOfAllTenStepsStandInTheirOrder) {
+  std::vector<std::string> firsts;
+  for (const std::string& shown : expected::Shown(Get(0, Door()))) {
+    for (const char* first : {"2=", "Client=", "17=", "DWG Creator", "DWG Type",
+                              "Menu=", "CoordinateProj", "Layout Name", "Layer Name", "WIDTH="}) {
+      if (shown.starts_with(first)) firsts.push_back(first);
+    }
+  }
+  EXPECT_THAT(firsts, ElementsAre("2=", "Client=", "17=", "DWG Creator", "DWG Type",
+                                  "Menu=", "CoordinateProj", "Layout Name", "Layer Name",
+                                  "WIDTH=", "WIDTH="));
+}
+
+TEST_F(GetProperties, FiltersWithoutTheBlocksBitAreNotLookedAt) {
+  EXPECT_THAT(expected::Shown(Get(0x200, Door())), ElementsAre("Client=Smith"));
+  EXPECT_EQ(world.Count("getSymbolTable"), 0);
+}
+
+TEST_F(GetProperties, TheFiltersOfTheClientStayAsTheyAre) {
+  std::vector<BlockFilterParam> filters = Door();
+  FilePropertyMgr::Instance().GetProperties(L"C:\\a.dwg", filters, Set{0x001});
+  ASSERT_THAT(filters, SizeIs(1));
+  EXPECT_EQ(filters[0].blockName, L"door");
+  EXPECT_FALSE(filters[0].matched);
+}
+
+TEST_F(GetProperties, ADrawingThatLiesNowhereCostsOnlyItsLocation) {
+  world.drawing.location = std::nullopt;
+  EXPECT_THAT(expected::Shown(Get(0x020 | 0x002)), ElementsAre("Layout Name=Model"));
 }
 
 TEST_F(GetProperties, EveryBitSetRunsTheSameStepsInTheSameOrder) {
@@ -218,6 +298,12 @@ TEST_F(GetProperties, BlockAttributesWithoutFiltersOpenTheFileAndGiveNothing) {
   EXPECT_THAT(Get(0x001), IsEmpty());
   EXPECT_EQ(world.Count("readDwgFile"), 1);
   EXPECT_EQ(world.Count("getSymbolTable"), 0);
+}
+
+TEST_F(GetProperties, SummaryComesBeforeTheBlocksWhateverTheirBits) {
+  EXPECT_THAT(expected::Shown(Get(0x041, Door())),
+              ElementsAre("2=House", "3=", "4=", "5=", "6=", "8=", "9=", "Made by=Smith",
+                          "Made by=Smith", "WIDTH=90", "WIDTH=90"));
 }
 
 TEST_F(GetProperties, SummaryAndBlocksWithoutFiltersGiveTheSummaryAlone) {
@@ -349,7 +435,7 @@ TEST_F(GetProperties, TheWorkingDatabaseIsLeftAlone) {
 }
 
 TEST(GetPropertiesWithoutMemory, RaisesTheComErrorAndLeaksNothing) {
-  outages::FailEachAllocation(FillDrawing, [] { Get(0); });
+  outages::FailEachAllocation(FillDrawing, [] { Get(0, Door()); });
 }
 
 class GetFileType : public scripted::ScriptedTest {

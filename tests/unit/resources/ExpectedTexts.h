@@ -1,4 +1,4 @@
-// The texts of the failures as clients know them, letter by letter.
+// The texts as clients know them, letter by letter.
 #pragma once
 
 #include <map>
@@ -29,6 +29,20 @@ inline const std::map<unsigned int, std::wstring>& FailureTexts() {
       {149, L"The header of the file '%1!s!' is not valid \n"},
       {150, L"Unable to get vertical dependencies \n"},
       {151, L"Unable to update vertical dependencies \n"},
+  };
+  return texts;
+}
+
+// The words of locations, "Mils" among them though it is used nowhere.
+inline const std::map<unsigned int, std::wstring>& LocationTexts() {
+  static const std::map<unsigned int, std::wstring> texts = {
+      {119, L"Unknown"},        {120, L"Local"},       {121, L"Grid"},         {122, L"Geographic"},
+      {123, L"Undefined Unit"}, {124, L"Inches"},      {125, L"Feet"},         {126, L"Miles"},
+      {127, L"Millimeters"},    {128, L"Centimeters"}, {129, L"Meters"},       {130, L"Kilometers"},
+      {131, L"MicroInches"},    {132, L"Mils"},        {133, L"Yards"},        {134, L"Angstroms"},
+      {135, L"Nanometers"},     {136, L"Microns"},     {137, L"Decimeters"},   {138, L"Dekameters"},
+      {139, L"Hectometers"},    {140, L"Gigameters"},  {141, L"Astronomical"}, {142, L"Lightyears"},
+      {143, L"Parsecs"},        {144, L"Parsecs"},
   };
   return texts;
 }

@@ -29,6 +29,14 @@ TEST(StringTable, EveryFailureTextIsWordedAsClientsKnowIt) {
   }
 }
 
+TEST(StringTable, EveryWordOfALocationIsAsClientsKnowIt) {
+  const auto table = TableByNumber();
+  for (const auto& [id, text] : expected::LocationTexts()) {
+    ASSERT_THAT(table, Contains(Key(id)));
+    EXPECT_EQ(table.at(id), text) << id;
+  }
+}
+
 TEST(StringTable, NumbersAscendAndNoneComesTwice) {
   const auto table = ZDXEngine::StringTable();
   const auto notAscending = [](const auto& a, const auto& b) { return a.id >= b.id; };

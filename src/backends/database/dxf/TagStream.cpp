@@ -213,7 +213,7 @@ bool ParseReal(Form form, std::string_view value, double& number) {
   double parsed = 0;
   if (form == Form::kText) {
     value = Trimmed(value);
-    if (value.starts_with('+')) value.remove_prefix(1);
+    if (value.starts_with('+') && !value.starts_with("+-")) value.remove_prefix(1);
     const char* const end = value.data() + value.size();
     const auto result = std::from_chars(value.data(), end, parsed);
     if (result.ec != std::errc() || result.ptr != end) return false;

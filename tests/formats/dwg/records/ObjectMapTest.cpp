@@ -55,6 +55,27 @@ TEST_F(ObjectMapTest, APageBeginsAnewFromZero) {
   EXPECT_THAT(TextsOf(report), IsEmpty());
 }
 
+using Visits = std::vector<std::pair<model::Handle, std::uint64_t>>;
+
+Visits VisitsOf(ObjectMap& map, std::size_t most = 100) {
+  Visits visits;
+  map.ForEach([&](model::Handle handle, std::uint64_t place) {
+    visits.emplace_back(handle, place);
+    // Whoever visits may ask.
+    EXPECT_EQ(map.Find(handle), place);
+    return visits.size() < most;
+  });
+  return visits;
+}
+
+TEST_F(ObjectMapTest, EachHandleIsVisitedOnceByAscendingHandles) {
+  ObjectMap& found = Of(kFirstPage + kSecondPage + kEnd);
+  EXPECT_EQ(VisitsOf(found), (Visits{{5, 100}, {7, 36}, {0x90, 10}}));
+  EXPECT_EQ(VisitsOf(found, 2), (Visits{{5, 100}, {7, 36}}));
+  EXPECT_EQ(VisitsOf(Of(kSecondPage + kFirstPage + kFirstPage + kEnd)),
+            (Visits{{5, 100}, {7, 36}, {0x90, 10}}));
+}
+
 TEST_F(ObjectMapTest, HandlesThatAreNotThereAreNotFound) {
   ObjectMap& found = Of(kFirstPage + kSecondPage + kEnd);
   for (const model::Handle handle : {0u, 4u, 6u, 8u, 0x8Fu, 0x91u, 0xFFFFFFFFu}) {

@@ -92,6 +92,41 @@ TEST(Record, ExtendedDataAreSkippedWhateverTheirNumber) {
   }
 }
 
+TEST(Record, ExtendedDataAreTold) {
+  for (const Format format : {k1014, k1015, k1024}) {
+    SCOPED_TRACE(format.version);
+    Parts parts = PartsOf(format);
+    parts.extended =
+        Bits().BS(3).H(5, 0x12).Raw("abc").BS(300).H(5, 0x1234).Raw(handmade::Noise(300)).BS(0);
+    PlainSection section(Make(format, 51, parts));
+    const auto data = Record(section, 0, format).ExtendedData();
+    ASSERT_EQ(data.size(), 2u);
+    EXPECT_EQ(data[0].first.value, 0x12u);
+    EXPECT_EQ(data[0].second, "abc");
+    EXPECT_EQ(data[1].first.value, 0x1234u);
+    EXPECT_EQ(data[1].second, handmade::Noise(300));
+  }
+}
+
+TEST(Record, OfExtendedDataThatRunOverTheRecordThoseBeforeAreTold) {
+  Parts parts;
+  parts.extended = Bits().BS(3).H(5, 0x12).Raw("abc").BS(60000).H(5, 0x13);
+  PlainSection section(Make(k1015, 51, parts));
+  EXPECT_EQ(Record(section, 0, k1015).ExtendedData().size(), 1u);
+}
+
+TEST(Record, TheHeadTellsTypeAndHandleAlone) {
+  for (const Format format : {k1014, k1015, k1024}) {
+    SCOPED_TRACE(format.version);
+    PlainSection section(Make(format, 51, PartsOf(format)));
+    Record record(section, 0, format, Record::Extent::kHead);
+    ASSERT_TRUE(record.Whole());
+    EXPECT_EQ(record.type(), 51u);
+    EXPECT_EQ(record.handle(), 0x2Au);
+    EXPECT_EQ(record.Fields(false), std::nullopt);
+  }
+}
+
 TEST(Record, AnEntityMayHaveAPictureBeforeItsFields) {
   for (const Format format : {k1014, k1015, k1024}) {
     SCOPED_TRACE(format.version);

@@ -62,17 +62,8 @@ void BitReader::Fail() {
   at_ = end_;
 }
 
-std::uint64_t BitReader::Bits(unsigned count) {
+std::uint64_t BitReader::SlowBits(unsigned count) {
   if (!Take(count)) return 0;
-  const auto first = static_cast<std::size_t>(at_ >> 3);
-  if (count <= 8 && first + 1 < bytes_.size()) {
-    // Nearly all that is read is that short.
-    const unsigned pair = static_cast<unsigned>(static_cast<std::uint8_t>(bytes_[first])) << 8 |
-                          static_cast<std::uint8_t>(bytes_[first + 1]);
-    const unsigned behind = 16 - static_cast<unsigned>(at_ & 7) - count;
-    at_ += count;
-    return pair >> behind & ((1u << count) - 1);
-  }
   std::uint64_t value = 0;
   while (count > 0) {
     const unsigned inByte = static_cast<unsigned>(at_ & 7);
@@ -88,8 +79,12 @@ std::uint64_t BitReader::Bits(unsigned count) {
 
 std::uint64_t BitReader::RawBytes(unsigned count) {
   if (!Take(std::uint64_t{count} * 8)) return 0;
+  std::uint64_t highFirst = Bits(count * 8);
   std::uint64_t value = 0;
-  for (unsigned i = 0; i < count; ++i) value |= Bits(8) << 8 * i;
+  for (unsigned i = 0; i < count; ++i) {
+    value = value << 8 | (highFirst & 0xFF);
+    highFirst >>= 8;
+  }
   return value;
 }
 

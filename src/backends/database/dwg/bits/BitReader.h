@@ -60,9 +60,28 @@ class BitReader {
   std::string Bytes(std::uint64_t count);
 
   // Up to 64 bits, as a number.
-  std::uint64_t Bits(unsigned count);
+  std::uint64_t Bits(unsigned count) {
+    const auto first = static_cast<std::size_t>(at_ >> 3);
+    if (failed_ || count > kMostAtOnce || count > Left() || first + kWindow > bytes_.size()) {
+      return SlowBits(count);
+    }
+    if (count == 0) return 0;
+    // Nearly all that is read is short, and not at the very end.
+    std::uint64_t window = 0;
+    for (std::size_t i = 0; i < kWindow; ++i) {
+      window = window << 8 | static_cast<std::uint8_t>(bytes_[first + i]);
+    }
+    const std::uint64_t rest = window << (at_ & 7);
+    at_ += count;
+    return rest >> (kWindow * 8 - count);
+  }
 
  private:
+  // Bytes that are looked at together, and the bits that are surely among them wherever they begin.
+  static constexpr std::size_t kWindow = 8;
+  static constexpr unsigned kMostAtOnce = kWindow * 8 - 7;
+
+  std::uint64_t SlowBits(unsigned count);
   bool Take(std::uint64_t bits);
   void Fail();
   // A number of `count` bytes, up to 8, low byte first.

@@ -5,6 +5,7 @@
 #include <limits>
 #include <string>
 
+#include "backends/database/dwg/bits/BitReader.h"
 #include "backends/database/dwg/bits/Checksums.h"
 
 namespace zdx::dwg {
@@ -16,9 +17,55 @@ constexpr std::uint64_t kPageSizeSize = 2;
 constexpr std::size_t kMostPages = std::size_t{1} << 18;
 constexpr std::size_t kMostSorted = std::size_t{1} << 20;
 
-constexpr std::uint64_t kMarkEvery = 64;
+constexpr std::uint64_t kMarkEvery = 16;
 // Two steps of ten bytes.
 constexpr std::uint64_t kMostEntrySize = 20;
+
+// Goes through entries.  There may be millions, all of whole bytes.
+class EntryReader {
+ public:
+  explicit EntryReader(std::string_view bytes) : bytes_(bytes) {}
+
+  std::size_t position() const { return at_; }
+
+  // Steps to the next entry; false if there are no more.
+  bool Step(std::uint64_t& handle, std::uint64_t& place) {
+    std::uint64_t handleStep = 0;
+    std::uint64_t placeStep = 0;
+    if (!Read(0, handleStep) || !Read(kSign, placeStep)) return false;
+    const bool isBack = (static_cast<std::uint8_t>(bytes_[at_ - 1]) & kSign) != 0;
+    handle += handleStep;
+    place += isBack ? 0 - placeStep : placeStep;
+    return true;
+  }
+
+ private:
+  static constexpr unsigned kMore = 0x80;
+  static constexpr unsigned kSign = 0x40;
+  static constexpr unsigned kMostBits = 64;
+
+  // A number of pieces of seven bits, the low one first.  In the last one `other` isn't its own.
+  bool Read(unsigned other, std::uint64_t& number) {
+    for (unsigned shift = 0; shift < kMostBits && at_ < bytes_.size(); shift += 7) {
+      const auto byte = static_cast<std::uint8_t>(bytes_[at_++]);
+      if ((byte & kMore) == 0) {
+        number |= std::uint64_t{byte & ~other} << shift;
+        return true;
+      }
+      number |= std::uint64_t{byte & (kMore - 1)} << shift;
+    }
+    at_ = bytes_.size();
+    return false;
+  }
+
+  std::string_view bytes_;
+  std::size_t at_ = 0;
+};
+
+// The entries of a page, all of whose bytes are given.
+EntryReader EntriesOf(std::string_view page) {
+  return EntryReader(page.substr(kPageSizeSize, page.size() - kPageSizeSize - kCrcSize));
+}
 
 std::uint16_t HighFirst(std::string_view bytes) {
   return static_cast<std::uint16_t>(static_cast<std::uint8_t>(bytes[0]) << 8 |
@@ -64,15 +111,6 @@ bool ObjectMap::FindPage() {
   return true;
 }
 
-bool ObjectMap::ReadEntry(BitReader& reader, Entry& entry) {
-  const std::uint64_t handleStep = reader.UMC();
-  const std::int64_t offsetStep = reader.MC();
-  if (reader.failed()) return false;
-  entry.first += handleStep;
-  entry.second += static_cast<std::uint64_t>(offsetStep);
-  return true;
-}
-
 void ObjectMap::CheckSum(std::string_view bytes, const Page& page) {
   const std::size_t checked = bytes.size() - kCrcSize;
   if (Crc16(bytes.substr(0, checked)) != HighFirst(bytes.substr(checked))) {
@@ -89,11 +127,11 @@ void ObjectMap::SetMarks(Page& page) {
     return;
   }
   CheckSum(*bytes, page);
-  BitReader reader(*bytes, kPageSizeSize * 8, (page.size - kCrcSize) * 8);
+  EntryReader reader = EntriesOf(*bytes);
   Entry entry = {0, 0};
-  for (std::size_t count = 0; ReadEntry(reader, entry); ++count) {
+  for (std::size_t count = 0; reader.Step(entry.first, entry.second); ++count) {
     if (count % kMarkEvery != 0) continue;
-    page.marks.push_back({entry, static_cast<std::uint32_t>(reader.position() / 8)});
+    page.marks.push_back({entry, static_cast<std::uint32_t>(kPageSizeSize + reader.position())});
   }
 }
 
@@ -106,9 +144,11 @@ void ObjectMap::Sort() {
     const auto bytes = section_->Bytes(page.at, page.size, scratch);
     if (!bytes) continue;
     CheckSum(*bytes, page);
-    BitReader reader(*bytes, kPageSizeSize * 8, (page.size - kCrcSize) * 8);
+    EntryReader reader = EntriesOf(*bytes);
     Entry entry = {0, 0};
-    while (sorted_->size() < kMostSorted && ReadEntry(reader, entry)) sorted_->push_back(entry);
+    while (sorted_->size() < kMostSorted && reader.Step(entry.first, entry.second)) {
+      sorted_->push_back(entry);
+    }
   }
   std::stable_sort(sorted_->begin(), sorted_->end(),
                    [](const Entry& left, const Entry& right) { return left.first < right.first; });
@@ -150,9 +190,9 @@ std::optional<std::uint64_t> ObjectMap::FindIn(Page& page, model::Handle handle)
   const auto bytes =
       section_->Bytes(page.at + mark->next, std::min(left, kMarkEvery * kMostEntrySize), scratch);
   if (!bytes) return std::nullopt;
-  BitReader reader(*bytes, 0, bytes->size() * 8);
+  EntryReader reader(*bytes);
   Entry entry = mark->entry;
-  while (entry.first < handle && ReadEntry(reader, entry)) {
+  while (entry.first < handle && reader.Step(entry.first, entry.second)) {
   }
   return entry.first == handle ? std::optional(entry.second) : std::nullopt;
 }
@@ -177,9 +217,9 @@ bool ObjectMap::VisitPage(const Page& page, const Visit& visit) const {
   Scratch scratch;
   const auto bytes = section_->Bytes(page.at, page.size, scratch);
   if (!bytes) return true;
-  BitReader reader(*bytes, kPageSizeSize * 8, (page.size - kCrcSize) * 8);
+  EntryReader reader = EntriesOf(*bytes);
   Entry entry = {0, 0};
-  while (ReadEntry(reader, entry)) {
+  while (reader.Step(entry.first, entry.second)) {
     if (!visit(entry.first, entry.second)) return false;
   }
   return true;

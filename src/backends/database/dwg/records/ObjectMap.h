@@ -12,7 +12,6 @@
 #include <utility>
 #include <vector>
 
-#include "backends/database/dwg/bits/BitReader.h"
 #include "backends/database/dwg/container/Container.h"
 #include "backends/database/model/Drawing.h"
 #include "backends/database/model/Report.h"
@@ -55,8 +54,6 @@ class ObjectMap {
   void FindPages(model::Handle handle);
   bool FindPage();
   std::optional<std::uint64_t> FindKnown(model::Handle handle);
-  // Steps to the next entry; false if the page has no more.
-  static bool ReadEntry(BitReader& reader, Entry& entry);
   bool VisitPage(const Page& page, const Visit& visit) const;
   void CheckSum(std::string_view bytes, const Page& page);
   void SetMarks(Page& page);

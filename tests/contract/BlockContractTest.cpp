@@ -1,0 +1,367 @@
+// What the drawing-database library promises of blocks and of a drawing's location.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <optional>
+#include <stdexcept>
+#include <utility>
+#include <vector>
+
+#include "backends/database/zndb/DatabaseProvider.h"
+#include "platform/zndb/Provider.h"
+#include "support/Paths.h"
+#include "support/Scratch.h"
+#include "support/drawing/GeoSpec.h"
+#include "support/dwg/DwgMaker.h"
+#include "support/dxf/DxfMaker.h"
+#include "support/scripted/World.h"
+
+namespace {
+
+using testing::ElementsAre;
+using testing::UnorderedElementsAre;
+
+// A provider with a drawing of the block "Door", whose definitions are "A" with the prompt "Width"
+// and the text "90" and the constant "MAKER" of the text "Smith", and which holds a line behind
+// them.  A reference of it with two attributes stands in model space, another with one in the block
+// "House".  The drawing's location is tied to its point (1, 2, 3) and counts in metres.
+class Subject {
+ public:
+  virtual ~Subject() = default;
+  // Reads the drawing into `database`.
+  virtual Zent::ErrorStatus Read(ZnDbDatabase& database) = 0;
+};
+
+class Scripted : public Subject {
+ public:
+  Scripted() {
+    scripted::Record& modelSpace = world_.drawing.blocks.Add(L"*Model_Space");
+    modelSpace.layout = true;
+    scripted::Record& door = world_.drawing.blocks.Add(L"Door");
+    scripted::Record& house = world_.drawing.blocks.Add(L"House");
+    door.AddDefinition(L"A", L"Width", L"90");
+    door.AddConstant(L"MAKER", L"", L"Smith");
+    door.Add(scripted::EntityKind::kPlain);
+    scripted::Entity& reference = door.AddReference(&modelSpace);
+    reference.AddAttribute(L"A", L"80");
+    reference.AddAttribute(L"B", L"81");
+    door.AddReference(&house).AddAttribute(L"A", L"70");
+    world_.drawing.location.emplace();
+    world_.drawing.location->designPoint = {1, 2, 3};
+    world_.drawing.location->horizontalUnits = 6;
+  }
+  Zent::ErrorStatus Read(ZnDbDatabase& database) override {
+    return database.dxfIn(L"plan.dxf", nullptr);
+  }
+
+ private:
+  scripted::World world_;
+};
+
+class Embedded : public Subject {
+ public:
+  explicit Embedded(bool asDwg)
+      : asDwg_(asDwg), before_(zndb::InstallProvider(zdx::database::EmbeddedProvider())) {
+    drawing::DrawingSpec spec;
+    spec.blocks = {
+        {.name = "Door",
+         .definitions = {{.tag = "A", .value = "90", .prompt = "Width"},
+                         {.tag = "MAKER", .value = "Smith", .flags = drawing::kConstant}},
+         .entities = {drawing::Line("0", {}, {1, 1})}},
+        {.name = "House", .entities = {drawing::Insert("Door", {{.tag = "A", .value = "70"}})}}};
+    spec.entities = {
+        drawing::Insert("Door", {{.tag = "A", .value = "80"}, {.tag = "B", .value = "81"}})};
+    drawing::GeoSpec geo;
+    geo.designPoint = {1, 2, 3};
+    geo.horizontalUnits = 6;
+    spec.modelExtension = {{drawing::kGeoKey, drawing::GeoObject(geo)}};
+    file_.emplace(asDwg ? dwg::Make(spec) : dxf::Make(spec), asDwg ? ".dwg" : ".dxf");
+  }
+  ~Embedded() override { zndb::InstallProvider(before_); }
+  Zent::ErrorStatus Read(ZnDbDatabase& database) override {
+    const std::wstring path = zdx_test::NameOf(file_->path());
+    return asDwg_ ? database.readDwgFile(path.c_str(), 4, true, nullptr)
+                  : database.dxfIn(path.c_str(), nullptr);
+  }
+
+ private:
+  bool asDwg_;
+  zndb::Provider* before_;
+  std::optional<zdx_test::ScratchFile> file_;
+};
+
+template <class T>
+T* Open(ZnDbObjectId id) {
+  T* object = nullptr;
+  EXPECT_EQ(zndbOpenObject(object, id, T::desc(), ZnDb::kForRead, false), Zent::kOk);
+  return object;
+}
+
+// The text that `get` gives.
+template <class Object, class Class>
+std::wstring Text(const Object& object, Zent::ErrorStatus (Class::*get)(ZnString& text) const) {
+  ZnString text;
+  EXPECT_EQ((object.*get)(text), Zent::kOk);
+  return std::wstring(text);
+}
+
+class BlockContract : public testing::TestWithParam<const char*> {
+ protected:
+  BlockContract() {
+    if (std::string(GetParam()) == "Scripted") {
+      subject = std::make_unique<Scripted>();
+    } else {
+      subject = std::make_unique<Embedded>(std::string(GetParam()) == "EmbeddedDwg");
+    }
+    database.emplace(false, true);
+    EXPECT_EQ(subject->Read(*database), Zent::kOk);
+    EXPECT_EQ(database->getSymbolTable(table, ZnDb::kForRead), Zent::kOk);
+  }
+  ~BlockContract() override { table->close(); }
+
+  std::unique_ptr<ZnDbSymbolTableIterator> Records() const {
+    ZnDbSymbolTableIterator* made = nullptr;
+    EXPECT_EQ(table->newIterator(made, true, true), Zent::kOk);
+    return std::unique_ptr<ZnDbSymbolTableIterator>(made);
+  }
+  ZnDbObjectId IdOf(const wchar_t* name) const {
+    ZnDbObjectId id;
+    EXPECT_EQ(table->getIdAt(name, id, false), Zent::kOk) << name;
+    return id;
+  }
+  ZnDbBlockTableRecord* Block(const wchar_t* name) const {
+    return Open<ZnDbBlockTableRecord>(IdOf(name));
+  }
+  static std::unique_ptr<ZnDbBlockTableRecordIterator> Entities(const ZnDbBlockTableRecord& block) {
+    ZnDbBlockTableRecordIterator* made = nullptr;
+    EXPECT_EQ(block.newIterator(made, true, true), Zent::kOk);
+    return std::unique_ptr<ZnDbBlockTableRecordIterator>(made);
+  }
+  static std::unique_ptr<ZnDbBlockReferenceIdIterator> References(
+      const ZnDbBlockTableRecord& block) {
+    ZnDbBlockReferenceIdIterator* made = nullptr;
+    EXPECT_EQ(block.newBlockReferenceIdIterator(made), Zent::kOk);
+    return std::unique_ptr<ZnDbBlockReferenceIdIterator>(made);
+  }
+  // The reference of "Door" that stands in the block of this id.
+  ZnDbBlockReference* ReferenceIn(ZnDbObjectId owner) const {
+    ZnDbBlockTableRecord* const door = Block(L"Door");
+    const auto references = References(*door);
+    door->close();
+    for (; references->position < references->count; ++references->position) {
+      ZnDbBlockReference* reference = nullptr;
+      EXPECT_EQ(references->getBlockReference(reference, ZnDb::kForRead, false), Zent::kOk);
+      if (reference->ownerId() == owner) return reference;
+      reference->close();
+    }
+    throw std::out_of_range("no such reference");
+  }
+
+  std::unique_ptr<Subject> subject;
+  std::optional<ZnDbDatabase> database;
+  ZnDbBlockTable* table = nullptr;
+};
+
+TEST_P(BlockContract, OnlyLayoutsAreLayouts) {
+  for (const auto& [name, isLayout] :
+       {std::pair(L"*Model_Space", true), std::pair(L"Door", false), std::pair(L"House", false)}) {
+    ZnDbBlockTableRecord* const block = Block(name);
+    EXPECT_EQ(block->isLayout(), isLayout) << name;
+    block->close();
+  }
+}
+
+TEST_P(BlockContract, OnlyABlockWithDefinitionsHasThem) {
+  for (const auto& [name, hasThem] :
+       {std::pair(L"*Model_Space", false), std::pair(L"Door", true), std::pair(L"House", false)}) {
+    ZnDbBlockTableRecord* const block = Block(name);
+    EXPECT_EQ(block->hasAttributeDefinitions(), hasThem) << name;
+    block->close();
+  }
+}
+
+TEST_P(BlockContract, SeekGoesToARecordAndTheWalkGoesOnFromThere) {
+  const auto records = Records();
+  ASSERT_EQ(records->seek(IdOf(L"House")), Zent::kOk);
+  ZnDbObjectId at;
+  ASSERT_EQ(records->getRecordId(at), Zent::kOk);
+  EXPECT_EQ(at, IdOf(L"House"));
+  ASSERT_EQ(records->seek(IdOf(L"Door")), Zent::kOk);
+  records->step(true, true);
+  ASSERT_EQ(records->getRecordId(at), Zent::kOk);
+  EXPECT_EQ(at, IdOf(L"House"));
+}
+
+TEST_P(BlockContract, ASeekThatFailsStaysWhereItIs) {
+  const auto records = Records();
+  ASSERT_EQ(records->seek(IdOf(L"Door")), Zent::kOk);
+  EXPECT_NE(records->seek(ZnDbObjectId()), Zent::kOk);
+  EXPECT_NE(records->seek(table->objectId()), Zent::kOk);
+  ZnDbObjectId at;
+  ASSERT_EQ(records->getRecordId(at), Zent::kOk);
+  EXPECT_EQ(at, IdOf(L"Door"));
+}
+
+TEST_P(BlockContract, EntitiesComeInStoredOrderEachOfItsClass) {
+  ZnDbBlockTableRecord* const door = Block(L"Door");
+  const auto entities = Entities(*door);
+  std::vector<bool> definitions;
+  for (; !entities->done(); entities->step(true, true)) {
+    ZnDbEntity* entity = nullptr;
+    ASSERT_EQ(entities->getEntity(entity, ZnDb::kForRead, false), Zent::kOk);
+    EXPECT_TRUE(entity->isA()->isDerivedFrom(ZnDbEntity::desc()));
+    EXPECT_EQ(entity->ownerId(), IdOf(L"Door"));
+    definitions.push_back(entity->isA()->isDerivedFrom(ZnDbAttributeDefinition::desc()));
+    entity->close();
+  }
+  EXPECT_THAT(definitions, ElementsAre(true, true, false));
+  door->close();
+}
+
+TEST_P(BlockContract, AnEntityIsTheOneThatItsIdNames) {
+  ZnDbBlockTableRecord* const door = Block(L"Door");
+  const auto entities = Entities(*door);
+  ZnDbObjectId id;
+  ASSERT_EQ(entities->getEntityId(id), Zent::kOk);
+  ZnDbEntity* entity = nullptr;
+  ASSERT_EQ(entities->getEntity(entity, ZnDb::kForRead, false), Zent::kOk);
+  EXPECT_EQ(entity->objectId(), id);
+  entity->close();
+  door->close();
+}
+
+TEST_P(BlockContract, ADefinitionTellsAllThatItSays) {
+  ZnDbBlockTableRecord* const door = Block(L"Door");
+  const auto entities = Entities(*door);
+  ZnDbObjectId id;
+  ASSERT_EQ(entities->getEntityId(id), Zent::kOk);
+  auto* const first = Open<ZnDbAttributeDefinition>(id);
+  EXPECT_STREQ(first->isA()->name(), L"ZnDbAttributeDefinition");
+  EXPECT_EQ(Text(*first, &ZnDbAttributeDefinition::tag), L"A");
+  EXPECT_EQ(Text(*first, &ZnDbAttributeDefinition::prompt), L"Width");
+  EXPECT_EQ(Text(*first, &ZnDbText::textString), L"90");
+  EXPECT_FALSE(first->isConstant());
+  first->close();
+  entities->step(true, true);
+  ASSERT_EQ(entities->getEntityId(id), Zent::kOk);
+  auto* const second = Open<ZnDbAttributeDefinition>(id);
+  EXPECT_EQ(Text(*second, &ZnDbText::textString), L"Smith");
+  EXPECT_TRUE(second->isConstant());
+  second->close();
+  door->close();
+}
+
+TEST_P(BlockContract, AnEntityMayBeClosedTwiceAndReadAfterwards) {
+  ZnDbBlockTableRecord* const door = Block(L"Door");
+  const auto entities = Entities(*door);
+  ZnDbEntity* entity = nullptr;
+  ASSERT_EQ(entities->getEntity(entity, ZnDb::kForRead, false), Zent::kOk);
+  EXPECT_EQ(entity->close(), Zent::kOk);
+  EXPECT_EQ(entity->close(), Zent::kOk);
+  EXPECT_EQ(entity->ownerId(), IdOf(L"Door"));
+  door->close();
+}
+
+TEST_P(BlockContract, ReferencesAreThoseOfEveryBlock) {
+  ZnDbBlockTableRecord* const door = Block(L"Door");
+  const auto references = References(*door);
+  EXPECT_EQ(references->position, 0);
+  ASSERT_EQ(references->count, 2);
+  std::vector<ZnDbObjectId> owners;
+  for (; references->position < references->count; ++references->position) {
+    ZnDbObjectId id;
+    ASSERT_EQ(references->getBlockReferenceId(id), Zent::kOk);
+    auto* const reference = Open<ZnDbBlockReference>(id);
+    EXPECT_EQ(reference->blockTableRecord(), IdOf(L"Door"));
+    owners.push_back(reference->ownerId());
+    reference->close();
+  }
+  EXPECT_THAT(owners, UnorderedElementsAre(IdOf(L"*Model_Space"), IdOf(L"House")));
+  door->close();
+}
+
+TEST_P(BlockContract, LookingAtAReferenceDoesNotStep) {
+  ZnDbBlockTableRecord* const door = Block(L"Door");
+  const auto references = References(*door);
+  ZnDbObjectId id;
+  ASSERT_EQ(references->getBlockReferenceId(id), Zent::kOk);
+  for (int i = 0; i < 2; ++i) {
+    ZnDbBlockReference* reference = nullptr;
+    ASSERT_EQ(references->getBlockReference(reference, ZnDb::kForRead, false), Zent::kOk);
+    EXPECT_EQ(reference->objectId(), id);
+    EXPECT_EQ(reference->close(), Zent::kOk);
+    EXPECT_EQ(reference->close(), Zent::kOk);
+  }
+  EXPECT_EQ(references->position, 0);
+  door->close();
+}
+
+TEST_P(BlockContract, ABlockThatNobodyShowsHasNoReferences) {
+  ZnDbBlockTableRecord* const house = Block(L"House");
+  EXPECT_EQ(References(*house)->count, 0);
+  house->close();
+}
+
+TEST_P(BlockContract, AttributesComeInStoredOrderWithTagAndText) {
+  ZnDbBlockReference* const reference = ReferenceIn(IdOf(L"*Model_Space"));
+  const std::unique_ptr<ZnDbObjectIterator> attributes(reference->attributeIterator());
+  std::vector<std::wstring> words;
+  for (; !attributes->done(); attributes->step(false, true)) {
+    ZnDbAttribute* attribute = nullptr;
+    ASSERT_EQ(reference->openAttribute(attribute, attributes->objectId(), ZnDb::kForRead, false),
+              Zent::kOk);
+    EXPECT_EQ(attribute->objectId(), attributes->objectId());
+    EXPECT_TRUE(attribute->isA()->isDerivedFrom(ZnDbAttribute::desc()));
+    EXPECT_FALSE(attribute->isMTextAttribute());
+    words.push_back(Text(*attribute, &ZnDbAttribute::tag) + L"=" +
+                    Text(*attribute, &ZnDbText::textString));
+    attribute->close();
+  }
+  EXPECT_THAT(words, ElementsAre(L"A=80", L"B=81"));
+  reference->close();
+}
+
+TEST_P(BlockContract, TheNullIdOpensNoAttribute) {
+  ZnDbBlockReference* const reference = ReferenceIn(IdOf(L"House"));
+  ZnDbAttribute* attribute = nullptr;
+  EXPECT_NE(reference->openAttribute(attribute, ZnDbObjectId(), ZnDb::kForRead, false), Zent::kOk);
+  EXPECT_EQ(attribute, nullptr);
+  reference->close();
+}
+
+// What is made to ask is never given back: a tool that looks for leaks would tell of it.
+TEST_P(BlockContract, ABlockThatIsNotDynamicHasNoCopies) {
+  const auto* const dynamic = new ZnDbDynBlockTableRecord(IdOf(L"Door"));
+  ASSERT_NE(dynamic, nullptr);
+  EXPECT_FALSE(dynamic->isDynamicBlock());
+  ZnDbObjectIdArray copies = {IdOf(L"House")};
+  dynamic->getAnonymousBlockIds(copies);
+  EXPECT_TRUE(copies.empty());
+}
+
+TEST_P(BlockContract, TheLocationIsAnObjectOfItsOwnClass) {
+  ZnDbObjectId id;
+  ASSERT_EQ(zndbGetGeoDataObjId(&*database, id), Zent::kOk);
+  ASSERT_FALSE(id.isNull());
+  auto* const location = Open<ZnDbGeoData>(id);
+  EXPECT_EQ(location->objectId(), id);
+  EXPECT_TRUE(location->isA()->isDerivedFrom(ZnDbGeoData::desc()));
+  EXPECT_EQ(location->designPoint().x, 1);
+  EXPECT_EQ(location->designPoint().y, 2);
+  EXPECT_EQ(location->designPoint().z, 3);
+  EXPECT_EQ(location->horizontalUnits(), 6);
+  EXPECT_EQ(location->close(), Zent::kOk);
+}
+
+TEST_P(BlockContract, ABlockIsNoLocation) {
+  ZnDbGeoData* location = nullptr;
+  EXPECT_NE(zndbOpenObject(location, IdOf(L"Door"), ZnDbGeoData::desc(), ZnDb::kForRead, false),
+            Zent::kOk);
+  EXPECT_EQ(location, nullptr);
+}
+
+INSTANTIATE_TEST_SUITE_P(Providers, BlockContract, testing::Values("Scripted"),
+                         [](const auto& info) { return info.param; });
+
+}  // namespace
