@@ -42,6 +42,10 @@ demo:
 	  echo; echo "\$$ zdx info examples/$$drawing"; \
 	  build/demo/bin/zdx info examples/$$drawing || exit 1; \
 	done
+	@for words in 'blocks' 'info --select blocks --block TITLE_BLOCK' 'get block:TITLE_BLOCK:CLIENT'; do \
+	  echo; echo "\$$ zdx $$words examples/site-plan.dwg"; \
+	  build/demo/bin/zdx $$words examples/site-plan.dwg || exit 1; \
+	done
 	@echo; echo '$$ zdx thumb examples/site-plan.dwg -O build/demo/site-plan.png'
 	@build/demo/bin/zdx thumb examples/site-plan.dwg -O build/demo/site-plan.png
 	@echo 'The preview picture is in build/demo/site-plan.png.'

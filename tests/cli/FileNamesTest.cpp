@@ -66,6 +66,18 @@ TEST_F(FileNames, ThatAreNotTextAreNotTakenForOthers) {
   EXPECT_EQ(Zdx({"info", "caf\xE8.dxf"}).exitCode, 2);
 }
 
+TEST_F(FileNames, OfAnyKindWorkWithEveryCommand) {
+  for (const char* const name : {kForeignName, "caf\xE9.dxf", "[a,b].dxf", "{}.dxf", "++.dxf"}) {
+    // Not every system knows names that aren't text.
+    if (!CanWrite(name)) continue;
+    const std::vector<nlohmann::json> documents =
+        Documents(Zdx({"blocks", "-o", "json", name}).out);
+    ASSERT_THAT(documents, SizeIs(1));
+    EXPECT_EQ(documents[0].at("status"), "ok") << name;
+    EXPECT_EQ(Zdx({"get", "Title", name}).out, "Ground floor\n") << name;
+  }
+}
+
 TEST_F(FileNames, ThatBeginWithADashGoBehindTwoDashes) {
   Write("-o.dxf", DxfText());
   ExpectReadAs(Zdx({"info", "-o", "json", "--", "-o.dxf"}), "-o.dxf");
@@ -131,6 +143,8 @@ TEST_F(FileNames, WithControlCharactersStayOnOneLineOfAMessage) {
   const Outcome failed = Zdx({"info", "x\ny\033.dxf"});
   EXPECT_THAT(failed.err, StartsWith("zdx: x\\x0ay\\x1b.dxf: "));
   EXPECT_THAT(failed.err, Not(HasSubstr("\033")));
+  EXPECT_THAT(Zdx({"get", "Title", "x\ny\033.dxf"}).err, StartsWith("zdx: x\\x0ay\\x1b.dxf: "));
+  EXPECT_THAT(Zdx({"blocks", "x\ny\033.dxf"}).err, StartsWith("zdx: x\\x0ay\\x1b.dxf: "));
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include "CommandUsage.h"
 #include "CommandWords.h"
+#include "KeyNames.h"
 
 namespace zdx {
 

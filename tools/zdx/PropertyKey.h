@@ -26,9 +26,6 @@ struct PropertyKey {
 // then, with the words that would do.
 std::optional<PropertyKey> ParseKey(std::string_view word, std::string& problem);
 
-// The forms of all keys, in lines that end in a line end.
-std::string KeyForms();
-
 // The properties that `key` means, in their order; at most one if it isn't a list.
 std::vector<const ZDXEngine::_PropData*> Find(const PropertyKey& key, const DrawingReport& report);
 

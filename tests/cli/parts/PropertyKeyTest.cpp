@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "FormatId.h"
+#include "KeyNames.h"
 #include "PropertyKey.h"
 #include "cli/parts/MadeUpReport.h"
 

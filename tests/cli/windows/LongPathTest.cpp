@@ -61,6 +61,15 @@ TEST_F(LongPath, OfAMissingFileIsToldAsItWasGiven) {
   EXPECT_THAT(outcome.err, Not(HasSubstr("\\\\?\\")));
 }
 
+TEST_F(LongPath, OfADrawingIsReadByEveryCommand) {
+  const auto documents = Documents(Zdx({"blocks", "-o", "json", name_ + "plan.dxf"}).out);
+  ASSERT_THAT(documents, SizeIs(1));
+  EXPECT_EQ(documents[0].at("file"), name_ + "plan.dxf");
+  EXPECT_EQ(documents[0].at("format"), "DXF (text)");
+  EXPECT_EQ(Zdx({"get", "Title", name_ + "plan.dxf"}).out, "Ground floor\n");
+  EXPECT_THAT(Zdx({"blocks", name_ + "none.dxf"}).err, Not(HasSubstr("\\\\?\\")));
+}
+
 TEST_F(LongPath, OfAPictureIsWritten) {
   const Outcome outcome = Zdx({"thumb", "-O", name_ + "out.png", name_ + "plan.dxf"});
   EXPECT_EQ(outcome.exitCode, 0) << outcome.err;

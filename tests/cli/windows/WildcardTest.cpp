@@ -10,6 +10,7 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
+using ::testing::SizeIs;
 using ::testing::StartsWith;
 
 class Wildcards : public CliTest {
@@ -63,6 +64,18 @@ TEST_F(Wildcards, BehindAnExtendedPathWork) {
 TEST_F(Wildcards, ThatNothingMatchesStandForThemselves) {
   EXPECT_THAT(Told("plans\\z*.dxf"), ElementsAre("plans\\z*.dxf"));
   EXPECT_THAT(Told("missing\\*.dxf"), ElementsAre("missing\\*.dxf"));
+}
+
+TEST_F(Wildcards, StandForDrawingsWhoseBlocksOrValuesAreAskedFor) {
+  const Outcome blocks = Zdx({"blocks", "-o", "json", "plans\\?.dxf"});
+  EXPECT_THAT(Documents(blocks.out), SizeIs(4));
+  EXPECT_EQ(Zdx({"get", "custom:Client", "plans\\a*.dxf"}).out, "Harbour Trust\n");
+}
+
+TEST_F(Wildcards, AreNoPatternsInBlocksAndKeys) {
+  EXPECT_THAT(Zdx({"info", "--block", "*.dxf", "plans\\a.dxf"}).out,
+              HasSubstr("Block *.dxf (none)"));
+  EXPECT_EQ(Zdx({"get", "custom:*", "plans\\a.dxf"}).exitCode, 1);
 }
 
 TEST_F(Wildcards, OfOneFileAreTheDrawingWhosePictureIsAskedFor) {
