@@ -361,7 +361,8 @@ TEST_P(BlockContract, ABlockIsNoLocation) {
   EXPECT_EQ(location, nullptr);
 }
 
-INSTANTIATE_TEST_SUITE_P(Providers, BlockContract, testing::Values("Scripted"),
+INSTANTIATE_TEST_SUITE_P(Providers, BlockContract,
+                         testing::Values("EmbeddedDxf", "EmbeddedDwg", "Scripted"),
                          [](const auto& info) { return info.param; });
 
 }  // namespace

@@ -79,12 +79,11 @@ TEST_P(BlocksOfEveryVersion, GiveThoseOfALayoutRatherThanOfABlock) {
   EXPECT_THAT(Values(L"Sign"), ElementsAre(Pair("KIND", "metal"), Pair("NO", "2")));
 }
 
-// Below AC1015 there are no such lists, and the first is that of the lowest handle.
-TEST_P(BlocksOfEveryVersion, GiveThoseOfTheFirstInTheBlocksList) {
+TEST_P(BlocksOfEveryVersion, GiveThoseOfTheLowestHandleWhateverTheBlockLists) {
   spec.referenceLists = drawing::ReferenceLists::Reversed;
   const Records values = Values(L"Sign");
   ASSERT_GE(values.size(), 2u);
-  EXPECT_THAT(values[1], Pair("NO", Version() < "AC1015" ? "1" : "3"));
+  EXPECT_THAT(values[1], Pair("NO", "1"));
 }
 
 TEST_P(BlocksOfEveryVersion, GiveThoseOfABlockWhereNoLayoutHasAny) {

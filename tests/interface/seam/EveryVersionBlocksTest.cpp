@@ -157,27 +157,16 @@ class ReferencesOfEveryVersion : public EveryVersionBlocks {
     spec.layouts = {"Layout1"};
     spec.blocks = {{"Sign"}};
   }
-  bool HasLists() const { return Version() >= "AC1015"; }
 };
 
-TEST_P(ReferencesOfEveryVersion, ComeInTheOrderOfTheBlocksList) {
-  spec.referenceLists = drawing::ReferenceLists::AsDrawn;
-  Walk();
-  EXPECT_EQ(FirstValues("SIGN"),
-            HasLists() ? (Lines{"A3", "A1", "A2"}) : (Lines{"A1", "A2", "A3"}));
-}
-
-TEST_P(ReferencesOfEveryVersion, ComeInTheOrderOfAListThatIsReversed) {
-  spec.referenceLists = drawing::ReferenceLists::Reversed;
-  Walk();
-  EXPECT_EQ(FirstValues("SIGN"),
-            HasLists() ? (Lines{"A2", "A1", "A3"}) : (Lines{"A1", "A2", "A3"}));
-}
-
-TEST_P(ReferencesOfEveryVersion, ComeByHandleWithoutAnyList) {
-  spec.referenceLists = drawing::ReferenceLists::None;
-  Walk();
-  EXPECT_EQ(FirstValues("SIGN"), (Lines{"A1", "A2", "A3"}));
+TEST_P(ReferencesOfEveryVersion, ComeByTheirHandlesWhateverTheBlockLists) {
+  using drawing::ReferenceLists;
+  for (const ReferenceLists lists :
+       {ReferenceLists::None, ReferenceLists::AsDrawn, ReferenceLists::Reversed}) {
+    spec.referenceLists = lists;
+    Walk();
+    EXPECT_EQ(FirstValues("SIGN"), (Lines{"A1", "A2", "A3"}));
+  }
 }
 
 TEST_P(ReferencesOfEveryVersion, OfOneBlockAreNotThoseOfAnother) {

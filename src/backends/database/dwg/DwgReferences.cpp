@@ -1,6 +1,5 @@
 // Where blocks are shown.
 #include <algorithm>
-#include <unordered_set>
 
 #include "backends/database/dwg/DwgDrawing.h"
 
@@ -17,10 +16,11 @@ std::vector<model::ObjectKey> DwgDrawing::BlockReferences(model::ObjectKey block
   if (format_.version >= model::kVersion1015) {
     const std::optional<Object> record = ReadBlock(handle, {Key::kInserts, Key::kInserts});
     if (!record) return keys;
-    std::unordered_set<model::Handle> known;
-    const auto& inserts = Listed(referenceLists_, handle, record->fields, Key::kInserts);
+    std::vector<model::Handle> inserts =
+        Listed(referenceLists_, handle, record->fields, Key::kInserts);
+    std::sort(inserts.begin(), inserts.end());
+    inserts.erase(std::unique(inserts.begin(), inserts.end()), inserts.end());
     for (const model::Handle insert : inserts) {
-      if (!known.insert(insert).second) continue;
       // Lists name tables, too, which show a block of their own.
       const std::optional<Kind> kind = KindOf(insert);
       if (kind && IsReference(kind->type)) keys.push_back(model::ObjectKey{insert});

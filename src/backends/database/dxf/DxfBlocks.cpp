@@ -1,6 +1,4 @@
 // The blocks, what stands in them, and where they are shown.
-#include <algorithm>
-
 #include "backends/database/dxf/DxfDrawing.h"
 #include "backends/database/dxf/GroupedTags.h"
 #include "backends/database/dxf/Tokens.h"
@@ -123,33 +121,11 @@ std::vector<ObjectKey> DxfDrawing::BlockReferences(ObjectKey block) {
   const Block* const found = Blocks().Find(block);
   if (found == nullptr) return keys;
   const auto references = References().Of(*found);
-  std::vector<bool> isTold(references.size());
   keys.reserve(references.size());
-  const auto tell = [&](std::size_t i) {
-    if (!isTold[i]) keys.push_back(ObjectKey{references[i].at});
-    isTold[i] = true;
-  };
-  for (const model::Handle handle : ListedReferences(block)) {
-    const auto reference =
-        std::lower_bound(references.begin(), references.end(), handle,
-                         [](const auto& r, model::Handle h) { return r.handle - 1 < h - 1; });
-    if (reference == references.end() || reference->handle != handle) continue;
-    tell(static_cast<std::size_t>(reference - references.begin()));
+  for (const ReferenceIndex::Reference& reference : references) {
+    keys.push_back(ObjectKey{reference.at});
   }
-  for (std::size_t i = 0; i < references.size(); ++i) tell(i);
   return keys;
-}
-
-// The handles that a record lists as those of its references, which may be out of date.
-std::vector<model::Handle> DxfDrawing::ListedReferences(ObjectKey record) {
-  std::vector<model::Handle> handles;
-  GroupedTags tags(stream_, StartOf(record).body);
-  Tag tag;
-  while (tags.Next(tag)) {
-    if (tag.code != kReferenceCode || tags.group() != kReferencesGroup) continue;
-    if (const model::Handle handle = ParseHandle(tag.value); handle != 0) handles.push_back(handle);
-  }
-  return handles;
 }
 
 bool DxfDrawing::IsDynamicBlock(ObjectKey block) {

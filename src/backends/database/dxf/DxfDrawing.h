@@ -103,7 +103,6 @@ class DxfDrawing : public model::Drawing {
   const EntitySections& SectionsOfEntities();
   bool IsAmongEntities(std::size_t at);
   const Block* OwnerOf(const ObjectStart& entity);
-  std::vector<model::Handle> ListedReferences(model::ObjectKey record);
 
   TagSearch FirstTag(model::ObjectKey object, int code);
   std::wstring TypeText(std::string_view type);

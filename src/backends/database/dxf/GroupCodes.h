@@ -46,7 +46,6 @@ inline constexpr int kObservationToCode = 306;
 inline constexpr int kObservationCoverageCode = 307;
 inline constexpr int kChunkCode = 310;
 inline constexpr int kOwnerCode = 330;
-inline constexpr int kReferenceCode = 331;
 inline constexpr int kLayoutCode = 340;
 inline constexpr int kSoftValueCode = 350;
 inline constexpr int kHardValueCode = 360;

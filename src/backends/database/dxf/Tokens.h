@@ -56,7 +56,6 @@ inline constexpr std::string_view kAttributeDefinitionMarker = "AcDbAttributeDef
 // Groups of applications, by their first tag; they all begin with a brace.
 inline constexpr char kGroupBegin = '{';
 inline constexpr std::string_view kExtensionGroup = "{ACAD_XDICTIONARY";
-inline constexpr std::string_view kReferencesGroup = "{BLKREFS";
 
 // Objects.
 inline constexpr std::string_view kDictionary = "DICTIONARY";

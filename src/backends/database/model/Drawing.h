@@ -122,9 +122,9 @@ class Drawing {
   // The entities of a block in stored order.  Attributes of references aren't among them, nor what
   // begins and ends blocks and sequences.
   virtual std::vector<ObjectKey> BlockEntities(ObjectKey block) = 0;
-  // The references that name this very record, wherever they stand: in the order in which the
-  // drawing lists them, then those that it doesn't list by their handles, then those without one as
-  // they stand in the file.
+  // The references that name this very record, wherever they stand: by their handles, then those
+  // without one as they stand in the file.  Lists that some formats keep of them have other orders,
+  // which two files of one drawing needn't share.
   virtual std::vector<ObjectKey> BlockReferences(ObjectKey block) = 0;
   virtual bool IsDynamicBlock(ObjectKey block) = 0;
   // The records of the anonymous blocks that carry the variations of a dynamic block, in table
