@@ -40,6 +40,16 @@ TEST(SectionMap, FindsASectionByItsName) {
   EXPECT_THAT(FlawsOf(map), IsEmpty());
 }
 
+TEST(SectionMap, TellsOfASectionThatComesTwiceIfItIsRead) {
+  const std::string first = SectionText("BLOCKS", "  0\nBLOCK\n") + SectionText("OTHER", "");
+  const std::string text = first + SectionText("BLOCKS", "") + SectionText("OTHER", "");
+  const TagStream stream(text, Form::kText);
+  SectionMap map(stream);
+  map.All();
+  EXPECT_THAT(FlawsOf(map), ElementsAre(first.size()));
+  EXPECT_EQ(map.Find("BLOCKS")->end, text.find("  0\nENDSEC"));
+}
+
 TEST(SectionMap, NotesReferencesAsFarAsItWent) {
   const std::string insert = "  0\nINSERT\n  2\nDoor\n";
   const std::string text = SectionText("BLOCKS", insert) +

@@ -1,11 +1,14 @@
 // Where the sections of a file lie.
 #pragma once
 
+#include <array>
+#include <iterator>
 #include <optional>
 #include <string_view>
 #include <vector>
 
 #include "backends/database/dxf/TagStream.h"
+#include "backends/database/dxf/Tokens.h"
 
 namespace zdx::dxf {
 
@@ -40,11 +43,14 @@ class SectionMap {
  private:
   bool FindNext();
   std::size_t FindEnd(std::size_t from);
+  bool ComesAgain(std::string_view name);
 
   const TagStream* stream_;
   std::size_t next_;
   bool complete_ = false;
   std::vector<Section> sections_;
+  // Which of those that are read were found.
+  std::array<bool, std::size(kReadSections)> isFound_ = {};
   std::vector<Flaw> flaws_;
   std::vector<std::size_t> references_;
 };

@@ -36,6 +36,11 @@ inline constexpr std::string_view kEntitiesSection = "ENTITIES";
 inline constexpr std::string_view kObjectsSection = "OBJECTS";
 inline constexpr std::string_view kThumbnailSection = "THUMBNAILIMAGE";
 
+// All of them.
+inline constexpr std::string_view kReadSections[] = {
+    kHeaderSection,   kClassesSection, kTablesSection,   kBlocksSection,
+    kEntitiesSection, kObjectsSection, kThumbnailSection};
+
 // Records of the symbol tables.
 inline constexpr std::string_view kLayerRecord = "LAYER";
 inline constexpr std::string_view kLinetypeRecord = "LTYPE";
