@@ -5,6 +5,7 @@
 #include <memory>
 #include <utility>
 
+#include "platform/zndb/ZnDbBlocks.h"
 #include "platform/zndb/ZnDbGeoData.h"
 #include "support/scripted/BlockObjects.h"
 #include "support/scripted/CaseFold.h"

@@ -2,8 +2,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "properties/read/AttributeProperties.h"
 #include "properties/read/AttributeTexts.h"
 #include "properties/read/OpenObject.h"
@@ -32,9 +30,6 @@ class AttributeRoutines : public scripted::BlockTest {
     const ClosedObject<ZnDbBlockReference> reference(
         OpenForRead<ZnDbBlockReference>(scripted::IdOf(entity)));
     AddReferenceAttributes(properties, reference.get(), kOwnId, filters, byId);
-  }
-  std::ptrdiff_t Closings(const std::string& label) const {
-    return std::ranges::count(world.Calls({"close"}), label + ".close()");
   }
 
   scripted::Record& door = world.drawing.blocks.Add(L"Door");

@@ -1,6 +1,7 @@
 // A test of what blocks and their references carry, in a drawing with a model space.
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -36,6 +37,11 @@ class BlockTest : public CollectorTest {
   std::vector<std::string> ReadValues() {
     Read();
     return Values();
+  }
+
+  // How often what has this label was closed.
+  std::ptrdiff_t Closings(const std::string& label) const {
+    return std::ranges::count(world.Calls({"close"}), label + ".close()");
   }
 
   // A reference to `block` that stands in `owner`, with one attribute of the tag "A".

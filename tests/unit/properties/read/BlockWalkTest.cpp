@@ -2,8 +2,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 #include "unit/properties/Outages.h"
 #include "unit/properties/read/BlockTest.h"
 
@@ -249,9 +247,8 @@ TEST_F(BlockWalk, AConstantsEntityIsOpenedForReadAndClosedByBothWhoHaveIt) {
                   "block Door iterator.getEntity(0, false)",
                   "definition MAKER of Door.isConstant()", "definition MAKER of Door.textString()",
                   "block Door iterator.getEntity(0, false)", "definition A of Door.isConstant()"));
-  const std::vector<std::string> closed = world.Calls({"close"});
-  EXPECT_EQ(std::ranges::count(closed, "definition MAKER of Door.close()"), 2);
-  EXPECT_EQ(std::ranges::count(closed, "definition A of Door.close()"), 1);
+  EXPECT_EQ(Closings("definition MAKER of Door"), 2);
+  EXPECT_EQ(Closings("definition A of Door"), 1);
   EXPECT_THAT(world.Calls({"step"}), Contains("block Door iterator.step(true, true)"));
 }
 
@@ -356,6 +353,22 @@ TEST_F(BlockWalkFailures, AnIteratorOfReferencesThatComesWithAFailureIsDeletedUn
 TEST_F(BlockWalkFailures, AFailureToCloseIsIgnored) {
   world.Fail("close", 5);
   EXPECT_THAT(ReadValues(), ElementsAre("MAKER=Smith", "A=one", "A=two"));
+}
+
+TEST_F(BlockWalkFailures, WhatTheLibraryThrowsComesOutAndNothingStaysOpen) {
+  filters[0].usePrompt = true;
+  door.AddDefinition(L"A", L"Width");
+  window.references.clear();
+  window.dynamic = true;
+  window.copies = {&door};
+  for (const char* call :
+       {"isLayout", "getName", "newIterator", "getEntity", "isConstant", "textString", "ownerId",
+        "attributeIterator", "openAttribute", "isMTextAttribute", "getEntityId", "prompt",
+        "ZnDbDynBlockTableRecord", "getAnonymousBlockIds", "seek", "getBlockReference"}) {
+    world.ForgetScripts();
+    world.Throw(call);
+    EXPECT_THROW(Read(), scripted::Fault) << call;
+  }
 }
 
 TEST(BlockWalkWithoutMemory, RaisesTheComErrorAndLeaksNothing) {

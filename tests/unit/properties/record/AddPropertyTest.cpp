@@ -139,30 +139,29 @@ TEST_F(Adding, TheComErrorIsThatOfTheFailedCopy) {
 }
 
 TEST_F(Adding, ATextIsAddedWithTheTypeCodeOfTexts) {
-  AddTextProperty(properties, L"Walls", L"Layer Name", ZDXEngine::FMTID_Storage, 0x13);
+  AddText(properties, L"Walls", L"Layer Name", ZDXEngine::FMTID_Storage, 0x13);
   EXPECT_THAT(expected::Shown(properties), ElementsAre("Layer Name=Walls"));
   EXPECT_EQ(properties.back().typeCode, 2);
 }
 
 TEST_F(Adding, ANullTextIsAddedAsANullText) {
-  AddTextProperty(properties, nullptr, L"Title", ZDXEngine::FMTID_Storage, 0x13);
+  AddText(properties, nullptr, L"Title", ZDXEngine::FMTID_Storage, 0x13);
   EXPECT_THAT(expected::Shown(properties), ElementsAre("Title=(null)"));
 }
 
 TEST_F(Adding, AnEmptyTextIsAddedAsAnEmptyText) {
-  AddTextProperty(properties, L"", L"Title", ZDXEngine::FMTID_Storage, 0x13);
+  AddText(properties, L"", L"Title", ZDXEngine::FMTID_Storage, 0x13);
   EXPECT_THAT(expected::Shown(properties), ElementsAre("Title="));
 }
 
 TEST(AddingText, WithoutMemoryRaisesTheComErrorAndLeaksNothing) {
-  outages::FailEachAllocation(
-      [](scripted::World&) {},
-      [] {
-        std::vector<_PropData> properties;
-        AddTextProperty(properties, L"a", L"A", ZDXEngine::FMTID_Storage, 0x13);
-        AddTextProperty(properties, L"b", L"B", ZDXEngine::FMTID_Storage, 0x13);
-        AddTextProperty(properties, L"c", L"C", ZDXEngine::FMTID_Storage, 0x13);
-      });
+  outages::FailEachAllocation([](scripted::World&) {},
+                              [] {
+                                std::vector<_PropData> properties;
+                                AddText(properties, L"a", L"A", ZDXEngine::FMTID_Storage, 0x13);
+                                AddText(properties, L"b", L"B", ZDXEngine::FMTID_Storage, 0x13);
+                                AddText(properties, L"c", L"C", ZDXEngine::FMTID_Storage, 0x13);
+                              });
 }
 
 }  // namespace
