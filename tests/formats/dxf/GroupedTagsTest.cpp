@@ -31,6 +31,15 @@ TEST(GroupedTags, EndAnOpenGroupAtTheNextMarker) {
               testing::ElementsAre("{ONE B", "Marker", "name"));
 }
 
+TEST(GroupedTags, EndAnOpenGroupWhereExtendedDataBegins) {
+  EXPECT_THAT(GroupsOf("102\n{ONE\n331\nB\n1001\nAPPLICATION\n1000\ntext\n"),
+              testing::ElementsAre("{ONE B", "APPLICATION", "text"));
+}
+
+TEST(GroupedTags, BeginWithABrace) {
+  EXPECT_THAT(GroupsOf("102\nWORD\n330\nB\n"), testing::ElementsAre("B"));
+}
+
 TEST(EntityHead, IsReadOutsideOfGroups) {
   const EntityHead head =
       HeadOf("  5\nA\n102\n{ONE\n330\nB\n  5\nC\n102\n}\n102\n" + std::string(kExtensionGroup) +

@@ -40,6 +40,31 @@ TEST(SectionMap, FindsASectionByItsName) {
   EXPECT_THAT(FlawsOf(map), IsEmpty());
 }
 
+TEST(SectionMap, TellsOfASectionThatComesTwiceIfItIsRead) {
+  const std::string first = SectionText("BLOCKS", "  0\nBLOCK\n") + SectionText("OTHER", "");
+  const std::string text = first + SectionText("BLOCKS", "") + SectionText("OTHER", "");
+  const TagStream stream(text, Form::kText);
+  SectionMap map(stream);
+  map.All();
+  EXPECT_THAT(FlawsOf(map), ElementsAre(first.size()));
+  EXPECT_EQ(map.Find("BLOCKS")->end, text.find("  0\nENDSEC"));
+}
+
+TEST(SectionMap, NotesReferencesAsFarAsItWent) {
+  const std::string insert = "  0\nINSERT\n  2\nDoor\n";
+  const std::string text = SectionText("BLOCKS", insert) +
+                           SectionText("ENTITIES", "  0\nLINE\n" + insert) +
+                           SectionText("OTHER", insert);
+  const TagStream stream(text, Form::kText);
+  SectionMap map(stream);
+  const std::size_t first = text.find(insert);
+  const std::size_t second = text.find(insert, first + 1);
+  map.Find("BLOCKS");
+  EXPECT_THAT(map.references(), ElementsAre(first));
+  map.Find("ENTITIES");
+  EXPECT_THAT(map.references(), ElementsAre(first, second));
+}
+
 TEST(SectionMap, OfTwoSectionsOfANameTheFirstIsFound) {
   const std::string text =
       SectionText("HEADER", "  9\n$A\n  1\n1\n") + SectionText("HEADER", "  9\n$B\n  1\n2\n");

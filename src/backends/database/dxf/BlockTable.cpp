@@ -31,6 +31,38 @@ Number NumberOf(const std::vector<std::pair<Key, Number>>& entries, const Key& k
 constexpr auto kSameName = [](const auto& a, const auto& b) { return a.first == b.first; };
 constexpr auto kNameOrder = [](const auto& a, const auto& b) { return a.first < b.first; };
 
+// What the extended data of a record tells of dynamic blocks.
+class DynamicData {
+ public:
+  explicit DynamicData(const BlockSource& source) : source_(source) {}
+
+  void Take(const Tag& tag) {
+    if (tag.code == kApplicationCode) {
+      const std::wstring application = source_.nameOf(tag.value);
+      isTrueName_ = CompareIgnoringCase(application, kTrueNameApplication) == 0;
+      isVariation_ = CompareIgnoringCase(application, kVariationApplication) == 0;
+      isDynamic_ = isDynamic_ || isTrueName_;
+    } else if (isTrueName_ && tag.code == kExtendedTextCode && trueName_.value.empty()) {
+      trueName_ = tag;
+    } else if (isVariation_ && tag.code == kExtendedHandleCode && original_ == 0) {
+      original_ = ParseHandle(tag.value);
+    }
+  }
+
+  bool isDynamic() const { return isDynamic_; }
+  // Empty if there is none.
+  const Tag& trueName() const { return trueName_; }
+  std::uint64_t original() const { return original_; }
+
+ private:
+  const BlockSource& source_;
+  bool isTrueName_ = false;
+  bool isVariation_ = false;
+  bool isDynamic_ = false;
+  Tag trueName_;
+  std::uint64_t original_ = 0;
+};
+
 }  // namespace
 
 BlockTable::BlockTable(const BlockSource& source, const std::vector<model::ObjectKey>& records,
@@ -61,40 +93,27 @@ void BlockTable::ReadRecord(const BlockSource& source, model::ObjectKey key,
   const ObjectStart start = source.stream->ObjectAt(static_cast<std::size_t>(key));
   GroupedTags tags(*source.stream, start.body);
   HeadReader head(source.stream->form());
+  DynamicData data(source);
   std::wstring name;
-  std::wstring trueName;
-  std::wstring application;
   Tag tag;
   while (tags.Next(tag)) {
     head.Take(tags, tag);
     if (!tags.IsOwn()) continue;
-    if (tag.code == kNameCode && name.empty()) {
-      name = source.nameOf(tag.value);
-    } else if (tag.code == kLayoutCode) {
-      block.isLayout = block.isLayout || ParseHandle(tag.value) != 0;
-    } else if (tag.code == kApplicationCode) {
-      application = source.nameOf(tag.value);
-      if (CompareIgnoringCase(application, kTrueNameApplication) == 0) block.isDynamic = true;
-    } else if (tag.code == kExtendedTextCode && block.trueNameAt == kNowhere) {
-      if (CompareIgnoringCase(application, kTrueNameApplication) != 0) continue;
-      trueName = source.nameOf(tag.value);
-      block.trueNameAt = tag.at;
-    } else if (tag.code == kExtendedHandleCode && block.original == 0) {
-      if (CompareIgnoringCase(application, kVariationApplication) != 0) continue;
-      block.original = ParseHandle(tag.value);
-    }
+    data.Take(tag);
+    if (tag.code == kNameCode && name.empty()) name = source.nameOf(tag.value);
+    if (tag.code == kLayoutCode) block.isLayout = block.isLayout || ParseHandle(tag.value) != 0;
   }
   source.warnOfDamage(tags.tags().damagedAt());
   block.handle = head.head().handle;
   block.extension = head.head().extension;
+  block.original = data.original();
   block.isLayout = block.isLayout || IsSpaceName(name);
+  if (data.isDynamic()) block.isDynamic = true;
   // Later versions keep the true name in the record, where it may have been changed.
-  const bool hasOther =
-      source.version < model::kVersion1024 && name.starts_with(kAnonymous) && !trueName.empty();
-  if (hasOther) {
-    trueNames.emplace_back(FoldCase(trueName), number);
-  } else {
-    block.trueNameAt = kNowhere;
+  if (source.version < model::kVersion1024 && name.starts_with(kAnonymous) &&
+      !data.trueName().value.empty()) {
+    block.trueNameAt = data.trueName().at;
+    trueNames.emplace_back(FoldCase(source.nameOf(data.trueName().value)), number);
   }
   if (!name.empty()) names_.emplace_back(FoldCase(name), number);
 }
@@ -106,7 +125,6 @@ std::vector<BlockTable::Begin> BlockTable::ReadSection(const BlockSource& source
   bool isOpen = false;
   ObjectStart start = stream.NextObject(section.begin);
   for (; start.Found() && start.at < section.end; start = stream.NextObject(start.body)) {
-    if (start.type == kInsert) references_.push_back(start.at);
     const bool isBegin = start.type == kBlock;
     if (!isBegin && start.type != kEndOfBlock) continue;
     if (isOpen) begins.back().end = start.at;

@@ -74,8 +74,6 @@ class BlockTable {
 
   // The variations of the dynamic block with that handle, in table order.
   std::vector<model::ObjectKey> Variations(std::uint64_t handle) const;
-  // Where references begin in the BLOCKS section.
-  const std::vector<std::size_t>& references() const { return references_; }
 
   // Whether `name` is that of model space or a paper.
   static bool IsSpaceName(std::wstring_view name);
@@ -111,7 +109,6 @@ class BlockTable {
 
   std::vector<Block> blocks_;
   std::vector<model::ObjectKey> order_;
-  std::vector<std::size_t> references_;
   Number modelSpace_ = kNone;
   Number paperSpace_ = kNone;
 

@@ -4,7 +4,6 @@
 #include "backends/database/dxf/DxfDrawing.h"
 #include "backends/database/dxf/GroupedTags.h"
 #include "backends/database/dxf/Tokens.h"
-#include "base/CaseFold.h"
 
 namespace zdx::dxf {
 namespace {
@@ -40,7 +39,12 @@ BlockSource DxfDrawing::SourceOfBlocks() {
 
 const ReferenceIndex& DxfDrawing::References() {
   if (!references_) {
-    references_.emplace(SourceOfBlocks(), Blocks(), SectionsOfEntities().entities);
+    SectionsOfEntities();
+    std::vector<std::size_t> places;
+    for (const std::size_t at : sections_.references()) {
+      if (IsAmongEntities(at)) places.push_back(at);
+    }
+    references_.emplace(SourceOfBlocks(), Blocks(), places);
   }
   return *references_;
 }

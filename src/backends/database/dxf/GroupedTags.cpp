@@ -9,10 +9,10 @@ bool GroupedTags::Next(Tag& tag) {
   while (tags_.Next(tag)) {
     if (tag.code == kGroupCode) {
       const std::string_view mark = Trimmed(tag.value);
-      group_ = mark == kGroupEnd ? std::string_view() : mark;
+      group_ = mark.starts_with(kGroupBegin) ? mark : std::string_view();
       continue;
     }
-    if (tag.code == kSubclassCode) group_ = {};
+    if (tag.code == kSubclassCode || tag.code == kApplicationCode) group_ = {};
     return true;
   }
   return false;

@@ -8,7 +8,7 @@
 namespace zdx::dxf {
 
 // An application's group begins and ends with a tag of code 102.  A group that isn't closed ends at
-// the next subclass marker.
+// the next subclass marker, or where extended data begins.
 class GroupedTags {
  public:
   GroupedTags(const TagStream& stream, std::size_t body) : tags_(stream, body) {}

@@ -7,7 +7,6 @@
 #include <tuple>
 
 #include "backends/database/dxf/GroupedTags.h"
-#include "backends/database/dxf/Tokens.h"
 
 namespace zdx::dxf {
 namespace {
@@ -38,7 +37,7 @@ class NamedBlocks {
   std::array<Known, 64> known_ = {};
 };
 
-// Behind all handles comes 0, which is none.
+// 0, which is no handle, becomes the greatest.
 auto OrderOf(const ReferenceIndex::Reference& reference) {
   return std::tuple(reference.block, reference.handle - 1, reference.at);
 }
@@ -60,26 +59,20 @@ ReferenceTags ReadReference(const TagStream& stream, std::size_t body) {
 }
 
 ReferenceIndex::ReferenceIndex(const BlockSource& source, const BlockTable& blocks,
-                               const std::optional<Section>& entities) {
+                               const std::vector<std::size_t>& references) {
   const TagStream& stream = *source.stream;
   NamedBlocks named(source, blocks);
-  const auto add = [&](const ObjectStart& start) {
-    const ReferenceTags tags = ReadReference(stream, start.body);
+  references_.reserve(references.size());
+  for (const std::size_t at : references) {
+    const ReferenceTags tags = ReadReference(stream, stream.ObjectAt(at).body);
     source.warnOfDamage(tags.damagedAt);
     const Block* const block = tags.name ? named.Find(tags.name->value) : nullptr;
     if (block != nullptr) {
-      references_.push_back({block, tags.handle, start.at});
+      references_.push_back({block, tags.handle, at});
     } else if (tags.name) {
-      source.warn(L"A reference names a block that the drawing doesn't have.", start.at);
+      source.warn(L"A reference names a block that the drawing doesn't have.", at);
     } else if (tags.damagedAt == kNowhere) {
-      source.warn(L"A reference names no block.", start.at);
-    }
-  };
-  for (const std::size_t at : blocks.references()) add(stream.ObjectAt(at));
-  if (entities) {
-    ObjectStart start = stream.NextObject(entities->begin);
-    for (; start.Found() && start.at < entities->end; start = stream.NextObject(start.body)) {
-      if (start.type == kInsert) add(start);
+      source.warn(L"A reference names no block.", at);
     }
   }
   std::sort(references_.begin(), references_.end(),

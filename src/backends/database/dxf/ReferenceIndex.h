@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <optional>
 #include <span>
-#include <string>
 #include <vector>
 
 #include "backends/database/dxf/BlockTable.h"
@@ -30,10 +29,9 @@ class ReferenceIndex {
   };
 
   ReferenceIndex() = default;
-  // Goes over the references of the section of blocks, and once over `entities`.  `blocks` must
-  // outlive the index.
+  // Reads the references at the places `references`.  `blocks` must outlive the index.
   ReferenceIndex(const BlockSource& source, const BlockTable& blocks,
-                 const std::optional<Section>& entities);
+                 const std::vector<std::size_t>& references);
 
   // Those of one block by their handles, then those without one by their places.
   std::span<const Reference> Of(const Block& block) const;

@@ -1,5 +1,8 @@
 #include "backends/database/dxf/SectionMap.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "backends/database/dxf/Lines.h"
 #include "backends/database/dxf/Tokens.h"
 
@@ -36,10 +39,20 @@ bool SectionMap::FindNext() {
     }
     next_ = FindEnd(tags.at());
     sections_.push_back({Trimmed(name.value), tags.at(), next_});
+    if (ComesAgain(sections_.back().name)) {
+      flaws_.push_back({L"A section comes twice; the second is passed over.", start.at});
+    }
     return true;
   }
   complete_ = true;
   return false;
+}
+
+// Whether a section that is read has a name that another had before.
+bool SectionMap::ComesAgain(std::string_view name) {
+  const auto* const found = std::find(std::begin(kReadSections), std::end(kReadSections), name);
+  if (found == std::end(kReadSections)) return false;
+  return std::exchange(isFound_[static_cast<std::size_t>(found - std::begin(kReadSections))], true);
 }
 
 // The place of the section's end mark, or of whatever ends it for want of one.
@@ -53,6 +66,7 @@ std::size_t SectionMap::FindEnd(std::size_t from) {
       flaws_.push_back({L"A section lacks its end; the file may have been cut.", end});
       return end;
     }
+    if (start.type == kInsert) references_.push_back(start.at);
     from = start.body;
   }
 }

@@ -1,11 +1,14 @@
 // Where the sections of a file lie.
 #pragma once
 
+#include <array>
+#include <iterator>
 #include <optional>
 #include <string_view>
 #include <vector>
 
 #include "backends/database/dxf/TagStream.h"
+#include "backends/database/dxf/Tokens.h"
 
 namespace zdx::dxf {
 
@@ -33,16 +36,23 @@ class SectionMap {
     std::size_t at;
   };
   const std::vector<Flaw>& flaws() const { return flaws_; }
+  // Where references of blocks begin in the sections that were found, in order.  They are noted on
+  // the way, since to look for them alone costs as much again.
+  const std::vector<std::size_t>& references() const { return references_; }
 
  private:
   bool FindNext();
   std::size_t FindEnd(std::size_t from);
+  bool ComesAgain(std::string_view name);
 
   const TagStream* stream_;
   std::size_t next_;
   bool complete_ = false;
   std::vector<Section> sections_;
+  // Which of those that are read were found.
+  std::array<bool, std::size(kReadSections)> isFound_ = {};
   std::vector<Flaw> flaws_;
+  std::vector<std::size_t> references_;
 };
 
 }  // namespace zdx::dxf

@@ -36,6 +36,11 @@ inline constexpr std::string_view kEntitiesSection = "ENTITIES";
 inline constexpr std::string_view kObjectsSection = "OBJECTS";
 inline constexpr std::string_view kThumbnailSection = "THUMBNAILIMAGE";
 
+// All of them.
+inline constexpr std::string_view kReadSections[] = {
+    kHeaderSection,   kClassesSection, kTablesSection,   kBlocksSection,
+    kEntitiesSection, kObjectsSection, kThumbnailSection};
+
 // Records of the symbol tables.
 inline constexpr std::string_view kLayerRecord = "LAYER";
 inline constexpr std::string_view kLinetypeRecord = "LTYPE";
@@ -53,10 +58,10 @@ inline constexpr std::string_view kVertex = "VERTEX";
 inline constexpr std::string_view kAttributeMarker = "AcDbAttribute";
 inline constexpr std::string_view kAttributeDefinitionMarker = "AcDbAttributeDefinition";
 
-// Groups of applications, by their first tag.
+// Groups of applications, by their first tag; they all begin with a brace.
+inline constexpr char kGroupBegin = '{';
 inline constexpr std::string_view kExtensionGroup = "{ACAD_XDICTIONARY";
 inline constexpr std::string_view kReferencesGroup = "{BLKREFS";
-inline constexpr std::string_view kGroupEnd = "}";
 
 // Objects.
 inline constexpr std::string_view kDictionary = "DICTIONARY";
