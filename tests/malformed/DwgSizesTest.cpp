@@ -132,6 +132,45 @@ TEST(DwgSizes, ADictionaryOfMillionsOfEntriesFromFewBytes) {
   }
 }
 
+// 2000 layers by turns on 40 pages of a mebibyte, which are more than are kept: each page would be
+// decompressed again for each of its layers.
+TEST(DwgSizes, LargePagesThatAreWantedByTurns) {
+  constexpr std::uint64_t kPages = 40;
+  constexpr std::uint64_t kSlot = 64;
+  static const dwg::Writing writing;
+  drawing::DrawingSpec drawingSpec = damage::Sound("AC1018");
+  for (int i = 0; i < 2000; ++i) drawingSpec.layers.emplace_back("L" + std::to_string(i));
+  dwg::Drawing drawing(drawingSpec, writing);
+  dwg::WriteTables(drawing);
+  dwg::WriteBlocks(drawing);
+  dwg::WriteRootDictionary(drawing);
+  dwg::RecordArea area = dwg::LayOut(drawing.records, 4);
+  PagedSpec spec = PagesOf(drawing);
+  PagedPart& objects = Part(spec, "AcDb:AcDbObjects");
+  // What stands there still comes first, then the layers' records once more.
+  std::vector<std::string> pages(kPages);
+  std::string first = std::string(4, '\0') + area.bytes;
+  for (std::size_t i = 0; i < drawing.layers.size(); ++i) {
+    const dwg::Handle handle = drawing.layers[i].handle;
+    std::string& page = pages[i % kPages];
+    area.offsets[handle] = (1 + i % kPages) * kMebibyte + page.size();
+    page += handmade::Padded(drawing.records.at(handle), kSlot * 2);
+  }
+  objects.pageSize = kMebibyte;
+  objects.size = (1 + kPages) * kMebibyte;
+  objects.pages = {{handmade::OneRun(handmade::Padded(first, kMebibyte)), 0}};
+  for (std::uint64_t i = 0; i < kPages; ++i) {
+    objects.pages.push_back(
+        {Repeating(handmade::Padded(pages[i], 16000), kMebibyte), (1 + i) * kMebibyte});
+  }
+  PagedPart& map = Part(spec, "AcDb:Handles");
+  const std::string bytes = dwg::ObjectMap(area.offsets, 2032);
+  map.size = bytes.size();
+  map.pages = {{handmade::OneRun(handmade::Padded(bytes, 0x7400)), 0}};
+  const Outcome outcome = ReadAtFairCost(MakePaged(spec).bytes);
+  EXPECT_GT(outcome.reading.Texts(L"Layer Name").size(), 400u);
+}
+
 // A table that names two objects by turns, of two pages of the map that are slow to decode.
 TEST(DwgSizes, ATableThatLeapsBetweenPagesOfTheMap) {
   const std::string bytes = damage::DwgWith(damage::Sound("AC1032"), [](dwg::Drawing& drawing) {

@@ -3,27 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <memory>
-#include <variant>
 
 #include "ZDXEngine/Utf8.h"
-#include "backends/database/dwg/DwgDrawing.h"
-#include "support/Paths.h"
-#include "support/Scratch.h"
-#include "support/dwg/DwgMaker.h"
+#include "formats/dwg/OpenDrawing.h"
 
 namespace {
 
 using zdx::model::Drawing;
 using zdx::model::TableKind;
-
-std::unique_ptr<Drawing> Opened(const drawing::DrawingSpec& spec) {
-  const zdx_test::ScratchFile file(dwg::Make(spec));
-  auto mapped = zdx::file::MappedFile::Open(zdx_test::NameOf(file.path()));
-  auto opened = zdx::dwg::DwgDrawing::Open(std::move(std::get<zdx::file::MappedFile>(mapped)),
-                                           std::make_shared<zdx::model::Report>());
-  return std::move(std::get<std::unique_ptr<Drawing>>(opened));
-}
 
 std::vector<std::string> Names(Drawing& drawing, TableKind table) {
   std::vector<std::string> names;
@@ -51,20 +38,20 @@ class BlockNames : public testing::TestWithParam<const char*> {
 
 TEST_P(BlockNames, OfAnonymousBlocksAreWhole) {
   spec.blocks = {{"*D3"}, {"*U17"}, {"*T5"}};
-  const std::unique_ptr<Drawing> drawing = Opened(spec);
+  OpenDrawing drawing(spec);
   EXPECT_THAT(Names(*drawing, TableKind::kBlock), testing::IsSupersetOf({"*D3", "*U17", "*T5"}));
 }
 
 TEST_P(BlockNames, OfDynamicBlocksAreTheirOwn) {
   spec.blocks = {{"GATE"}};
   spec.blocks[0].isDynamic = true;
-  const std::unique_ptr<Drawing> drawing = Opened(spec);
+  OpenDrawing drawing(spec);
   EXPECT_THAT(Names(*drawing, TableKind::kBlock), testing::Contains("GATE"));
 }
 
 TEST_P(BlockNames, BeginWithModelAndPaperSpace) {
   spec.blocks = {{"A"}};
-  const std::unique_ptr<Drawing> drawing = Opened(spec);
+  OpenDrawing drawing(spec);
   ASSERT_GE(drawing->TableRecords(TableKind::kBlock).size(), 3u);
   const auto& records = drawing->TableRecords(TableKind::kBlock);
   EXPECT_TRUE(drawing->HasName(TableKind::kBlock, records[0], L"*Model_Space"));
@@ -80,7 +67,7 @@ TEST(NamesInCapitals, AreToldSoAndFoundByTheirTrueSpellingToo) {
   drawing::DrawingSpec spec;
   spec.version = "AC1014";
   spec.layers = {"0", "Outer walls"};
-  const std::unique_ptr<Drawing> drawing = Opened(spec);
+  OpenDrawing drawing(spec);
   EXPECT_THAT(Names(*drawing, TableKind::kLayer), testing::ElementsAre("0", "OUTER_WALLS"));
   EXPECT_TRUE(HasRecord(*drawing, TableKind::kLayer, L"outer_walls"));
   EXPECT_TRUE(HasRecord(*drawing, TableKind::kLayer, L"Outer Walls"));

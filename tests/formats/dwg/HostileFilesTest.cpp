@@ -8,6 +8,7 @@
 #include "backends/database/dwg/records/ObjectMap.h"
 #include "base/LittleEndian.h"
 #include "formats/dwg/LayersOf.h"
+#include "formats/dwg/OpenDrawing.h"
 #include "support/dwg/Bytes.h"
 #include "support/dwg/Checksums.h"
 #include "support/dwg/Compression.h"
@@ -15,6 +16,7 @@
 #include "support/dwg/Drawing.h"
 #include "support/dwg/DwgMaker.h"
 #include "support/dwg/Record.h"
+#include "support/dwg/Types.h"
 
 namespace {
 
@@ -165,6 +167,104 @@ TEST(HostileFiles, APageMapLongerThanTheFileIsNotFollowed) {
   EXPECT_EQ(LayersOf(WithLongPageMap(sound, 0)).warnings, 0u);
   const Told told = LayersOf(WithLongPageMap(sound, 200000));
   EXPECT_THAT(told.names, testing::ElementsAre(L"0"));
+}
+
+// The drawing's records changed before they are put into a file of AC1018.
+OpenDrawing PagedWith(const drawing::DrawingSpec& spec,
+                      const std::function<void(dwg::Drawing& drawing)>& change) {
+  const dwg::Writing writing;
+  dwg::Drawing drawing(spec, writing);
+  dwg::WriteTables(drawing);
+  dwg::WriteBlocks(drawing);
+  dwg::WriteRootDictionary(drawing);
+  dwg::WriteLayouts(drawing);
+  change(drawing);
+  return OpenDrawing(dwg::PagedFile(drawing));
+}
+
+// A block that names `handle` so many times, as an entity or as a reference.
+void NameManyTimes(dwg::Drawing& drawing, dwg::PlannedBlock& block, dwg::Handle handle, int times,
+                   bool isReference) {
+  dwg::Fields fields = drawing.NewFields(block.record);
+  dwg::BeginObject(fields, drawing.roots.blocks);
+  fields.T(block.name);
+  fields.B(true);
+  fields.BS(0);
+  for (int i = 0; i < 6; ++i) fields.B(false);
+  fields.BL(isReference ? 0 : times);
+  fields.Point3(0.0, 0.0);
+  fields.T("");
+  for (int i = 0; i < times && isReference; ++i) fields.RC(1);
+  fields.RC(0);
+  fields.T("");
+  fields.BL(0);
+  fields.H(dwg::Link::HardPointer, 0);
+  fields.H(dwg::Link::HardOwner, block.begin);
+  for (int i = 0; i < times && !isReference; ++i) fields.H(dwg::Link::HardOwner, handle);
+  fields.H(dwg::Link::HardOwner, block.end);
+  for (int i = 0; i < times && isReference; ++i) fields.H(dwg::Link::SoftPointer, handle);
+  fields.H(dwg::Link::HardPointer, 0);
+  const dwg::RecordHead head{static_cast<unsigned>(dwg::Type::BlockRecord)};
+  drawing.records[block.record] = dwg::AssembleRecord(head, fields);
+}
+
+drawing::DrawingSpec BlocksAndInsert() {
+  drawing::DrawingSpec spec;
+  spec.version = "AC1018";
+  spec.blocks = {{.name = "A"}, {.name = "B"}, {.name = "C"}, {.name = "D"}};
+  spec.entities = {drawing::Insert("A", {{.tag = "FIRST"}, {.tag = "SECOND"}})};
+  spec.entities[0].handle = "50";
+  return spec;
+}
+
+// Three blocks name one entity half a million times each: more than a file of that size can hold.
+TEST(HostileFiles, ListsOfBlocksTellNoMoreThanADrawingHas) {
+  constexpr int kTimes = 480000;
+  OpenDrawing opened = PagedWith(BlocksAndInsert(), [](dwg::Drawing& drawing) {
+    for (dwg::PlannedBlock& block : drawing.blocks) {
+      if (block.spec != nullptr) NameManyTimes(drawing, block, 0x50, kTimes, false);
+    }
+  });
+  std::size_t told = 0;
+  for (const wchar_t* name : {L"A", L"B", L"C", L"D"}) {
+    told += opened->BlockEntities(opened.Block(name)).size();
+  }
+  EXPECT_GE(told, std::size_t{kTimes});
+  EXPECT_LE(told, std::size_t{3 * kTimes});
+  EXPECT_GE(opened.report->warningCount, 1u);
+  // Who asks again gets the same.
+  EXPECT_EQ(opened->BlockEntities(opened.Block(L"A")).size(), std::size_t{kTimes});
+}
+
+TEST(HostileFiles, AReferenceThatABlockListsManyTimesIsToldOnce) {
+  OpenDrawing opened = PagedWith(BlocksAndInsert(), [](dwg::Drawing& drawing) {
+    NameManyTimes(drawing, *drawing.BlockNamed("A"), 0x50, 50000, true);
+  });
+  EXPECT_EQ(opened->BlockReferences(opened.Block(L"A")).size(), 1u);
+}
+
+TEST(HostileFiles, AttributesThatReferencesShareAreToldOfOneOfThemAndOnce) {
+  drawing::DrawingSpec spec = BlocksAndInsert();
+  spec.entities[0].attributes[0].handle = "60";
+  spec.entities.push_back(drawing::Insert("A"));
+  spec.entities[1].handle = "51";
+  OpenDrawing opened = PagedWith(spec, [](dwg::Drawing& drawing) {
+    for (const dwg::Handle insert : {0x50, 0x51}) {
+      dwg::Fields fields = drawing.NewFields(insert);
+      dwg::BeginEntity(drawing, fields, {}, {1, dwg::Space::Model}, {});
+      fields.Point3(0.0, 0.0);
+      fields.BB(3);
+      fields.BD(0.0);
+      fields.Point3(0.0, 0.0, 1.0);
+      fields.B(true);
+      fields.BL(50000);
+      fields.H(dwg::Link::HardPointer, drawing.BlockNamed("A")->record);
+      for (int i = 0; i < 50000; ++i) fields.H(dwg::Link::HardOwner, 0x60);
+      drawing.AddEntity(dwg::Type::Insert, fields);
+    }
+  });
+  EXPECT_EQ(opened->ReadBlockReference(model::ObjectKey{0x50}).attributes.size(), 1u);
+  EXPECT_EQ(opened->ReadBlockReference(model::ObjectKey{0x51}).attributes.size(), 0u);
 }
 
 }  // namespace

@@ -38,13 +38,12 @@ class RingWatch {
   std::uint64_t left_ = 1;
 };
 
-// Takes out what stands in it again, and keeps the order.
+}  // namespace
+
 void KeepFirstOfEach(std::vector<model::ObjectKey>& keys) {
   std::unordered_set<model::ObjectKey> known;
   std::erase_if(keys, [&known](model::ObjectKey key) { return !known.insert(key).second; });
 }
-
-}  // namespace
 
 std::optional<DwgDrawing::Object> DwgDrawing::ReadBlock(model::Handle handle,
                                                         const Question& question,
@@ -97,13 +96,22 @@ std::vector<model::ObjectKey> DwgDrawing::BlockEntities(model::ObjectKey block) 
   if (!record) return {};
   if (!hasList) return Chain(handle, record->fields);
   std::vector<model::ObjectKey> entities;
-  for (const model::Handle owned : record->fields.Handles(Key::kOwned)) {
+  for (const model::Handle owned : Listed(entityLists_, handle, record->fields, Key::kOwned)) {
     const std::optional<Kind> kind = KindOf(owned);
     if (kind && kind->isEntity && !IsPartOfEntity(kind->type)) {
       entities.push_back(model::ObjectKey{owned});
     }
   }
   return entities;
+}
+
+const std::vector<model::Handle>& DwgDrawing::Listed(ListBudget& budget, model::Handle block,
+                                                     const FieldValues& fields, Key list) {
+  static const std::vector<model::Handle> none;
+  const std::vector<model::Handle>& handles = fields.Handles(list);
+  if (budget.Take(block, handles.size())) return handles;
+  Warn(L"The blocks of the drawing name more objects than it has.", block);
+  return none;
 }
 
 // The entities of a block, or the attributes of a reference, where each names the one behind it.

@@ -50,7 +50,11 @@ std::variant<std::unique_ptr<model::Drawing>, Refusal> DwgDrawing::Open(
 }
 
 DwgDrawing::DwgDrawing(file::MappedFile file, Format format, std::shared_ptr<model::Report> report)
-    : file_(std::move(file)), format_(format), report_(std::move(report)) {}
+    : file_(std::move(file)),
+      format_(format),
+      report_(std::move(report)),
+      entityLists_{Budget::OfObjects(file_.bytes().size())},
+      referenceLists_{Budget::OfObjects(file_.bytes().size())} {}
 
 void DwgDrawing::ReportHead(const FileHead& head) {
   const std::string_view magic = file_.bytes().substr(0, kMagicSize);

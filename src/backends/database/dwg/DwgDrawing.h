@@ -27,6 +27,9 @@
 
 namespace zdx::dwg {
 
+// Takes out of `keys` what stands in it again.
+void KeepFirstOfEach(std::vector<model::ObjectKey>& keys);
+
 // Keeps the file mapped and reads sections and records when they are asked for.  An object's key is
 // its handle.
 class DwgDrawing : public model::Drawing {
@@ -80,6 +83,16 @@ class DwgDrawing : public model::Drawing {
     bool whole = false;
   };
 
+  // For what blocks list: no object stands in two lists of a kind.  Each block pays once.
+  struct ListBudget {
+    Budget left;
+    std::unordered_set<model::Handle> paid = {};
+
+    bool Take(model::Handle block, std::uint64_t count) {
+      return paid.contains(block) || (left.Take(count) && paid.insert(block).second);
+    }
+  };
+
   DwgDrawing(file::MappedFile file, Format format, std::shared_ptr<model::Report> report);
 
   void ReportHead(const FileHead& head);
@@ -115,6 +128,9 @@ class DwgDrawing : public model::Drawing {
   };
   const Spaces& SpaceRecords();
   model::Handle OwnerOf(const Object& entity);
+  // The objects in the list of a block; none, which is told, if they are too many.
+  const std::vector<model::Handle>& Listed(ListBudget& budget, model::Handle block,
+                                           const FieldValues& fields, Key list);
   std::vector<model::ObjectKey> Chain(model::Handle owner, const FieldValues& fields);
   bool AnyBlockListsReferences();
   void FindReferences();
@@ -150,6 +166,8 @@ class DwgDrawing : public model::Drawing {
 
   // Of the records, which a damaged file may let overlap each other.
   std::optional<Budget> recordBytes_;
+  ListBudget entityLists_;
+  ListBudget referenceLists_;
   // The objects whose records were read, and whose the parts of others are.
   std::unordered_set<model::Handle> read_;
   std::unordered_map<model::Handle, model::Handle> owners_;
@@ -169,7 +187,7 @@ class DwgDrawing : public model::Drawing {
   };
   std::optional<std::vector<Reference>> references_;
   std::map<model::Handle, std::wstring> applicationNames_;
-  // The blocks that carry variations, in table order, and the dynamic block of each.
+  // The blocks that carry variations, by the dynamic block of each, then in table order.
   struct Variation {
     model::ObjectKey block{};
     model::Handle dynamicBlock = 0;

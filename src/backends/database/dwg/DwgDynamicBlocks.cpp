@@ -1,4 +1,6 @@
 // Dynamic blocks, and the blocks that carry their variations.
+#include <algorithm>
+
 #include "backends/database/dwg/DwgDrawing.h"
 #include "backends/database/dwg/Tokens.h"
 #include "backends/database/dwg/records/ExtendedData.h"
@@ -16,12 +18,13 @@ bool DwgDrawing::IsDynamicBlock(model::ObjectKey block) {
 
 std::vector<model::ObjectKey> DwgDrawing::AnonymousCopies(model::ObjectKey block) {
   FindVariations();
+  const auto handle = static_cast<model::Handle>(block);
   std::vector<model::ObjectKey> copies;
-  for (const Variation& variation : *variations_) {
-    if (variation.dynamicBlock == static_cast<model::Handle>(block)) {
-      copies.push_back(variation.block);
-    }
-  }
+  auto at = std::lower_bound(variations_->begin(), variations_->end(), handle,
+                             [](const Variation& variation, model::Handle wanted) {
+                               return variation.dynamicBlock < wanted;
+                             });
+  for (; at != variations_->end() && at->dynamicBlock == handle; ++at) copies.push_back(at->block);
   return copies;
 }
 
@@ -33,6 +36,10 @@ void DwgDrawing::FindVariations() {
     const auto dynamicBlock = data ? FirstReference(*data, format_) : std::nullopt;
     if (dynamicBlock) variations_->push_back({record, *dynamicBlock});
   }
+  std::stable_sort(variations_->begin(), variations_->end(),
+                   [](const Variation& left, const Variation& right) {
+                     return left.dynamicBlock < right.dynamicBlock;
+                   });
 }
 
 std::optional<std::string> DwgDrawing::DataOf(model::Handle handle, std::wstring_view application) {

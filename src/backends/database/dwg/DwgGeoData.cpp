@@ -1,4 +1,6 @@
 // Where the drawing lies on the earth.
+#include <utility>
+
 #include "backends/database/dwg/DwgDrawing.h"
 #include "backends/database/dwg/Tokens.h"
 

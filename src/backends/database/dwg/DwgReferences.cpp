@@ -18,7 +18,8 @@ std::vector<model::ObjectKey> DwgDrawing::BlockReferences(model::ObjectKey block
     const std::optional<Object> record = ReadBlock(handle, {Key::kInserts, Key::kInserts});
     if (!record) return keys;
     std::unordered_set<model::Handle> known;
-    for (const model::Handle insert : record->fields.Handles(Key::kInserts)) {
+    const auto& inserts = Listed(referenceLists_, handle, record->fields, Key::kInserts);
+    for (const model::Handle insert : inserts) {
       if (!known.insert(insert).second) continue;
       // Lists name tables, too, which show a block of their own.
       const std::optional<Kind> kind = KindOf(insert);
@@ -88,8 +89,10 @@ model::BlockReference DwgDrawing::ReadBlockReference(model::ObjectKey entity) {
     return reference;
   }
   for (const model::Handle attribute : object->fields.Handles(Key::kAttributes)) {
-    if (const auto key = Find(attribute)) reference.attributes.push_back(*key);
+    const auto key = Find(attribute);
+    if (key && IsPartOf(handle, attribute)) reference.attributes.push_back(*key);
   }
+  KeepFirstOfEach(reference.attributes);
   return reference;
 }
 

@@ -3,6 +3,7 @@
 
 #include "backends/database/dwg/container/CodedContainer.h"
 #include "formats/dwg/Containers.h"
+#include "support/dwg/Compression.h"
 #include "support/handmade/CodedFile.h"
 #include "support/handmade/HandMade.h"
 
@@ -176,6 +177,25 @@ TEST(CodedContainer, AFileThatEndsWithinItsHeadPageIsARefusal) {
   for (const std::size_t size : {0x80u, 0x100u, 0x47Fu}) {
     EXPECT_EQ(OpenedCoded(bytes.substr(0, size)).Refusal(), L"The file's header can't be read.");
   }
+}
+
+// 40 pages of a mebibyte, more than the cache holds.  The sums that are made with the file are
+// those of what is stored, and so wrong.
+TEST(CodedContainer, PagesThatAreWantedAgainAreReadAgainAndWhatIsWrongIsToldOnce) {
+  constexpr std::uint64_t kSize = 1 << 20;
+  constexpr std::uint64_t kCount = 40;
+  const std::string contents(kSize, 'x');
+  const std::string stored = ::dwg::CodedCompressed(contents, ::dwg::Squeeze::Repeats);
+  CodedSpec spec = Spec();
+  spec.parts[0] = {"AcDb:AcDbObjects", kCount * kSize, true, {}};
+  for (std::uint64_t i = 0; i < kCount; ++i) {
+    spec.parts[0].pages.push_back({stored, i * kSize, kSize, stored.size()});
+  }
+  Opened file = OpenedCoded(MakeCoded(spec).bytes);
+  for (std::uint64_t i = 0; i < 2 * kCount; ++i) {
+    EXPECT_EQ(file.Part(SectionId::kObjects, i % kCount * kSize + 7, 5), "xxxxx");
+  }
+  EXPECT_THAT(file.Warnings(), testing::SizeIs(kCount));
 }
 
 }  // namespace

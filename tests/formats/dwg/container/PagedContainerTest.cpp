@@ -239,5 +239,29 @@ TEST(PagedContainer, PagesMayStandInAnyOrder) {
             kFirstPaged + kSecondPaged.substr(0, 0x40));
 }
 
+// 64 pages of a mebibyte, of which the cache holds half, from a file of some hundred kilobytes; the
+// third is damaged.
+TEST(PagedContainer, ASectionFarLargerThanTheCacheIsReadAllTheSame) {
+  constexpr std::uint32_t kSize = 1 << 20;
+  constexpr std::uint64_t kCount = 64;
+  handmade::PagedSpec spec = Spec();
+  handmade::PagedPart part{.name = "AcDb:AcDbObjects", .size = kCount * kSize, .pageSize = kSize};
+  for (std::uint64_t i = 0; i < kCount; ++i) {
+    part.pages.push_back(
+        {handmade::Repeating(handmade::Noise(1000, static_cast<std::uint32_t>(i + 1)), kSize),
+         i * kSize});
+  }
+  spec.parts = {part};
+  const PagedBytes made = MakePaged(spec);
+  Opened file = OpenedPaged(Damaged(made.bytes, made.pages[2] + 0x0C));
+  for (int again = 0; again < 2; ++again) {
+    for (std::uint64_t i = 0; i < kCount; ++i) {
+      EXPECT_EQ(file.Part(SectionId::kObjects, i * kSize, 1000),
+                handmade::Noise(1000, static_cast<std::uint32_t>(i + 1)));
+    }
+  }
+  EXPECT_THAT(file.Warnings(), testing::SizeIs(1));
+}
+
 }  // namespace
 }  // namespace zdx::dwg

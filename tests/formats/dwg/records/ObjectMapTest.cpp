@@ -21,7 +21,7 @@ std::string Page(const std::string& entries) {
   return page + High16(handmade::SlowCrc16(page));
 }
 
-const std::string kEnd = Page("");
+const std::string kMapEnd = Page("");
 
 // Handles 5 and 7 at 100 and 36: steps 5 and 2, and 100 (two bytes for a positive 100) and -64.
 const std::string kFirstPage = Page("\x05\xE4\x00\x02\xC0\x40"s);
@@ -41,14 +41,14 @@ class ObjectMapTest : public testing::Test {
 };
 
 TEST_F(ObjectMapTest, AnEntryIsTheStepFromTheOneBefore) {
-  ObjectMap& found = Of(kFirstPage + kEnd);
+  ObjectMap& found = Of(kFirstPage + kMapEnd);
   EXPECT_EQ(found.Find(5), 100u);
   EXPECT_EQ(found.Find(7), 36u);
   EXPECT_THAT(TextsOf(report), IsEmpty());
 }
 
 TEST_F(ObjectMapTest, APageBeginsAnewFromZero) {
-  ObjectMap& found = Of(kFirstPage + kSecondPage + kEnd);
+  ObjectMap& found = Of(kFirstPage + kSecondPage + kMapEnd);
   EXPECT_EQ(found.Find(0x90), 10u);
   EXPECT_EQ(found.Find(7), 36u);
   EXPECT_EQ(found.Find(5), 100u);
@@ -69,15 +69,15 @@ Visits VisitsOf(ObjectMap& map, std::size_t most = 100) {
 }
 
 TEST_F(ObjectMapTest, EachHandleIsVisitedOnceByAscendingHandles) {
-  ObjectMap& found = Of(kFirstPage + kSecondPage + kEnd);
+  ObjectMap& found = Of(kFirstPage + kSecondPage + kMapEnd);
   EXPECT_EQ(VisitsOf(found), (Visits{{5, 100}, {7, 36}, {0x90, 10}}));
   EXPECT_EQ(VisitsOf(found, 2), (Visits{{5, 100}, {7, 36}}));
-  EXPECT_EQ(VisitsOf(Of(kSecondPage + kFirstPage + kFirstPage + kEnd)),
+  EXPECT_EQ(VisitsOf(Of(kSecondPage + kFirstPage + kFirstPage + kMapEnd)),
             (Visits{{5, 100}, {7, 36}, {0x90, 10}}));
 }
 
 TEST_F(ObjectMapTest, HandlesThatAreNotThereAreNotFound) {
-  ObjectMap& found = Of(kFirstPage + kSecondPage + kEnd);
+  ObjectMap& found = Of(kFirstPage + kSecondPage + kMapEnd);
   for (const model::Handle handle : {0u, 4u, 6u, 8u, 0x8Fu, 0x91u, 0xFFFFFFFFu}) {
     EXPECT_EQ(found.Find(handle), std::nullopt) << handle;
   }
@@ -99,7 +99,7 @@ TEST_F(ObjectMapTest, EveryHandleOfLongPagesIsFound) {
     for (int i = 1; i < 500; ++i) entries += "\x02\x06";
     bytes += Page(entries);
   }
-  ObjectMap& found = Of(bytes + kEnd);
+  ObjectMap& found = Of(bytes + kMapEnd);
   for (unsigned page = 0; page < 10; ++page) {
     for (unsigned i = 0; i < 1000; ++i) {
       const model::Handle handle = 0x1000 + page * 1000 + i;
@@ -111,7 +111,7 @@ TEST_F(ObjectMapTest, EveryHandleOfLongPagesIsFound) {
 }
 
 TEST_F(ObjectMapTest, PagesOutOfOrderAreReadAndTold) {
-  ObjectMap& found = Of(kSecondPage + kFirstPage + kEnd);
+  ObjectMap& found = Of(kSecondPage + kFirstPage + kMapEnd);
   EXPECT_EQ(found.Find(5), 100u);
   EXPECT_EQ(found.Find(7), 36u);
   EXPECT_EQ(found.Find(0x90), 10u);
@@ -121,7 +121,7 @@ TEST_F(ObjectMapTest, PagesOutOfOrderAreReadAndTold) {
 
 TEST_F(ObjectMapTest, AWrongCheckIsToldWithItsPlaceAndThePageRead) {
   const std::string damaged = handmade::Damaged(kSecondPage, kSecondPage.size() - 1);
-  ObjectMap& found = Of(kFirstPage + damaged + kEnd);
+  ObjectMap& found = Of(kFirstPage + damaged + kMapEnd);
   EXPECT_EQ(found.Find(5), 100u);
   EXPECT_THAT(TextsOf(report), IsEmpty());
   EXPECT_EQ(found.Find(0x90), 10u);
@@ -139,20 +139,20 @@ TEST_F(ObjectMapTest, AMapThatEndsEarlyKeepsItsPages) {
 }
 
 TEST_F(ObjectMapTest, AnEntryThatIsCutEndsItsPage) {
-  ObjectMap& found = Of(Page("\x05\xE4\x00\x02\xC0"s) + kSecondPage + kEnd);
+  ObjectMap& found = Of(Page("\x05\xE4\x00\x02\xC0"s) + kSecondPage + kMapEnd);
   EXPECT_EQ(found.Find(5), 100u);
   EXPECT_EQ(found.Find(7), std::nullopt);
   EXPECT_EQ(found.Find(0x90), 10u);
 }
 
 TEST_F(ObjectMapTest, AnEntryThatNeverEndsEndsItsPage) {
-  ObjectMap& found = Of(Page("\x05\x0A" + std::string(40, '\xFF')) + kEnd);
+  ObjectMap& found = Of(Page("\x05\x0A" + std::string(40, '\xFF')) + kMapEnd);
   EXPECT_EQ(found.Find(5), 10u);
   EXPECT_EQ(found.Find(6), std::nullopt);
 }
 
 TEST_F(ObjectMapTest, OfARepeatedHandleTheFirstCounts) {
-  EXPECT_EQ(Of(Page("\x05\x0A\x00\x01\x01\x01"s) + kEnd).Find(5), 10u);
+  EXPECT_EQ(Of(Page("\x05\x0A\x00\x01\x01\x01"s) + kMapEnd).Find(5), 10u);
 }
 
 }  // namespace

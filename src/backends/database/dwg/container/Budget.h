@@ -23,7 +23,7 @@ class Budget {
   static Budget OfRecords(std::uint64_t fileSize, std::uint64_t sectionSize) {
     return {std::uint64_t{32} << 20, std::clamp(sectionSize, 3 * fileSize, 64 * fileSize)};
   }
-  // For the objects that are looked at to find some of them.
+  // For the objects that are looked at to find some of them, or that lists name: each is so once.
   static Budget OfObjects(std::uint64_t fileSize) { return {std::uint64_t{1} << 20, fileSize}; }
 
   // For the pages of its sections: none is smaller than 32 bytes.

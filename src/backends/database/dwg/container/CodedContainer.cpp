@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <map>
+#include <set>
 #include <utility>
 
 #include "backends/database/dwg/container/CodedChecks.h"
@@ -66,8 +67,9 @@ class CodedContainer : public Container {
   std::vector<SectionPage> ReadPages(std::string_view list, const CodedSectionEntry& section);
   std::optional<PageBytes> ReadPage(const CodedSectionEntry& section, const SectionPage& page,
                                     bool again);
-  std::optional<PageBytes> ReadCodedPage(const SectionPage& page, bool again);
-  std::optional<Content> CodedPage(const SectionPage& page, bool mends);
+  std::optional<PageBytes> ReadCodedPage(const SectionPage& page);
+  std::optional<PageBytes> ReadCodedPageAgain(const SectionPage& page);
+  std::optional<Content> CodedPage(const SectionPage& page, bool mends, bool checks = true);
   std::optional<std::uint64_t> AddressOf(std::uint64_t page) const;
   void Warn(std::wstring text, std::uint64_t at) { report_.Warn({std::move(text), at, {}, {}}); }
 
@@ -76,6 +78,8 @@ class CodedContainer : public Container {
   // For the maps.
   Budget memory_;
   PageCache cache_;
+  // The pages that had to be mended.
+  std::set<std::int64_t> mended_;
   Budget reading_;
   Budget pagesLeft_;
   PageMap pageMap_;
@@ -241,7 +245,7 @@ std::optional<PageBytes> CodedContainer::ReadPage(const CodedSectionEntry& secti
     Warn(L"A page isn't in the file.", page.address);
     return std::nullopt;
   }
-  if (section.withParity) return ReadCodedPage(page, again);
+  if (section.withParity) return again ? ReadCodedPageAgain(page) : ReadCodedPage(page);
   const std::string_view behind = bytes_.substr(static_cast<std::size_t>(page.address));
   const bool isCompressed = page.storedSize < page.size;
   if (page.storedSize > behind.size() || (!again && !reading_.Take(page.storedSize)) ||
@@ -264,8 +268,8 @@ std::optional<PageBytes> CodedContainer::ReadPage(const CodedSectionEntry& secti
   return PageBytes{std::move(data.bytes), {}};
 }
 
-std::optional<PageBytes> CodedContainer::ReadCodedPage(const SectionPage& page, bool again) {
-  if ((!again && !reading_.Take(page.storedSize)) || !cache_.MakeRoom(page.size)) {
+std::optional<PageBytes> CodedContainer::ReadCodedPage(const SectionPage& page) {
+  if (!reading_.Take(page.storedSize) || !cache_.MakeRoom(page.size)) {
     Warn(kTooMuch, page.address);
     return std::nullopt;
   }
@@ -274,15 +278,15 @@ std::optional<PageBytes> CodedContainer::ReadCodedPage(const SectionPage& page, 
     Warn(L"A page isn't all in the file.", page.address);
     return std::nullopt;
   }
-  // Mending is slow, so that doing it again isn't free.
-  if (!content->right && (!again || reading_.Take(page.storedSize))) {
+  if (!content->right) {
     // A page may be large: there is never more than one form of it.
     content.reset();
     content = CodedPage(page, true);
     if (content->right) {
-      if (!again) Warn(L"A page is damaged; it was mended.", page.address);
+      Warn(L"A page is damaged; it was mended.", page.address);
+      mended_.insert(page.id);
     } else {
-      if (!again) Warn(L"The checksum of a page is wrong.", page.address);
+      Warn(L"The checksum of a page is wrong.", page.address);
       content.reset();
       content = CodedPage(page, false);
     }
@@ -290,8 +294,19 @@ std::optional<PageBytes> CodedContainer::ReadCodedPage(const SectionPage& page, 
   return PageBytes{std::move(content->bytes), {}};
 }
 
+// Its checks were looked at before.  Mending is slow, so that doing it again isn't free.
+std::optional<PageBytes> CodedContainer::ReadCodedPageAgain(const SectionPage& page) {
+  if (!cache_.MakeRoom(page.size)) {
+    Warn(kTooMuch, page.address);
+    return std::nullopt;
+  }
+  const bool mends = mended_.contains(page.id) && reading_.Take(page.storedSize);
+  std::optional<Content> content = CodedPage(page, mends, false);
+  return content ? std::optional(PageBytes{std::move(content->bytes), {}}) : std::nullopt;
+}
+
 // The content of a page with parity, and whether its two checks are right.
-std::optional<Content> CodedContainer::CodedPage(const SectionPage& page, bool mends) {
+std::optional<Content> CodedContainer::CodedPage(const SectionPage& page, bool mends, bool checks) {
   const std::string_view behind = bytes_.substr(static_cast<std::size_t>(page.address));
   if (page.storedSize > behind.size()) return std::nullopt;
   const std::uint64_t words = WordCount(RoundedUp(page.storedSize), ParityKind::kDataPage);
@@ -302,8 +317,8 @@ std::optional<Content> CodedContainer::CodedPage(const SectionPage& page, bool m
   const std::string_view stored =
       std::string_view(data).substr(0, static_cast<std::size_t>(page.storedSize));
   Decompressed expanded = Expanded(stored, page.size);
-  const bool right = expanded.whole && CodedPageSum(expanded.bytes) == page.checksum &&
-                     CodedPageCrc(stored) == page.crc;
+  const bool right = !checks || (expanded.whole && CodedPageSum(expanded.bytes) == page.checksum &&
+                                 CodedPageCrc(stored) == page.crc);
   return Content{std::move(expanded.bytes), right};
 }
 
