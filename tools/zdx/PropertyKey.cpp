@@ -76,7 +76,7 @@ std::optional<PropertyKey> KeyBehind(std::wstring_view prefix, std::wstring_view
   if (EqualsIgnoringAsciiCase(prefix, L"block")) return BlockKey(rest);
   for (const GroupKey& group : GroupKeys()) {
     if (!EqualsIgnoringAsciiCase(prefix, group.prefix)) continue;
-    const auto key = KeyOfGroup(group, rest);
+    auto key = KeyOfGroup(group, rest);
     if (!key) problem = L"'" + std::wstring(rest) + L"' isn't one of " + GroupNames(group);
     return key;
   }
@@ -90,9 +90,9 @@ std::optional<PropertyKey> ParseKey(std::string_view word, std::string& problem)
   const std::wstring_view key = wide;
   const std::size_t colon = key.find(L':');
   std::wstring why;
-  const auto parsed = colon == std::wstring_view::npos
-                          ? PlainKey(key)
-                          : KeyBehind(key.substr(0, colon), key.substr(colon + 1), why);
+  auto parsed = colon == std::wstring_view::npos
+                    ? PlainKey(key)
+                    : KeyBehind(key.substr(0, colon), key.substr(colon + 1), why);
   if (!parsed) problem = ZDXEngine::BytesFromWide(why.empty() ? NoSuchKey(key) : why);
   return parsed;
 }
