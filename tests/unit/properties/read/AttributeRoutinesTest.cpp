@@ -188,10 +188,12 @@ TEST_F(BlocksByName, AConstantsBlockIsItsOwnerAndIsClosed) {
 
 TEST_F(BlocksByName, AConstantWhoseBlockHasNoNameIsNotAdded) {
   Ask(L"Door");
+  Ask(L"");
   world.Fail("getName", 5);
   AddConstant(maker, false);
   EXPECT_THAT(properties, IsEmpty());
   EXPECT_FALSE(filters[0].matched);
+  EXPECT_FALSE(filters[1].matched);
 }
 
 TEST_F(BlocksByName, AConstantWhoseBlockDoesNotOpenIsNotAdded) {
@@ -244,12 +246,14 @@ TEST_F(BlocksByName, AReferenceWithoutAFreeFilterIsNamedByTagsUnderTheEnginesSet
 
 TEST_F(BlocksByName, AReferenceWhoseBlockHasNoNameIsNamedByTagsUnderTheEnginesSetAlone) {
   Ask(L"Door", kOwnId, true);
+  Ask(L"", kOwnId, true);
   door.AddDefinition(L"A", L"Width");
   reference.AddAttribute(L"A", L"90");
   world.Fail("getName", 5);
   AddReference(reference, false);
   EXPECT_THAT(expected::Shown(properties), ElementsAre("A=90"));
   EXPECT_FALSE(filters[0].matched);
+  EXPECT_FALSE(filters[1].matched);
 }
 
 TEST_F(BlocksByName, AReferenceWithoutAttributesMarksNothing) {

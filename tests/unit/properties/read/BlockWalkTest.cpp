@@ -321,6 +321,12 @@ TEST_F(BlockWalkFailures, ARecordWithoutANameIsSteppedOverAndClosed) {
   EXPECT_THAT(world.Calls({"close"}), Contains("block Door.close()"));
 }
 
+TEST_F(BlockWalkFailures, ARecordWhoseNameCannotBeReadIsNoneWithoutAName) {
+  Ask(L"");
+  world.Fail("block Door.getName", 5);
+  EXPECT_THAT(ReadValues(), ElementsAre("A=two"));
+}
+
 TEST_F(BlockWalkFailures, ABlockWhoseEntitiesCannotBeHadGivesItsAttributes) {
   world.FailWithNull("block Door.newIterator", 5);
   EXPECT_THAT(ReadValues(), ElementsAre("A=one", "A=two"));
