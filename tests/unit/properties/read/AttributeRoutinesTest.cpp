@@ -58,6 +58,11 @@ TEST_F(AttributeTexts, OfManyLinesLoseTheirLineEndsAndTheFirstSemicolon) {
   EXPECT_THAT(ReadValues(), ElementsAre("A=one  two three four;five six"));
 }
 
+TEST_F(AttributeTexts, OfManyLinesKeepAllOtherCodesOfFormat) {
+  reference.AddAttribute(L"A", L"{\\fArial|b0;one\\P\\H2.5;two\ttabbed}").multiLine = true;
+  EXPECT_THAT(ReadValues(), ElementsAre("A={\\fArial|b0 one\\P\\H2.5;two\ttabbed}"));
+}
+
 TEST_F(AttributeTexts, EachOfManyLinesLosesAFirstSemicolonOfItsOwn) {
   reference.AddAttribute(L"A", L";a;").multiLine = true;
   reference.AddAttribute(L"B", L"b;;").multiLine = true;
