@@ -391,6 +391,14 @@ TEST_P(BlockContract, ABlockThatIsNotDynamicHasNoCopies) {
   EXPECT_TRUE(copies.empty());
 }
 
+TEST_P(BlockContract, WhatIsNoBlockIsNotDynamic) {
+  const auto* const dynamic = new ZnDbDynBlockTableRecord(table->objectId());
+  ASSERT_NE(dynamic, nullptr);
+  EXPECT_FALSE(dynamic->isDynamicBlock());
+  ZnDbObjectIdArray copies = {IdOf(L"House")};
+  EXPECT_NE(dynamic->getAnonymousBlockIds(copies), Zent::kOk);
+}
+
 TEST_P(BlockContract, ADynamicBlockHasItsCopiesInTableOrder) {
   const auto* const dynamic = new ZnDbDynBlockTableRecord(IdOf(L"Gate"));
   ASSERT_NE(dynamic, nullptr);
