@@ -105,6 +105,12 @@ TEST_F(BlockWalk, NamesAreComparedWithoutRegardToCase) {
   EXPECT_THAT(ReadValues(), ElementsAre("A=one", "A=two"));
 }
 
+TEST_F(BlockWalk, NamesAreComparedByTheUtilitiesWithTheRuleThatIgnoresCase) {
+  Ask(L"dOOR");
+  Read();
+  EXPECT_THAT(world.Calls({"Order"}), ElementsAre("Order(dOOR, Door, 0, 1)"));
+}
+
 TEST_F(BlockWalk, ANameThatOnlyBeginsLikeTheFiltersIsAnother) {
   Ask(L"Doo");
   Ask(L"Door2");
