@@ -27,7 +27,9 @@ enum class DwgFileType : std::int32_t {
 };
 
 // Names a block whose attribute values are wanted: those of its constant definitions and of one of
-// its references, the first in a layout if there is one.
+// its references, the first in a layout that stands before the block in the drawing's table (model
+// space does), or else the first of all; of a dynamic block without any, the first of its first
+// variation.
 struct BlockFilterParam {
   // Compared without regard to case; of two filters with one name the first counts.  Layouts can't
   // be asked for.

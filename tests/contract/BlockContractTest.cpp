@@ -24,8 +24,10 @@ using testing::UnorderedElementsAre;
 
 // A provider with a drawing of the block "Door", whose definitions are "A" with the prompt "Width"
 // and the text "90" and the constant "MAKER" of the text "Smith", and which holds a line behind
-// them.  A reference of it with two attributes stands in model space, another with one in the block
-// "House".  The drawing's location is tied to its point (1, 2, 3) and counts in metres.
+// them.  A reference of it with two attributes stands in model space, another with two in the block
+// "House", the second of many lines.  "House" also holds a text and a multi-line text.  The block
+// "Gate" is dynamic and has the copies "*U7" and "*U8".  The drawing's location is tied to its
+// point (1, 2, 3) and counts in metres.
 class Subject {
  public:
   virtual ~Subject() = default;
@@ -46,7 +48,16 @@ class Scripted : public Subject {
     scripted::Entity& reference = door.AddReference(&modelSpace);
     reference.AddAttribute(L"A", L"80");
     reference.AddAttribute(L"B", L"81");
-    door.AddReference(&house).AddAttribute(L"A", L"70");
+    scripted::Entity& inHouse = door.AddReference(&house);
+    inHouse.AddAttribute(L"A", L"70");
+    inHouse.AddAttribute(L"NOTE", L"one;two").multiLine = true;
+    house.Add(scripted::EntityKind::kText).text = L"on one line";
+    house.Add(scripted::EntityKind::kMText).text = L"on\\Pmany";
+    scripted::Record& gate = world_.drawing.blocks.Add(L"Gate");
+    gate.dynamic = true;
+    for (const wchar_t* copy : {L"*U7", L"*U8"}) {
+      gate.copies.push_back(&world_.drawing.blocks.Add(copy));
+    }
     world_.drawing.location.emplace();
     world_.drawing.location->designPoint = {1, 2, 3};
     world_.drawing.location->horizontalUnits = 6;
@@ -69,7 +80,15 @@ class Embedded : public Subject {
          .definitions = {{.tag = "A", .value = "90", .prompt = "Width"},
                          {.tag = "MAKER", .value = "Smith", .flags = drawing::kConstant}},
          .entities = {drawing::Line("0", {}, {1, 1})}},
-        {.name = "House", .entities = {drawing::Insert("Door", {{.tag = "A", .value = "70"}})}}};
+        {.name = "House",
+         .entities = {drawing::Insert("Door",
+                                      {{.tag = "A", .value = "70"},
+                                       {.tag = "NOTE", .value = "one;two", .multiLine = true}}),
+                      drawing::Text("0", {}, 1, "on one line"),
+                      drawing::MText("0", {}, 1, "on\\Pmany")}},
+        {.name = "Gate", .isDynamic = true},
+        {.name = "*U7", .copyOf = "Gate"},
+        {.name = "*U8", .copyOf = "Gate"}};
     spec.entities = {
         drawing::Insert("Door", {{.tag = "A", .value = "80"}, {.tag = "B", .value = "81"}})};
     drawing::GeoSpec geo;
@@ -322,6 +341,38 @@ TEST_P(BlockContract, AttributesComeInStoredOrderWithTagAndText) {
   reference->close();
 }
 
+TEST_P(BlockContract, AnAttributeOfManyLinesSaysSoAndTellsThemAll) {
+  ZnDbBlockReference* const reference = ReferenceIn(IdOf(L"House"));
+  const std::unique_ptr<ZnDbObjectIterator> attributes(reference->attributeIterator());
+  attributes->step(false, true);
+  ZnDbAttribute* attribute = nullptr;
+  ASSERT_EQ(reference->openAttribute(attribute, attributes->objectId(), ZnDb::kForRead, false),
+            Zent::kOk);
+  EXPECT_TRUE(attribute->isMTextAttribute());
+  EXPECT_EQ(Text(*attribute, &ZnDbAttribute::tag), L"NOTE");
+  EXPECT_EQ(Text(*attribute, &ZnDbText::textString), L"one;two");
+  attribute->close();
+  reference->close();
+}
+
+TEST_P(BlockContract, TextsOfBothKindsTellWhatTheySay) {
+  ZnDbBlockTableRecord* const house = Block(L"House");
+  const auto entities = Entities(*house);
+  std::vector<std::wstring> texts;
+  for (; !entities->done(); entities->step(true, true)) {
+    ZnDbEntity* entity = nullptr;
+    ASSERT_EQ(entities->getEntity(entity, ZnDb::kForRead, false), Zent::kOk);
+    if (entity->isA()->isDerivedFrom(ZnDbText::desc())) {
+      texts.push_back(Text(static_cast<ZnDbText&>(*entity), &ZnDbText::textString));
+    } else if (entity->isA()->isDerivedFrom(ZnDbMText::desc())) {
+      texts.push_back(Text(static_cast<ZnDbMText&>(*entity), &ZnDbMText::text));
+    }
+    entity->close();
+  }
+  EXPECT_THAT(texts, ElementsAre(L"on one line", L"on\\Pmany"));
+  house->close();
+}
+
 TEST_P(BlockContract, TheNullIdOpensNoAttribute) {
   ZnDbBlockReference* const reference = ReferenceIn(IdOf(L"House"));
   ZnDbAttribute* attribute = nullptr;
@@ -338,6 +389,23 @@ TEST_P(BlockContract, ABlockThatIsNotDynamicHasNoCopies) {
   ZnDbObjectIdArray copies = {IdOf(L"House")};
   dynamic->getAnonymousBlockIds(copies);
   EXPECT_TRUE(copies.empty());
+}
+
+TEST_P(BlockContract, WhatIsNoBlockIsNotDynamic) {
+  const auto* const dynamic = new ZnDbDynBlockTableRecord(table->objectId());
+  ASSERT_NE(dynamic, nullptr);
+  EXPECT_FALSE(dynamic->isDynamicBlock());
+  ZnDbObjectIdArray copies = {IdOf(L"House")};
+  EXPECT_NE(dynamic->getAnonymousBlockIds(copies), Zent::kOk);
+}
+
+TEST_P(BlockContract, ADynamicBlockHasItsCopiesInTableOrder) {
+  const auto* const dynamic = new ZnDbDynBlockTableRecord(IdOf(L"Gate"));
+  ASSERT_NE(dynamic, nullptr);
+  EXPECT_TRUE(dynamic->isDynamicBlock());
+  ZnDbObjectIdArray copies;
+  EXPECT_EQ(dynamic->getAnonymousBlockIds(copies), Zent::kOk);
+  EXPECT_THAT(copies, ElementsAre(IdOf(L"*U7"), IdOf(L"*U8")));
 }
 
 TEST_P(BlockContract, TheLocationIsAnObjectOfItsOwnClass) {
@@ -361,8 +429,52 @@ TEST_P(BlockContract, ABlockIsNoLocation) {
   EXPECT_EQ(location, nullptr);
 }
 
+// What a caller gets who doesn't look at the end.
+class EmbeddedBlocks : public BlockContract {};
+
+TEST_P(EmbeddedBlocks, PastTheEndThereIsNoEntity) {
+  ZnDbBlockTableRecord* const door = Block(L"Door");
+  const auto entities = Entities(*door);
+  ZnDbEntity* entity = nullptr;
+  ASSERT_EQ(entities->getEntity(entity, ZnDb::kForRead, false), Zent::kOk);
+  for (int i = 0; i < 4; ++i) entities->step(true, true);
+  EXPECT_TRUE(entities->done());
+  ZnDbObjectId id;
+  EXPECT_NE(entities->getEntityId(id), Zent::kOk);
+  EXPECT_NE(entities->getEntity(entity, ZnDb::kForRead, false), Zent::kOk);
+  EXPECT_EQ(entity, nullptr);
+  door->close();
+}
+
+TEST_P(EmbeddedBlocks, OutsideTheCountThereIsNoReference) {
+  ZnDbBlockTableRecord* const door = Block(L"Door");
+  const auto references = References(*door);
+  for (const int position : {-1, references->count}) {
+    ZnDbBlockReference* reference = nullptr;
+    references->position = 0;
+    ASSERT_EQ(references->getBlockReference(reference, ZnDb::kForRead, false), Zent::kOk);
+    references->position = position;
+    ZnDbObjectId id;
+    EXPECT_NE(references->getBlockReferenceId(id), Zent::kOk) << position;
+    EXPECT_NE(references->getBlockReference(reference, ZnDb::kForRead, false), Zent::kOk);
+    EXPECT_EQ(reference, nullptr);
+  }
+  door->close();
+}
+
+TEST_P(EmbeddedBlocks, PastTheEndTheAttributesIdIsNull) {
+  ZnDbBlockReference* const reference = ReferenceIn(IdOf(L"House"));
+  const std::unique_ptr<ZnDbObjectIterator> attributes(reference->attributeIterator());
+  for (int i = 0; i < 3; ++i) attributes->step(false, true);
+  EXPECT_TRUE(attributes->done());
+  EXPECT_TRUE(attributes->objectId().isNull());
+  reference->close();
+}
+
 INSTANTIATE_TEST_SUITE_P(Providers, BlockContract,
                          testing::Values("EmbeddedDxf", "EmbeddedDwg", "Scripted"),
+                         [](const auto& info) { return info.param; });
+INSTANTIATE_TEST_SUITE_P(Forms, EmbeddedBlocks, testing::Values("EmbeddedDxf", "EmbeddedDwg"),
                          [](const auto& info) { return info.param; });
 
 }  // namespace

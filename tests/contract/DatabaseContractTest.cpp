@@ -266,6 +266,15 @@ TEST_P(DatabaseContract, EntriesAreFoundWithoutRegardToCase) {
   dictionary->close();
 }
 
+// Success or not: the null id says that there is none.
+TEST_P(DatabaseContract, ADrawingThatLiesNowhereHasNoLocation) {
+  ZnDbLayerTable* const layers = Layers();
+  ZnDbObjectId id = layers->objectId();
+  zndbGetGeoDataObjId(&*database, id);
+  EXPECT_TRUE(id.isNull());
+  layers->close();
+}
+
 class EmbeddedDatabase : public testing::TestWithParam<bool> {
  protected:
   Embedded subject{GetParam()};
@@ -311,6 +320,14 @@ TEST_P(EmbeddedDatabase, BeforeAFileIsReadThereIsNothing) {
   EXPECT_EQ(database.originalFileVersion(), 0);
   const wchar_t* name = nullptr;
   EXPECT_NE(database.getFilename(name), Zent::kOk);
+  ZnDbObjectId location;
+  EXPECT_NE(zndbGetGeoDataObjId(&database, location), Zent::kOk);
+}
+
+TEST_P(EmbeddedDatabase, NoDatabaseLiesAnywhere) {
+  ZnDbObjectId location;
+  EXPECT_NE(zndbGetGeoDataObjId(nullptr, location), Zent::kOk);
+  EXPECT_TRUE(location.isNull());
 }
 
 TEST_P(EmbeddedDatabase, SavesNothingYet) {

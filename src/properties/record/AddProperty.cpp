@@ -43,9 +43,8 @@ void AddProperty(std::vector<_PropData>& properties, VARIANT& value, int typeCod
   properties.push_back(record);
 }
 
-void AddText(std::vector<_PropData>& properties, const wchar_t* text,
-                     std::wstring propertyName, const GUID& formatGuid,
-                     unsigned long propertyNumber) {
+void AddText(std::vector<_PropData>& properties, const wchar_t* text, std::wstring propertyName,
+             const GUID& formatGuid, unsigned long propertyNumber) {
   VARIANT value = MakeTextVariant(text);
   AddProperty(properties, value, kTypeText, std::move(propertyName), formatGuid, propertyNumber);
 }

@@ -21,8 +21,7 @@ void AddProperty(std::vector<_PropData>& properties, VARIANT& value, int typeCod
 
 // The same for a text: makes the variant by MakeTextVariant and adds it with the type code of
 // texts.
-void AddText(std::vector<_PropData>& properties, const wchar_t* text,
-                     std::wstring propertyName, const GUID& formatGuid,
-                     unsigned long propertyNumber);
+void AddText(std::vector<_PropData>& properties, const wchar_t* text, std::wstring propertyName,
+             const GUID& formatGuid, unsigned long propertyNumber);
 
 }  // namespace ZDXEngine

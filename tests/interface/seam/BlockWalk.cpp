@@ -86,6 +86,19 @@ void WalkReferences(const ZnDbBlockTableRecord& record, WalkedBlock& walked) {
   }
 }
 
+void WalkEntity(const ZnDbEntity& entity, WalkedBlock& walked) {
+  const ZnRxClass* const type = entity.isA();
+  walked.entities.push_back(ZDXEngine::Utf8FromWide(type->name()));
+  if (type->isDerivedFrom(ZnDbAttributeDefinition::desc())) {
+    walked.definitions.push_back(
+        WalkDefinition(static_cast<const ZnDbAttributeDefinition&>(entity)));
+  } else if (type->isDerivedFrom(ZnDbText::desc())) {
+    walked.texts.push_back(TextOf(static_cast<const ZnDbText&>(entity), &ZnDbText::textString));
+  } else if (type->isDerivedFrom(ZnDbMText::desc())) {
+    walked.texts.push_back(TextOf(static_cast<const ZnDbMText&>(entity), &ZnDbMText::text));
+  }
+}
+
 void WalkEntities(const ZnDbBlockTableRecord& record, WalkedBlock& walked) {
   ZnDbBlockTableRecordIterator* made = nullptr;
   EXPECT_EQ(record.newIterator(made, true, true), Zent::kOk);
@@ -94,9 +107,7 @@ void WalkEntities(const ZnDbBlockTableRecord& record, WalkedBlock& walked) {
     ZnDbEntity* entity = nullptr;
     EXPECT_EQ(entities->getEntity(entity, ZnDb::kForRead, false), Zent::kOk);
     if (entity == nullptr) continue;
-    walked.entities.push_back(ZDXEngine::Utf8FromWide(entity->isA()->name()));
-    if (!entity->isA()->isDerivedFrom(ZnDbAttributeDefinition::desc())) continue;
-    walked.definitions.push_back(WalkDefinition(static_cast<ZnDbAttributeDefinition&>(*entity)));
+    WalkEntity(*entity, walked);
   }
   EXPECT_EQ(record.hasAttributeDefinitions(), !walked.definitions.empty());
 }

@@ -34,6 +34,8 @@ struct WalkedBlock {
   std::vector<std::string> copies;
   // The classes of its entities.
   std::vector<std::string> entities;
+  // What its texts and multi-line texts say.
+  std::vector<std::string> texts;
   std::vector<WalkedDefinition> definitions;
   // In the order in which the library tells them.
   std::vector<WalkedReference> references;

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
+#include <cstring>
 
 #include "unit/properties/read/BlockTest.h"
 
@@ -285,11 +287,19 @@ TEST_F(ConstantNames, AttributesToo) {
 }
 
 TEST_F(ConstantNames, FormatIdsAreComparedByAllTheirBytes) {
-  filters.clear();
-  Ask(L"Window", kOtherId, false);
-  Ask(L"Door", kOwnId, true);
   door.AddConstant(L"MAKER", L"Made by", L"Smith");
-  EXPECT_THAT(ReadValues(), ElementsAre("Made by=Smith"));
+  for (std::size_t i = 0; i < sizeof(GUID); ++i) {
+    std::array<unsigned char, sizeof(GUID)> bytes;
+    std::memcpy(bytes.data(), &kOwnId, sizeof kOwnId);
+    bytes[i] ^= 1;
+    GUID almost;
+    std::memcpy(&almost, bytes.data(), sizeof almost);
+    filters.clear();
+    properties.clear();
+    Ask(L"Window", almost, false);
+    Ask(L"Door", kOwnId, true);
+    EXPECT_THAT(ReadValues(), ElementsAre("Made by=Smith")) << "byte " << i;
+  }
 }
 
 }  // namespace

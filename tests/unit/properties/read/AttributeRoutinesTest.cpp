@@ -58,6 +58,11 @@ TEST_F(AttributeTexts, OfManyLinesLoseTheirLineEndsAndTheFirstSemicolon) {
   EXPECT_THAT(ReadValues(), ElementsAre("A=one  two three four;five six"));
 }
 
+TEST_F(AttributeTexts, OfManyLinesKeepAllOtherCodesOfFormat) {
+  reference.AddAttribute(L"A", L"{\\fArial|b0;one\\P\\H2.5;two\ttabbed}").multiLine = true;
+  EXPECT_THAT(ReadValues(), ElementsAre("A={\\fArial|b0 one\\P\\H2.5;two\ttabbed}"));
+}
+
 TEST_F(AttributeTexts, EachOfManyLinesLosesAFirstSemicolonOfItsOwn) {
   reference.AddAttribute(L"A", L";a;").multiLine = true;
   reference.AddAttribute(L"B", L"b;;").multiLine = true;
@@ -188,10 +193,12 @@ TEST_F(BlocksByName, AConstantsBlockIsItsOwnerAndIsClosed) {
 
 TEST_F(BlocksByName, AConstantWhoseBlockHasNoNameIsNotAdded) {
   Ask(L"Door");
+  Ask(L"");
   world.Fail("getName", 5);
   AddConstant(maker, false);
   EXPECT_THAT(properties, IsEmpty());
   EXPECT_FALSE(filters[0].matched);
+  EXPECT_FALSE(filters[1].matched);
 }
 
 TEST_F(BlocksByName, AConstantWhoseBlockDoesNotOpenIsNotAdded) {
@@ -244,12 +251,14 @@ TEST_F(BlocksByName, AReferenceWithoutAFreeFilterIsNamedByTagsUnderTheEnginesSet
 
 TEST_F(BlocksByName, AReferenceWhoseBlockHasNoNameIsNamedByTagsUnderTheEnginesSetAlone) {
   Ask(L"Door", kOwnId, true);
+  Ask(L"", kOwnId, true);
   door.AddDefinition(L"A", L"Width");
   reference.AddAttribute(L"A", L"90");
   world.Fail("getName", 5);
   AddReference(reference, false);
   EXPECT_THAT(expected::Shown(properties), ElementsAre("A=90"));
   EXPECT_FALSE(filters[0].matched);
+  EXPECT_FALSE(filters[1].matched);
 }
 
 TEST_F(BlocksByName, AReferenceWithoutAttributesMarksNothing) {

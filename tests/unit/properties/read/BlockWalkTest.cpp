@@ -105,6 +105,12 @@ TEST_F(BlockWalk, NamesAreComparedWithoutRegardToCase) {
   EXPECT_THAT(ReadValues(), ElementsAre("A=one", "A=two"));
 }
 
+TEST_F(BlockWalk, NamesAreComparedByTheUtilitiesWithTheRuleThatIgnoresCase) {
+  Ask(L"dOOR");
+  Read();
+  EXPECT_THAT(world.Calls({"Order"}), ElementsAre("Order(dOOR, Door, 0, 1)"));
+}
+
 TEST_F(BlockWalk, ANameThatOnlyBeginsLikeTheFiltersIsAnother) {
   Ask(L"Doo");
   Ask(L"Door2");
@@ -319,6 +325,12 @@ TEST_F(BlockWalkFailures, ARecordWithoutANameIsSteppedOverAndClosed) {
   world.Fail("block Door.getName", 5);
   EXPECT_THAT(ReadValues(), ElementsAre("A=two"));
   EXPECT_THAT(world.Calls({"close"}), Contains("block Door.close()"));
+}
+
+TEST_F(BlockWalkFailures, ARecordWhoseNameCannotBeReadIsNoneWithoutAName) {
+  Ask(L"");
+  world.Fail("block Door.getName", 5);
+  EXPECT_THAT(ReadValues(), ElementsAre("A=two"));
 }
 
 TEST_F(BlockWalkFailures, ABlockWhoseEntitiesCannotBeHadGivesItsAttributes) {
