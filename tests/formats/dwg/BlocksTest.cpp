@@ -83,6 +83,30 @@ class Blocks : public testing::TestWithParam<const char*> {
                                                            : dwg::PagedFile(made));
   }
 
+  // The drawing with an attribute A02 whose lines stand in its record as `pieces`.
+  OpenDrawing WithPieces(const std::vector<drawing::Tag>& pieces) {
+    spec.blocks = {{.name = "FRAME"}};
+    spec.entities = {
+        Handled(drawing::Insert("FRAME", {{.tag = "REMARK", .handle = "A02"}}), "A01")};
+    std::vector<drawing::Tag> tags = {{70, 2}, {2, "REMARK"}, {1, drawing::kEmbeddedObject}};
+    tags.insert(tags.end(), pieces.begin(), pieces.end());
+    return Changed([&tags](dwg::Drawing& made) {
+      dwg::Fields fields = made.NewFields(0xA02);
+      const drawing::ObjectSpec lines = drawing::Xrecord(tags);
+      dwg::BeginEntity(made, fields, {}, {0xA01, dwg::Space::None, {}, true},
+                       {{drawing::kMultiLineKey, lines}});
+      fields.H(dwg::Link::HardPointer, 0);
+      dwg::PutText(fields, {"plain", {}, 1.0});
+      if (made.IsSince(dwg::Version::AC1024)) fields.RC(0);
+      fields.T("REMARK_001");
+      fields.BS(0);
+      fields.RC(0);
+      if (made.IsSince(dwg::Version::AC1021)) fields.B(true);
+      made.records.erase(0xA02);
+      made.AddEntity(dwg::Type::Attribute, fields);
+    });
+  }
+
   Keys EntitiesOf(OpenDrawing& opened, const std::wstring& block) {
     return opened->BlockEntities(opened.Block(block));
   }
@@ -286,33 +310,19 @@ TEST_P(Blocks, AttributesWithManyLinesHaveTheirTrueTagAndAllLines) {
 
 TEST_P(Blocks, ManyLinesMayStandInPieces) {
   if (Since("AC1032")) GTEST_SKIP() << "this version holds them in one text";
-  spec.blocks = {{.name = "FRAME"}};
-  spec.entities = {Handled(drawing::Insert("FRAME", {{.tag = "REMARK", .handle = "A02"}}), "A01")};
-  OpenDrawing opened = Changed([](dwg::Drawing& made) {
-    dwg::Fields fields = made.NewFields(0xA02);
-    const drawing::ObjectSpec lines = drawing::Xrecord({{70, 2},
-                                                        {2, "REMARK"},
-                                                        {1, drawing::kEmbeddedObject},
-                                                        {3, "one, "},
-                                                        {3, "two, "},
-                                                        {1, "three"},
-                                                        {1, "no line"}});
-    dwg::BeginEntity(made, fields, {}, {0xA01, dwg::Space::None, {}, true},
-                     {{drawing::kMultiLineKey, lines}});
-    fields.H(dwg::Link::HardPointer, 0);
-    dwg::PutText(fields, {"plain", {}, 1.0});
-    if (made.IsSince(dwg::Version::AC1024)) fields.RC(0);
-    fields.T("REMARK_001");
-    fields.BS(0);
-    fields.RC(0);
-    if (made.IsSince(dwg::Version::AC1021)) fields.B(true);
-    made.records.erase(0xA02);
-    made.AddEntity(dwg::Type::Attribute, fields);
-  });
+  OpenDrawing opened = WithPieces({{3, "one, "}, {3, "two, "}, {1, "three"}, {1, "no line"}});
   const zdx::model::Attribute attribute = opened->ReadAttribute(KeyOf("A02"));
   EXPECT_EQ(attribute.tag, L"REMARK");
   EXPECT_EQ(attribute.text, L"one, two, three");
   EXPECT_TRUE(attribute.isMultiLine);
+}
+
+TEST_P(Blocks, PiecesOfManyLinesMayCutACharacter) {
+  if (Since("AC1032")) GTEST_SKIP() << "this version holds them in one text";
+  OpenDrawing opened = WithPieces({{3, "one \\U+4E"}, {1, "2D"}});
+  const zdx::model::Attribute attribute = opened->ReadAttribute(KeyOf("A02"));
+  EXPECT_EQ(attribute.text, Since("AC1021") ? L"one \\U+4E2D" : L"one \u4E2D");
+  EXPECT_EQ(opened.report->warningCount, 0u);
 }
 
 TEST_P(Blocks, AreDynamicByTheirExtensionAndTheirName) {

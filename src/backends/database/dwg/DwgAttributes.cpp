@@ -60,19 +60,23 @@ bool DwgDrawing::ReadMultiLine(model::Handle handle, const FieldValues& fields,
   if (content == nullptr) return false;
   GroupReader groups(content->bytes, format_);
   bool isInLines = false;
-  std::wstring lines;
+  // Decoded as a whole: a character may have been cut.
+  std::string lines;
   while (const std::optional<Group> group = groups.Next()) {
     if (!group->isText) continue;
-    std::wstring text = GroupText(group->text, group->codePage, *entry);
-    if (!isInLines && group->code == kTrueTagCode) {
-      attribute.tag = std::move(text);
-    } else if (!isInLines) {
-      isInLines = group->code == kLastPieceCode && text == kMultiLineGroup;
-    } else if (group->code == kPieceCode) {
-      lines += text;
-    } else if (group->code == kLastPieceCode) {
-      attribute.text = lines + text;
+    if (isInLines) {
+      if (group->code != kPieceCode && group->code != kLastPieceCode) continue;
+      lines += group->text;
+      if (group->code == kPieceCode) continue;
+      attribute.text = GroupText(lines, group->codePage, *entry);
       return true;
+    }
+    if (group->code != kTrueTagCode && group->code != kLastPieceCode) continue;
+    std::wstring text = GroupText(group->text, group->codePage, *entry);
+    if (group->code == kTrueTagCode) {
+      attribute.tag = std::move(text);
+    } else {
+      isInLines = text == kMultiLineGroup;
     }
   }
   Warn(L"The text of an attribute with many lines isn't there.", handle);
