@@ -325,6 +325,16 @@ TEST_P(Blocks, PiecesOfManyLinesMayCutACharacter) {
   EXPECT_EQ(opened.report->warningCount, 0u);
 }
 
+TEST_P(Blocks, TagsMayHoldEscapesInEveryVersion) {
+  const std::string tag = "T\\U+00E9";
+  spec.blocks = {{.name = "FRAME", .definitions = {{.tag = tag, .value = tag, .handle = "A01"}}}};
+  spec.entities = {drawing::Insert("FRAME", {{.tag = tag, .multiLine = true, .handle = "A02"}})};
+  OpenDrawing opened(spec);
+  EXPECT_EQ(opened->ReadAttribute(KeyOf("A01")).tag, L"T\u00E9");
+  EXPECT_EQ(opened->ReadAttribute(KeyOf("A02")).tag, L"T\u00E9");
+  EXPECT_EQ(opened->ReadAttribute(KeyOf("A01")).text, Since("AC1021") ? L"T\\U+00E9" : L"T\u00E9");
+}
+
 TEST_P(Blocks, AreDynamicByTheirExtensionAndTheirName) {
   spec.applications.emplace_back("AcDbBlockRepBTag");
   spec.applications.emplace_back("AcDbDynamicBlockTrueName");
