@@ -358,6 +358,13 @@ TEST_P(Blocks, AreDynamicByTheirExtensionAndTheirName) {
   EXPECT_THAT(opened->AnonymousCopies(opened.Block(L"WALL")), IsEmpty());
 }
 
+TEST_P(Blocks, AreNoVariationsOfThemselves) {
+  spec.blocks = {{.name = "GATE", .isDynamic = true, .copyOf = "GATE"},
+                 {.name = "*U1", .copyOf = "GATE"}};
+  OpenDrawing opened(spec);
+  EXPECT_THAT(opened->AnonymousCopies(opened.Block(L"GATE")), ElementsAre(opened.Block(L"*U1")));
+}
+
 TEST_P(Blocks, ModelSpaceKnowsWhereItLiesOnTheEarth) {
   drawing::GeoSpec geo;
   geo.designPoint = {1.5, 2.5, 3.5};
