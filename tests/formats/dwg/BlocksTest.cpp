@@ -83,6 +83,30 @@ class Blocks : public testing::TestWithParam<const char*> {
                                                            : dwg::PagedFile(made));
   }
 
+  // The drawing with an attribute A02 whose lines stand in its record as `pieces`.
+  OpenDrawing WithPieces(const std::vector<drawing::Tag>& pieces) {
+    spec.blocks = {{.name = "FRAME"}};
+    spec.entities = {
+        Handled(drawing::Insert("FRAME", {{.tag = "REMARK", .handle = "A02"}}), "A01")};
+    std::vector<drawing::Tag> tags = {{70, 2}, {2, "REMARK"}, {1, drawing::kEmbeddedObject}};
+    tags.insert(tags.end(), pieces.begin(), pieces.end());
+    return Changed([&tags](dwg::Drawing& made) {
+      dwg::Fields fields = made.NewFields(0xA02);
+      const drawing::ObjectSpec lines = drawing::Xrecord(tags);
+      dwg::BeginEntity(made, fields, {}, {0xA01, dwg::Space::None, {}, true},
+                       {{drawing::kMultiLineKey, lines}});
+      fields.H(dwg::Link::HardPointer, 0);
+      dwg::PutText(fields, {"plain", {}, 1.0});
+      if (made.IsSince(dwg::Version::AC1024)) fields.RC(0);
+      fields.T("REMARK_001");
+      fields.BS(0);
+      fields.RC(0);
+      if (made.IsSince(dwg::Version::AC1021)) fields.B(true);
+      made.records.erase(0xA02);
+      made.AddEntity(dwg::Type::Attribute, fields);
+    });
+  }
+
   Keys EntitiesOf(OpenDrawing& opened, const std::wstring& block) {
     return opened->BlockEntities(opened.Block(block));
   }
@@ -286,33 +310,29 @@ TEST_P(Blocks, AttributesWithManyLinesHaveTheirTrueTagAndAllLines) {
 
 TEST_P(Blocks, ManyLinesMayStandInPieces) {
   if (Since("AC1032")) GTEST_SKIP() << "this version holds them in one text";
-  spec.blocks = {{.name = "FRAME"}};
-  spec.entities = {Handled(drawing::Insert("FRAME", {{.tag = "REMARK", .handle = "A02"}}), "A01")};
-  OpenDrawing opened = Changed([](dwg::Drawing& made) {
-    dwg::Fields fields = made.NewFields(0xA02);
-    const drawing::ObjectSpec lines = drawing::Xrecord({{70, 2},
-                                                        {2, "REMARK"},
-                                                        {1, drawing::kEmbeddedObject},
-                                                        {3, "one, "},
-                                                        {3, "two, "},
-                                                        {1, "three"},
-                                                        {1, "no line"}});
-    dwg::BeginEntity(made, fields, {}, {0xA01, dwg::Space::None, {}, true},
-                     {{drawing::kMultiLineKey, lines}});
-    fields.H(dwg::Link::HardPointer, 0);
-    dwg::PutText(fields, {"plain", {}, 1.0});
-    if (made.IsSince(dwg::Version::AC1024)) fields.RC(0);
-    fields.T("REMARK_001");
-    fields.BS(0);
-    fields.RC(0);
-    if (made.IsSince(dwg::Version::AC1021)) fields.B(true);
-    made.records.erase(0xA02);
-    made.AddEntity(dwg::Type::Attribute, fields);
-  });
+  OpenDrawing opened = WithPieces({{3, "one, "}, {3, "two, "}, {1, "three"}, {1, "no line"}});
   const zdx::model::Attribute attribute = opened->ReadAttribute(KeyOf("A02"));
   EXPECT_EQ(attribute.tag, L"REMARK");
   EXPECT_EQ(attribute.text, L"one, two, three");
   EXPECT_TRUE(attribute.isMultiLine);
+}
+
+TEST_P(Blocks, PiecesOfManyLinesMayCutACharacter) {
+  if (Since("AC1032")) GTEST_SKIP() << "this version holds them in one text";
+  OpenDrawing opened = WithPieces({{3, "one \\U+4E"}, {1, "2D"}});
+  const zdx::model::Attribute attribute = opened->ReadAttribute(KeyOf("A02"));
+  EXPECT_EQ(attribute.text, Since("AC1021") ? L"one \\U+4E2D" : L"one \u4E2D");
+  EXPECT_EQ(opened.report->warningCount, 0u);
+}
+
+TEST_P(Blocks, TagsMayHoldEscapesInEveryVersion) {
+  const std::string tag = "T\\U+00E9";
+  spec.blocks = {{.name = "FRAME", .definitions = {{.tag = tag, .value = tag, .handle = "A01"}}}};
+  spec.entities = {drawing::Insert("FRAME", {{.tag = tag, .multiLine = true, .handle = "A02"}})};
+  OpenDrawing opened(spec);
+  EXPECT_EQ(opened->ReadAttribute(KeyOf("A01")).tag, L"T\u00E9");
+  EXPECT_EQ(opened->ReadAttribute(KeyOf("A02")).tag, L"T\u00E9");
+  EXPECT_EQ(opened->ReadAttribute(KeyOf("A01")).text, Since("AC1021") ? L"T\\U+00E9" : L"T\u00E9");
 }
 
 TEST_P(Blocks, AreDynamicByTheirExtensionAndTheirName) {
@@ -336,6 +356,13 @@ TEST_P(Blocks, AreDynamicByTheirExtensionAndTheirName) {
   EXPECT_THAT(opened->AnonymousCopies(opened.Block(L"GATE")),
               ElementsAre(opened.Block(L"*U2"), opened.Block(L"*U1")));
   EXPECT_THAT(opened->AnonymousCopies(opened.Block(L"WALL")), IsEmpty());
+}
+
+TEST_P(Blocks, AreNoVariationsOfThemselves) {
+  spec.blocks = {{.name = "GATE", .isDynamic = true, .copyOf = "GATE"},
+                 {.name = "*U1", .copyOf = "GATE"}};
+  OpenDrawing opened(spec);
+  EXPECT_THAT(opened->AnonymousCopies(opened.Block(L"GATE")), ElementsAre(opened.Block(L"*U1")));
 }
 
 TEST_P(Blocks, ModelSpaceKnowsWhereItLiesOnTheEarth) {

@@ -197,6 +197,13 @@ TEST(DxfBlocks, CarryTheVariationsOfTheBlockThatTheyName) {
   EXPECT_THAT(copiesOf(L"*U1"), IsEmpty());
 }
 
+TEST(DxfBlocks, AreNoVariationsOfThemselves) {
+  const Tags data = {{1001, drawing::kCopyApplication}, {1070, 1}, {1005, "A0"}};
+  OpenDrawing drawing(
+      BytesOf({.records = Join({Record("1", "*Model_Space"), Record("A0", "gate", data)})}));
+  EXPECT_THAT(drawing->AnonymousCopies(drawing.BlockNamed(L"gate")), IsEmpty());
+}
+
 std::string Capital(std::string text) {
   for (char& c : text) c = static_cast<char>(c >= 'a' && c <= 'z' ? c - 'a' + 'A' : c);
   return text;

@@ -20,7 +20,8 @@ constexpr int kLastPieceCode = 1;
 std::optional<std::wstring> DwgDrawing::TextOf(const FieldValues& fields, Key key,
                                                model::Handle handle) {
   const FieldValues::Value* const value = fields.Find(key);
-  const auto use = key == Key::kName ? model::TextUse::kName : model::TextUse::kValue;
+  const bool isName = key == Key::kName || key == Key::kTag;
+  const auto use = isName ? model::TextUse::kName : model::TextUse::kValue;
   return value == nullptr ? std::nullopt : std::optional(Text(value->bytes, use, handle));
 }
 
@@ -60,19 +61,23 @@ bool DwgDrawing::ReadMultiLine(model::Handle handle, const FieldValues& fields,
   if (content == nullptr) return false;
   GroupReader groups(content->bytes, format_);
   bool isInLines = false;
-  std::wstring lines;
+  // Decoded as a whole: a character may have been cut.
+  std::string lines;
   while (const std::optional<Group> group = groups.Next()) {
     if (!group->isText) continue;
-    std::wstring text = GroupText(group->text, group->codePage, *entry);
-    if (!isInLines && group->code == kTrueTagCode) {
-      attribute.tag = std::move(text);
-    } else if (!isInLines) {
-      isInLines = group->code == kLastPieceCode && text == kMultiLineGroup;
-    } else if (group->code == kPieceCode) {
-      lines += text;
-    } else if (group->code == kLastPieceCode) {
-      attribute.text = lines + text;
+    if (isInLines) {
+      if (group->code != kPieceCode && group->code != kLastPieceCode) continue;
+      lines += group->text;
+      if (group->code == kPieceCode) continue;
+      attribute.text = GroupText(lines, group->codePage, model::TextUse::kValue, *entry);
       return true;
+    }
+    if (group->code != kTrueTagCode && group->code != kLastPieceCode) continue;
+    std::wstring text = GroupText(group->text, group->codePage, model::TextUse::kName, *entry);
+    if (group->code == kTrueTagCode) {
+      attribute.tag = std::move(text);
+    } else {
+      isInLines = text == kMultiLineGroup;
     }
   }
   Warn(L"The text of an attribute with many lines isn't there.", handle);

@@ -284,15 +284,15 @@ std::wstring DwgDrawing::Text(std::string_view stored, model::TextUse use, model
 
 // The text of a group, which may be of another code page than the drawing's.
 std::wstring DwgDrawing::GroupText(std::string_view text, std::uint16_t codePage,
-                                   model::Handle handle) {
+                                   model::TextUse use, model::Handle handle) {
   const NumberedCodePage* const page = CodePageByNumber(codePage);
   if (format_.HasStringStream() || page == nullptr || page->page == page_) {
-    return Text(text, model::TextUse::kValue, handle);
+    return Text(text, use, handle);
   }
   const auto decoder = otherDecoders_.try_emplace(page->page, format_.version, page->page,
                                                   model::ControlCharacters::kPlain);
   model::TextFlaws flaws;
-  std::wstring decoded = decoder.first->second.Decode(text, model::TextUse::kValue, flaws);
+  std::wstring decoded = decoder.first->second.Decode(text, use, flaws);
   WarnOfFlaws(flaws, handle);
   return decoded;
 }

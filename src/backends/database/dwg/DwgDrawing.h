@@ -150,7 +150,8 @@ class DwgDrawing : public model::Drawing {
   model::Summary SummaryOfRecord();
 
   std::wstring Text(std::string_view stored, model::TextUse use, model::Handle handle = 0);
-  std::wstring GroupText(std::string_view text, std::uint16_t codePage, model::Handle handle);
+  std::wstring GroupText(std::string_view text, std::uint16_t codePage, model::TextUse use,
+                         model::Handle handle);
   void WarnOfFlaws(const model::TextFlaws& flaws, model::Handle handle);
   void Warn(std::wstring text, model::Handle handle);
   void WarnAt(std::wstring text, std::uint64_t at);

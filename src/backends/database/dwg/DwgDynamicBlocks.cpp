@@ -32,9 +32,11 @@ void DwgDrawing::FindVariations() {
   if (variations_) return;
   variations_.emplace();
   for (const model::ObjectKey record : TableRecords(model::TableKind::kBlock)) {
-    const auto data = DataOf(static_cast<model::Handle>(record), kVariationApplication);
+    const auto handle = static_cast<model::Handle>(record);
+    const auto data = DataOf(handle, kVariationApplication);
     const auto dynamicBlock = data ? FirstReference(*data, format_) : std::nullopt;
-    if (dynamicBlock) variations_->push_back({record, *dynamicBlock});
+    // A block that names itself carries no variation.
+    if (dynamicBlock && *dynamicBlock != handle) variations_->push_back({record, *dynamicBlock});
   }
   std::stable_sort(variations_->begin(), variations_->end(),
                    [](const Variation& left, const Variation& right) {

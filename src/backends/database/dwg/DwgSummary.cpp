@@ -116,7 +116,8 @@ Summary DwgDrawing::SummaryOfRecord() {
   GroupReader groups(content->bytes, format_);
   while (const std::optional<Group> group = groups.Next()) {
     if (!group->isText || !model::SummaryRecord::Wants(group->code)) continue;
-    summary.Take(group->code, GroupText(group->text, group->codePage, *handle));
+    summary.Take(group->code,
+                 GroupText(group->text, group->codePage, model::TextUse::kValue, *handle));
   }
   if (groups.endedByDamage()) Warn(L"The record of the summary is damaged.", *handle);
   return summary.Finish(groups.endedByDamage());

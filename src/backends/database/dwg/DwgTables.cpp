@@ -132,7 +132,8 @@ std::optional<std::wstring> DwgDrawing::TrueSpelling(model::Handle handle) {
   bool within = false;
   while (const std::optional<Group> group = groups.Next()) {
     if (!group->isText) continue;
-    const std::wstring text = GroupText(group->text, group->codePage, *spellings);
+    const std::wstring text =
+        GroupText(group->text, group->codePage, model::TextUse::kValue, *spellings);
     if (group->code == kSpellingGroupCode) within = text == kSpellingGroup;
     if (within && group->code == kTrueNameCode) return text;
   }

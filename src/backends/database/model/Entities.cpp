@@ -16,8 +16,9 @@ void GeoData::SetNorth(std::array<double, 2> vector) {
 }
 
 void GeoData::SetNorth(double angle) {
-  northAngle = angle;
-  northVector = {-std::sin(angle), std::cos(angle)};
+  // The addition and the difference give no negative zero, which would be told with its sign.
+  northAngle = angle + 0.0;
+  northVector = {0.0 - std::sin(angle), std::cos(angle)};
 }
 
 }  // namespace zdx::model
