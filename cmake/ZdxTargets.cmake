@@ -17,8 +17,8 @@ if(WIN32)
     UNICODE _UNICODE NOMINMAX STRICT WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0601)
 endif()
 if(ZDX_SANITIZE)
-  target_compile_options(zdx_options INTERFACE
-    -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_compile_options(zdx_options INTERFACE -fsanitize=address -fno-omit-frame-pointer
+    "$<$<NOT:$<BOOL:$<TARGET_PROPERTY:ZDX_IS_TEST>>>:-fsanitize=undefined;-fno-sanitize-recover=all>")
   target_link_options(zdx_options INTERFACE -fsanitize=address,undefined)
 endif()
 
@@ -42,6 +42,19 @@ endfunction()
 macro(zdx_quick_builds)
   add_compile_options(-O0)
 endmacro()
+
+# zdx_mark_tests(FOLDER): what the tests' folders build isn't itself looked through for undefined
+# behaviour, which takes as long to compile again as the tests do; what it calls is.
+function(zdx_mark_tests folder)
+  get_property(targets DIRECTORY ${folder} PROPERTY BUILDSYSTEM_TARGETS)
+  foreach(target ${targets})
+    set_target_properties(${target} PROPERTIES ZDX_IS_TEST ON)
+  endforeach()
+  get_property(folders DIRECTORY ${folder} PROPERTY SUBDIRECTORIES)
+  foreach(within ${folders})
+    zdx_mark_tests(${within})
+  endforeach()
+endfunction()
 
 # zdx_layer(NAME FOLDER target...): the static target zdx_NAME of the sources in src/FOLDER and in the
 # system's folder there, linked to the targets named.

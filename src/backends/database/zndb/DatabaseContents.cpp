@@ -61,8 +61,8 @@ std::unique_ptr<ZnDbObject> EmbeddedDatabase::MakeObject(ZnDbStub& stub) {
       return std::make_unique<EmbeddedGeoData>(&stub, *std::move(data));
     }
     case Kind::kEntity:
-      return std::make_unique<PlainEntity>(
-          &stub, ClassNamed(description.className, ZnDbEntity::desc()));
+      return std::make_unique<PlainEntity>(&stub,
+                                           ClassNamed(description.className, ZnDbEntity::desc()));
     case Kind::kText:
       return std::make_unique<EmbeddedText>(&stub);
     case Kind::kMText:

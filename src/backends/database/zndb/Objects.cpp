@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "platform/zndb/ZnDbBlocks.h"
 #include "backends/database/zndb/EmbeddedDatabase.h"
 #include "base/CaseFold.h"
+#include "platform/zndb/ZnDbBlocks.h"
 
 namespace zdx::database {
 namespace {
