@@ -17,6 +17,7 @@
 #include "support/dxf/DxfMaker.h"
 #include "support/scripted/World.h"
 
+namespace block_contract {
 namespace {
 
 using testing::ElementsAre;
@@ -478,3 +479,4 @@ INSTANTIATE_TEST_SUITE_P(Forms, EmbeddedBlocks, testing::Values("EmbeddedDxf", "
                          [](const auto& info) { return info.param; });
 
 }  // namespace
+}  // namespace block_contract

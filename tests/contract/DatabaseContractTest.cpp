@@ -15,6 +15,7 @@
 #include "support/dxf/DxfMaker.h"
 #include "support/scripted/World.h"
 
+namespace database_contract {
 namespace {
 
 using testing::ElementsAre;
@@ -345,3 +346,4 @@ INSTANTIATE_TEST_SUITE_P(Providers, DatabaseContract,
                          [](const auto& info) { return info.param; });
 
 }  // namespace
+}  // namespace database_contract

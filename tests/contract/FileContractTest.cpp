@@ -12,6 +12,7 @@
 #include "support/Scratch.h"
 #include "support/scripted/Files.h"
 
+namespace file_contract {
 namespace {
 
 // A provider and a place for its files.
@@ -241,3 +242,4 @@ TEST_F(DiskFiles, ANameThatIsNoTextIsOpened) {
 }
 
 }  // namespace
+}  // namespace file_contract

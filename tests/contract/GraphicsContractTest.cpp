@@ -14,6 +14,7 @@
 #include "backends/posix/graphics/PosixGraphics.h"
 #include "contract/Bitmaps.h"
 
+namespace graphics_contract {
 namespace {
 
 using namespace std::string_literals;
@@ -512,3 +513,4 @@ TEST_F(PosixGraphics, WhatNobodyAsksForIsRefused) {
 }
 
 }  // namespace
+}  // namespace graphics_contract

@@ -18,6 +18,7 @@
 #include "support/dxf/DxfMaker.h"
 #include "support/pictures/Pictures.h"
 
+namespace preview_contract {
 namespace {
 
 using namespace std::string_literals;
@@ -169,3 +170,4 @@ TEST_F(Preview, AFileReadForItsPictureLeavesTheReportOfTheLastOpening) {
 }
 
 }  // namespace
+}  // namespace preview_contract

@@ -11,6 +11,7 @@
 #include "backends/common/CommonProvider.h"
 #include "support/scripted/Utilities.h"
 
+namespace utilities_contract {
 namespace {
 
 constexpr unsigned int kKnownText = 102;
@@ -185,3 +186,4 @@ INSTANTIATE_TEST_SUITE_P(Of, Utilities, testing::ValuesIn(kSubjects),
                          [](const auto& info) { return std::string(info.param.name); });
 
 }  // namespace
+}  // namespace utilities_contract

@@ -12,6 +12,7 @@
 #include "backends/System.h"
 #include "support/scripted/System.h"
 
+namespace variant_contract {
 namespace {
 
 // The stand-in with what it writes into, which must end up even.
@@ -332,3 +333,4 @@ INSTANTIATE_TEST_SUITE_P(Of, Variants, testing::ValuesIn(kSubjects),
                          [](const auto& info) { return std::string(info.param.name); });
 
 }  // namespace
+}  // namespace variant_contract

@@ -5,6 +5,7 @@
 #include "support/Paths.h"
 #include "support/Scratch.h"
 
+namespace posix_files {
 namespace {
 
 class PosixFiles : public testing::Test {
@@ -35,3 +36,4 @@ TEST_F(PosixFiles, APositionFromElsewhereIsRefused) {
 TEST_F(PosixFiles, NoHandleIsNotClosed) { EXPECT_EQ(files.CloseHandle(os::kInvalidHandle), 0); }
 
 }  // namespace
+}  // namespace posix_files

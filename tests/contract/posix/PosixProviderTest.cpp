@@ -3,6 +3,7 @@
 
 #include "backends/posix/PosixProvider.h"
 
+namespace posix_provider {
 namespace {
 
 TEST(PosixProvider, ATypeOfNoPropertyIsRefusedAndLeavesTheTargetEmpty) {
@@ -20,3 +21,4 @@ TEST(PosixProvider, ATypeOfNoPropertyIsRefusedAndLeavesTheTargetEmpty) {
 }
 
 }  // namespace
+}  // namespace posix_provider
