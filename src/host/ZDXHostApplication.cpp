@@ -15,6 +15,17 @@ ZDXHostApplication::~ZDXHostApplication() {
   os::CoUninitialize();
 }
 
+Zent::ErrorStatus ZDXHostApplication::findFile(wchar_t* /*fileOut*/, int /*bufferLength*/,
+                                               const wchar_t* /*fileName*/,
+                                               ZnDbDatabase* /*database*/, int /*hint*/) {
+  return Zent::kFileNotFound;
+}
+
+Zent::ErrorStatus ZDXHostApplication::getRoamingRootFolder(const wchar_t*& folder) {
+  folder = L"";
+  return Zent::kOk;
+}
+
 void* ZDXHostApplication::workingServiceObject() const { return storedServiceObject_; }
 
 const wchar_t* ZDXHostApplication::getHostIdentityPrimary() const {

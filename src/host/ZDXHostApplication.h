@@ -14,6 +14,9 @@ class ZDXHostApplication : public ZnDbHostApplicationServices {
   explicit ZDXHostApplication(const HostApplicationParam& param);
   ~ZDXHostApplication() override;
 
+  Zent::ErrorStatus findFile(wchar_t* fileOut, int bufferLength, const wchar_t* fileName,
+                             ZnDbDatabase* database, int hint) override;
+  Zent::ErrorStatus getRoamingRootFolder(const wchar_t*& folder) override;
   // What the base class stores, unchanged.
   void* workingServiceObject() const override;
   // The client's texts; the pointers hold until the next UpdateParam, and are never null.

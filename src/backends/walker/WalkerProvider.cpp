@@ -5,4 +5,11 @@ namespace zdx {
 bool WalkerProvider::initializeEconveyEngine() { return true; }
 bool WalkerProvider::unInitializeEconveyEngine() { return true; }
 
+std::unique_ptr<ZnDwgDepends::DependsBody> WalkerProvider::createDepends(
+    const wchar_t* /*path*/, ZnDwgDepends::DwgDependsSettings /*settings*/,
+    const wchar_t* /*reserved1*/, const wchar_t* /*reserved2*/, bool /*directOnly*/,
+    bool /*keepsDatabase*/) {
+  return nullptr;
+}
+
 }  // namespace zdx

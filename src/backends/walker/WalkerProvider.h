@@ -11,6 +11,9 @@ class WalkerProvider : public ZnDwgDepends::Provider {
  public:
   bool initializeEconveyEngine() override;
   bool unInitializeEconveyEngine() override;
+  std::unique_ptr<ZnDwgDepends::DependsBody> createDepends(
+      const wchar_t* path, ZnDwgDepends::DwgDependsSettings settings, const wchar_t* reserved1,
+      const wchar_t* reserved2, bool directOnly, bool keepsDatabase) override;
 };
 
 }  // namespace zdx

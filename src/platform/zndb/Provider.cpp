@@ -55,6 +55,10 @@ Zent::ErrorStatus zndbOpenObject(ZnDbObject*& object, ZnDbObjectId id, const ZnR
   return slot.Get().zndbOpenObject(object, id, expected, mode, openErased);
 }
 
+std::uint64_t ZnDbObjectId::nonForwardedHandle() const {
+  return slot.Get().nonForwardedHandle(*this);
+}
+
 Zent::ErrorStatus zndbGetSummaryInfo(ZnDbDatabase* database, ZnDbDatabaseSummaryInfo*& info) {
   return slot.Get().zndbGetSummaryInfo(database, info);
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 
 #include "platform/zndb/ZnDbBlocks.h"
@@ -29,6 +30,7 @@ class DatabaseBody {
                                    bool thumbnail) = 0;
   virtual int lastSavedAsVersion() const = 0;
   virtual int originalFileVersion() const = 0;
+  virtual const wchar_t* originalFileName() const = 0;
   virtual Zent::ErrorStatus getFilename(const wchar_t*& name) const = 0;
 
   virtual Zent::ErrorStatus getSymbolTable(ZnDbBlockTable*& table, int mode) = 0;
@@ -84,6 +86,7 @@ class Provider {
   virtual Zent::ErrorStatus zndbOpenObject(ZnDbObject*& object, ZnDbObjectId id,
                                            const ZnRxClass* expected, int mode,
                                            bool openErased) = 0;
+  virtual std::uint64_t nonForwardedHandle(ZnDbObjectId id) = 0;
   virtual Zent::ErrorStatus zndbGetSummaryInfo(ZnDbDatabase* database,
                                                ZnDbDatabaseSummaryInfo*& info) = 0;
   virtual Zent::ErrorStatus zndbGetGeoDataObjId(ZnDbDatabase* database, ZnDbObjectId& id) = 0;

@@ -17,6 +17,7 @@ inline constexpr ErrorStatus kFileNotFound = 76;
 inline constexpr ErrorStatus kFileAccess = 77;
 inline constexpr ErrorStatus kUnknownVersion = 78;
 inline constexpr ErrorStatus kDamaged = 79;
+inline constexpr ErrorStatus kSharingViolation = 80;
 inline constexpr ErrorStatus kNotADrawing = 314;
 inline constexpr ErrorStatus kEncrypted = 1001;
 

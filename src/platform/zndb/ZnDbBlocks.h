@@ -112,6 +112,8 @@ class ZnDbBlockTableRecord : public ZnDbSymbolTableRecord {
   static ZnRxClass* desc();
   // Whether it is model space or a layout's paper.
   virtual bool isLayout() const = 0;
+  // Whether an overlaid reference to another drawing made it.
+  virtual bool isFromOverlayReference() const = 0;
   virtual bool hasAttributeDefinitions() const = 0;
   virtual Zent::ErrorStatus newIterator(ZnDbBlockTableRecordIterator*& iterator, bool atBeginning,
                                         bool skipDeleted) const = 0;

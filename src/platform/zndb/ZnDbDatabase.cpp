@@ -24,6 +24,8 @@ Zent::ErrorStatus ZnDbDatabase::dxfOut(const wchar_t* path, int decimalPlaces, i
 int ZnDbDatabase::lastSavedAsVersion() const { return body_->lastSavedAsVersion(); }
 int ZnDbDatabase::originalFileVersion() const { return body_->originalFileVersion(); }
 
+const wchar_t* ZnDbDatabase::originalFileName() const { return body_->originalFileName(); }
+
 Zent::ErrorStatus ZnDbDatabase::getFilename(const wchar_t*& name) const {
   return body_->getFilename(name);
 }

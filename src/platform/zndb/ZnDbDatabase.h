@@ -45,6 +45,9 @@ class ZnDbDatabase {
   int lastSavedAsVersion() const;
   // The version of the file as it was read; 0 if none was.
   int originalFileVersion() const;
+  // The full path from which the database was read; empty, never null, if none was.  Valid as long
+  // as the database.
+  const wchar_t* originalFileName() const;
   // The database's file name; `name` is valid as long as the database.
   Zent::ErrorStatus getFilename(const wchar_t*& name) const;
 

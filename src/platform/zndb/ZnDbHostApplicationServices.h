@@ -30,6 +30,14 @@ class ZnDbHostApplicationServices : public ZnRxObject {
 
   ZnRxClass* isA() const override;
 
+  // Looks for the file `fileName`, which the drawing `database`, null for none, asks for; `hint`
+  // tells its kind, and with it the extension of a name without one.  Writes its full path into
+  // `fileOut`, of `bufferLength` characters and 260 at least.  0, or 76 if it isn't found.
+  virtual Zent::ErrorStatus findFile(wchar_t* fileOut, int bufferLength, const wchar_t* fileName,
+                                     ZnDbDatabase* database, int hint) = 0;
+  // The folder for what the user keeps from one computer to the next; valid until the process ends.
+  // Always 0.
+  virtual Zent::ErrorStatus getRoamingRootFolder(const wchar_t*& folder) = 0;
   // An object of the library's that the base class keeps; the engine neither sets nor reads it.
   virtual void* workingServiceObject() const = 0;
   // The product code: 4 where the library runs inside a host of this engine's kind.

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 
 #include "platform/zndb/Status.h"
 #include "platform/zndb/ZnRx.h"
@@ -27,6 +28,8 @@ class ZnDbObjectId {
 
   bool isNull() const { return stub_ == nullptr; }
   ZnDbStub* stub() const { return stub_; }
+  // The object's handle in its own drawing; 0 for none.
+  std::uint64_t nonForwardedHandle() const;
   friend bool operator==(const ZnDbObjectId&, const ZnDbObjectId&) = default;
 
  private:
@@ -81,6 +84,8 @@ class ZnDbViewTableRecord : public ZnDbSymbolTableRecord {
 class ZnDbSymbolTableIterator {
  public:
   virtual ~ZnDbSymbolTableIterator() = default;
+  // Goes to the first record, or to the last.
+  virtual void start(bool atBeginning, bool skipDeleted) = 0;
   // True past the last record.
   virtual bool done() const = 0;
   virtual Zent::ErrorStatus getRecordId(ZnDbObjectId& id) const = 0;

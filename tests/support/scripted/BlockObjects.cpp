@@ -12,6 +12,10 @@ class BlockRecord : public RecordObject<ZnDbBlockTableRecord> {
  public:
   using RecordObject::RecordObject;
 
+  bool isFromOverlayReference() const override {
+    Record("isFromOverlayReference");
+    return record_.overlay;
+  }
   bool isLayout() const override {
     Record("isLayout");
     return record_.layout;

@@ -37,6 +37,10 @@ class DatabaseBody : public zndb::DatabaseBody {
     Status("lastSavedAsVersion");
     return drawing_.lastSavedAsVersion;
   }
+  const wchar_t* originalFileName() const override {
+    Status("originalFileName");
+    return drawing_.originalFileName.c_str();
+  }
   int originalFileVersion() const override {
     Status("originalFileVersion");
     return drawing_.originalFileVersion;

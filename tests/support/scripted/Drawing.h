@@ -1,6 +1,7 @@
 // What the one drawing of a scripted world holds.  A test fills it in before the engine looks.
 #pragma once
 
+#include <cstdint>
 #include <deque>
 #include <optional>
 #include <string>
@@ -32,6 +33,8 @@ struct Record : Node {
   bool erased = false;
 
   bool layout = false;
+  bool overlay = false;
+  std::uint64_t handle = 0;
   std::deque<Entity> entities;
   std::deque<Entity> references;
   bool dynamic = false;
@@ -101,6 +104,7 @@ struct Location : Node {
 struct Drawing {
   int lastSavedAsVersion = 0;
   int originalFileVersion = 0;
+  std::wstring originalFileName;
   // Null if the library has no name for it.
   std::optional<std::wstring> filename;
 

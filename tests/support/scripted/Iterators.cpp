@@ -8,14 +8,17 @@ class TableIterator : public ZnDbSymbolTableIterator {
   TableIterator(OpenObjects& objects, const Table& table, bool atBeginning, bool skipDeleted)
       : objects_(objects), table_(table), label_(table.label + " iterator") {
     objects_.Books().Acquire(this, label_);
-    at_ = atBeginning ? 0 : Count() - 1;
-    if (skipDeleted) SkipErased(atBeginning ? 1 : -1);
+    GoToEnd(atBeginning, skipDeleted);
   }
   ~TableIterator() override {
     objects_.Log().Record(label_, "delete");
     objects_.Books().Release(this, label_);
   }
 
+  void start(bool atBeginning, bool skipDeleted) override {
+    objects_.Log().Record(label_, "start", Arguments(atBeginning, skipDeleted));
+    GoToEnd(atBeginning, skipDeleted);
+  }
   bool done() const override {
     objects_.Log().Record(label_, "done");
     return at_ < 0 || at_ >= Count();
@@ -44,6 +47,10 @@ class TableIterator : public ZnDbSymbolTableIterator {
 
  private:
   int Count() const { return static_cast<int>(table_.records.size()); }
+  void GoToEnd(bool atBeginning, bool skipDeleted) {
+    at_ = atBeginning ? 0 : Count() - 1;
+    if (skipDeleted) SkipErased(atBeginning ? 1 : -1);
+  }
   void SkipErased(int direction) {
     while (at_ >= 0 && at_ < Count() && table_.records[static_cast<std::size_t>(at_)].erased) {
       at_ += direction;

@@ -112,6 +112,12 @@ void Library::keepDynBlock(ZnDbDynBlockTableRecord* block, ZnDbObjectId id) {
   dynBlocks_.push_back(block);
 }
 
+std::uint64_t Library::nonForwardedHandle(ZnDbObjectId id) {
+  calls_.Record("", "nonForwardedHandle", LabelOf(id));
+  const auto* const record = dynamic_cast<const Record*>(NodeOf(id));
+  return record == nullptr ? 0 : record->handle;
+}
+
 bool Library::isDynamicBlock(ZnDbObjectId id) {
   const Outcome outcome = calls_.Record("", "isDynamicBlock", LabelOf(id));
   const auto* const record = dynamic_cast<const Record*>(NodeOf(id));

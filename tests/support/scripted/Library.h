@@ -54,6 +54,7 @@ class Library : public zndb::Provider {
   Zent::ErrorStatus zndbGetGeoDataObjId(ZnDbDatabase* database, ZnDbObjectId& id) override;
 
   void keepDynBlock(ZnDbDynBlockTableRecord* block, ZnDbObjectId id) override;
+  std::uint64_t nonForwardedHandle(ZnDbObjectId id) override;
   bool isDynamicBlock(ZnDbObjectId id) override;
   Zent::ErrorStatus getAnonymousBlockIds(ZnDbObjectId id, ZnDbObjectIdArray& ids) override;
 

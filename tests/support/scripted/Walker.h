@@ -17,6 +17,12 @@ class Walker : public ZnDwgDepends::Provider {
   bool unInitializeEconveyEngine() override {
     return !calls_.Record("", "unInitializeEconveyEngine").null;
   }
+  std::unique_ptr<ZnDwgDepends::DependsBody> createDepends(const wchar_t* /*path*/,
+                                                           ZnDwgDepends::DwgDependsSettings,
+                                                           const wchar_t*, const wchar_t*, bool,
+                                                           bool) override {
+    return nullptr;
+  }
 
  private:
   CallLog& calls_;

@@ -51,6 +51,10 @@ class DwgDrawing : public model::Drawing {
   std::wstring DictionaryName(model::DictionaryKind kind) const override;
   std::optional<model::ObjectKey> Find(model::Handle handle) override;
   model::ObjectDescription Describe(model::ObjectKey object) override;
+  model::Handle HandleOf(model::ObjectKey object) override;
+  std::vector<model::FreeValue> FreeValues(model::ObjectKey record) override;
+  std::vector<model::FileReference> FileReferences() override;
+  bool IsOverlayBlock(model::ObjectKey block) override;
   bool IsLayoutBlock(model::ObjectKey block) override;
   std::vector<model::ObjectKey> BlockEntities(model::ObjectKey block) override;
   std::vector<model::ObjectKey> BlockReferences(model::ObjectKey block) override;

@@ -64,6 +64,52 @@ struct ObjectDescription {
   std::wstring className;
 };
 
+// What a drawing needs a file for.  The order is that in which FileReferences tells them.
+enum class FileUse {
+  kAttachedDrawing,
+  kOverlaidDrawing,
+  kImage,
+  kPdfUnderlay,
+  kDwfUnderlay,
+  kDgnUnderlay,
+  kPointCloud,
+  kLinkedData,
+  kTexture,
+  kFont,
+  kBigFont,
+  kShapeFile,
+  kPlotStyleTable,
+  // What a layout is plotted on: the file of a printer's configuration or a printer's name.
+  kPrinter,
+  kStyleSheet,
+  kMenu,
+  // Told by the file's own list of what it needs, and by nothing else.
+  kListed,
+};
+
+// A place where a drawing names a file.
+struct FileReference {
+  FileUse use = FileUse::kAttachedDrawing;
+  // The record that stores the path: of drawings the block's; 0 for the header, and where records
+  // have no handles.
+  Handle handle = 0;
+  // As stored; never empty.
+  std::wstring path;
+  // The block, layer or whatever else the record is for: its name, for people; may be empty.
+  std::wstring name;
+  // Whether the record came with a drawing that this one refers to.
+  bool isDependent = false;
+  // Whether the drawing was put aside by its user; only some versions tell.
+  bool isUnloaded = false;
+};
+
+// One group of a free record: texts and bytes; of other groups only the code is told.
+struct FreeValue {
+  int code = 0;
+  std::wstring text;
+  std::string bytes;
+};
+
 // The summary, as the drawing's version keeps it.  What the file leaves out is empty; a field that
 // can't be read is nullopt, and a custom entry that can't be read isn't there.
 struct Summary {
@@ -116,6 +162,17 @@ class Drawing {
   // kObject without a name for one that can't be read.  The name of a table's record is told by
   // RecordName.
   virtual ObjectDescription Describe(ObjectKey object) = 0;
+
+  // The handle of an object that has one; 0 for one that hasn't.
+  virtual Handle HandleOf(ObjectKey object) = 0;
+  // The groups of a free record in stored order; those up to the damage if it is damaged.
+  virtual std::vector<FreeValue> FreeValues(ObjectKey record) = 0;
+
+  // Every place where the drawing names a file: by use, then in the order of the table or of the
+  // dictionary that keeps the records.  One whose path can't be read or is empty isn't told.
+  virtual std::vector<FileReference> FileReferences() = 0;
+  // Whether a block's record stands for an overlaid drawing.
+  virtual bool IsOverlayBlock(ObjectKey block) = 0;
 
   // Whether a block's record is that of model space or of a layout's paper.
   virtual bool IsLayoutBlock(ObjectKey block) = 0;

@@ -103,6 +103,10 @@ const Keys& EmbeddedBlockRecord::Entities() const {
   return *entities_;
 }
 
+bool EmbeddedBlockRecord::isFromOverlayReference() const {
+  return stub_->owner->drawing()->IsOverlayBlock(*stub_->key);
+}
+
 bool EmbeddedBlockRecord::isLayout() const {
   return stub_->owner->drawing()->IsLayoutBlock(*stub_->key);
 }

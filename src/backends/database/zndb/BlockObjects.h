@@ -13,6 +13,7 @@ class EmbeddedBlockRecord : public EmbeddedRecord<ZnDbBlockTableRecord> {
  public:
   using EmbeddedRecord::EmbeddedRecord;
   bool isLayout() const override;
+  bool isFromOverlayReference() const override;
   bool hasAttributeDefinitions() const override;
   Zent::ErrorStatus newIterator(ZnDbBlockTableRecordIterator*& iterator, bool atBeginning,
                                 bool skipDeleted) const override;

@@ -25,6 +25,10 @@ ZnDbObjectId EmbeddedDatabase::EntityId(model::ObjectKey entity) {
   return ZnDbObjectId(stub);
 }
 
+model::Handle EmbeddedDatabase::HandleOf(const ZnDbStub& stub) const {
+  return stub.handle != 0 || !stub.key ? stub.handle : drawing_->HandleOf(*stub.key);
+}
+
 ZnDbObject* EmbeddedDatabase::Open(ZnDbStub& stub) {
   if (stub.object == nullptr) {
     if (!stub.key) stub.key = drawing_->Find(stub.handle);

@@ -76,6 +76,10 @@ class Provider : public ::zndb::Provider {
     return Zent::kOk;
   }
 
+  std::uint64_t nonForwardedHandle(ZnDbObjectId id) override {
+    return id.isNull() ? 0 : id.stub()->owner->HandleOf(*id.stub());
+  }
+
   Zent::ErrorStatus zndbGetSummaryInfo(ZnDbDatabase* database,
                                        ZnDbDatabaseSummaryInfo*& info) override {
     info = nullptr;

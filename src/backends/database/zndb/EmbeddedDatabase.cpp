@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "backends/System.h"
 #include "backends/database/zndb/Objects.h"
 
 namespace zdx::database {
@@ -18,6 +19,7 @@ EmbeddedDatabase::~EmbeddedDatabase() {
 bool EmbeddedDatabase::Begin(const wchar_t* path) {
   if (drawing_ != nullptr) return false;
   path_ = path;
+  fullPath_ = FullPath(path_);
   report_ = model::Report::Begin(path_);
   return true;
 }

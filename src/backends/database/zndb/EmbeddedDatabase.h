@@ -38,6 +38,8 @@ class EmbeddedDatabase : public ::zndb::DatabaseBody {
   ZnDbObjectId RecordId(model::TableKind table, model::ObjectKey record);
   ZnDbObjectId EntityId(model::ObjectKey entity);
   ZnDbObjectId HandleId(model::Handle handle);
+  // The handle of the object that `stub` stands for; 0 if it has none.
+  model::Handle HandleOf(const ZnDbStub& stub) const;
   // The object that `stub` stands for; null if there is none.
   ZnDbObject* Open(ZnDbStub& stub);
 
@@ -56,6 +58,7 @@ class EmbeddedDatabase : public ::zndb::DatabaseBody {
                            bool thumbnail) override;
   int lastSavedAsVersion() const override;
   int originalFileVersion() const override;
+  const wchar_t* originalFileName() const override { return fullPath_.c_str(); }
   Zent::ErrorStatus getFilename(const wchar_t*& name) const override;
 
   Zent::ErrorStatus getSymbolTable(ZnDbBlockTable*& table, int mode) override;
@@ -95,6 +98,7 @@ class EmbeddedDatabase : public ::zndb::DatabaseBody {
 
   OpenDatabases& open_;
   std::wstring path_;
+  std::wstring fullPath_;
   std::shared_ptr<model::Report> report_;
   std::unique_ptr<model::Drawing> drawing_;
   std::wstring dimpost_;

@@ -14,10 +14,13 @@ class TableIterator : public ZnDbSymbolTableIterator {
  public:
   TableIterator(EmbeddedDatabase* database, model::TableKind kind,
                 const std::vector<model::ObjectKey>& records, bool atBeginning)
-      : database_(database),
-        kind_(kind),
-        records_(&records),
-        at_(atBeginning || records.empty() ? 0 : records.size() - 1) {}
+      : database_(database), kind_(kind), records_(&records) {
+    start(atBeginning, true);
+  }
+
+  void start(bool atBeginning, bool /*skipDeleted*/) override {
+    at_ = atBeginning || records_->empty() ? 0 : records_->size() - 1;
+  }
 
   bool done() const override { return at_ >= records_->size(); }
 
@@ -47,7 +50,7 @@ class TableIterator : public ZnDbSymbolTableIterator {
   EmbeddedDatabase* database_;
   model::TableKind kind_;
   const std::vector<model::ObjectKey>* records_;
-  std::size_t at_;
+  std::size_t at_ = 0;
 };
 
 // Keeps its own copy of the entries: it may outlive the dictionary's closing.

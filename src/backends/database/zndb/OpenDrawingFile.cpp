@@ -24,7 +24,7 @@ FailureRow RowOf(file::Failure failure) {
     case file::Failure::kNotAFile:
       return {Zent::kFileAccess, L"This isn't a file."};
     case file::Failure::kInUse:
-      return {Zent::kFileAccess, L"Another program has the file open and doesn't share it."};
+      return {Zent::kSharingViolation, L"Another program has the file open and doesn't share it."};
     case file::Failure::kNoAccess:
       return {Zent::kFileAccess, L"The file may not be read."};
     default:
