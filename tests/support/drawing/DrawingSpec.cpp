@@ -20,4 +20,11 @@ BlockSpec XrefBlock(std::string name, std::string path, Xref xref) {
   return block;
 }
 
+TextStyleSpec ShapeFile(std::string file, std::string handle) {
+  TextStyleSpec style("", std::move(file));
+  style.flags = 1;
+  style.handle = std::move(handle);
+  return style;
+}
+
 }  // namespace drawing

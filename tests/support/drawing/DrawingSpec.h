@@ -8,6 +8,7 @@
 
 #include "support/drawing/EntitySpec.h"
 #include "support/drawing/ObjectSpec.h"
+#include "support/drawing/ReferenceSpec.h"
 #include "support/drawing/Tags.h"
 #include "support/drawing/Tokens.h"
 
@@ -15,6 +16,10 @@ namespace drawing {
 
 // Of model space's block record; a spec can't choose it for an object of its own.
 inline constexpr const char* kModelSpaceHandle = "1";
+
+// Of layers, text styles and blocks: the record came with the drawing of the xref that its name
+// begins with, up to a vertical bar.
+inline constexpr int kXrefDependent = 16;
 
 struct LayerSpec {
   LayerSpec(const char* layerName) : name(layerName) {}
@@ -53,7 +58,11 @@ struct TextStyleSpec {
   int flags = 0;
   // The family of an outline font, empty for none.
   std::string family;
+  std::string handle;
 };
+
+// The record of a file of shapes.
+TextStyleSpec ShapeFile(std::string file, std::string handle = {});
 
 struct ViewSpec {
   ViewSpec(const char* viewName) : name(viewName) {}
@@ -79,6 +88,10 @@ struct BlockSpec {
   Xref xref = Xref::None;
   // Of an xref: where the drawing lies, as stored.
   std::string path = {};
+  // Of an xref: put aside, which DWG files tell from AC1015 on.
+  bool isUnloaded = false;
+  // Of an overlaid xref: DWG files mark it as overlaid, but not as an xref as well.
+  bool isOverlayAlone = false;
   std::string description = {};
   // Added to the bits that follow from the rest.
   int flags = 0;
@@ -116,6 +129,19 @@ struct LayoutSpec {
   std::string media = "A3";
 };
 
+// A page setup of its own, kept under its name.
+struct PageSetupSpec {
+  PageSetupSpec(const char* setupName) : name(setupName) {}
+  PageSetupSpec(std::string setupName, std::string setupPrinter, std::string plotStyleSheet = {})
+      : name(std::move(setupName)),
+        printer(std::move(setupPrinter)),
+        styleSheet(std::move(plotStyleSheet)) {}
+
+  std::string name;
+  std::string printer = "none_device";
+  std::string styleSheet;
+};
+
 struct GroupSpec {
   GroupSpec(const char* groupName) : name(groupName) {}
   GroupSpec(std::string groupName, std::string groupDescription,
@@ -138,6 +164,8 @@ struct ImageSpec {
   Point at = {};
   double width = 1.0;
   std::string layer = "0";
+  // Of the definition.
+  std::string handle = {};
 };
 
 struct ClassSpec {
@@ -262,10 +290,15 @@ struct DrawingSpec {
 
   std::vector<GroupSpec> groups;
   std::vector<std::string> mlineStyles = {"Standard"};
-  std::vector<std::string> plotSettings;
+  std::vector<PageSetupSpec> plotSettings;
   // Behind the standard entries of the root dictionary.
   std::vector<NamedObject> rootEntries;
   std::vector<ImageSpec> images;
+  std::vector<UnderlaySpec> underlays;
+  std::vector<PointCloudSpec> pointClouds;
+  std::vector<DataLinkSpec> dataLinks;
+  std::vector<MaterialSpec> materials;
+  FileListSpec fileList;
   // The program that wrote the drawing, told in DWG files of AC1018 and later.  No entries: told
   // nothing.
   AppInfoSpec appInfo;

@@ -25,6 +25,12 @@ class Chosen {
 
   void Visit(const DrawingSpec& spec) {
     for (const LayerSpec& layer : spec.layers) Add(layer.handle);
+    for (const TextStyleSpec& style : spec.textStyles) Add(style.handle);
+    for (const ImageSpec& image : spec.images) Add(image.handle);
+    for (const UnderlaySpec& underlay : spec.underlays) Add(underlay.handle);
+    for (const PointCloudSpec& cloud : spec.pointClouds) Add(cloud.handle);
+    for (const DataLinkSpec& link : spec.dataLinks) Add(link.handle);
+    for (const MaterialSpec& material : spec.materials) Add(material.handle);
     for (const BlockSpec& block : spec.blocks) Visit(block);
     for (const LayoutSpec& layout : spec.layouts) Visit(layout.entities);
     for (const AttributeSpec& definition : spec.definitions) Add(definition.handle);

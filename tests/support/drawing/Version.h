@@ -22,6 +22,18 @@ inline bool HasLayouts(Version version) { return version >= Version::AC1015; }
 // True for the versions that know pictures.
 inline bool HasImages(Version version) { return version >= Version::AC1014; }
 
+// True for the versions that know documents shown below the drawing.
+inline bool HasUnderlays(Version version) { return version >= Version::AC1015; }
+
+// True for the versions that know links to data and materials with pictures.
+inline bool HasMaterials(Version version) { return version >= Version::AC1021; }
+
+// True for the versions that know point clouds.
+inline bool HasPointClouds(Version version) { return version >= Version::AC1024; }
+
+// True for the versions whose blocks tell drawings that were put aside.
+inline bool HasUnloadedXrefs(Version version) { return version >= Version::AC1015; }
+
 // True for the versions that keep the summary in header variables.
 inline bool HasHeaderSummary(Version version) { return version >= Version::AC1018; }
 

@@ -49,9 +49,11 @@ void PutFlags(Fields& fields, const Drawing& drawing, const PlannedBlock& block)
   const Xref xref = block.spec == nullptr ? Xref::None : block.spec->xref;
   fields.B(IsAnonymous(drawing, block));
   fields.B(!block.entities.empty() && block.entities.front().definition != nullptr);
-  fields.B(xref != Xref::None);
+  fields.B(xref != Xref::None && !(xref == Xref::Overlaid && block.spec->isOverlayAlone));
   fields.B(xref == Xref::Overlaid);
-  if (fields.IsSince(Version::AC1015)) fields.B(xref != Xref::None);
+  if (drawing::HasUnloadedXrefs(fields.TargetVersion())) {
+    fields.B(xref != Xref::None && !block.spec->isUnloaded);
+  }
 }
 
 void PutDescription(Fields& fields, const PlannedBlock& block) {
@@ -70,7 +72,6 @@ void PutDescription(Fields& fields, const PlannedBlock& block) {
 }
 
 void PutReferences(Fields& fields, const PlannedBlock& block) {
-  fields.H(Link::HardPointer, 0);
   fields.H(Link::HardOwner, block.begin);
   const std::vector<PlannedEntity>& entities = block.entities;
   if (fields.IsSince(Version::AC1018)) {
@@ -89,10 +90,8 @@ void WriteRecord(Drawing& drawing, const PlannedBlock& block) {
   const Handle extension = WriteBlockExtension(drawing, block);
   Fields fields = drawing.NewFields(block.record);
   BeginObject(fields, drawing.roots.blocks, {}, extension);
-  fields.T(StoredName(RecordName(drawing, block), drawing.version));
-  if (!fields.IsSince(Version::AC1021)) fields.B(true);
-  fields.BS(0);
-  if (!fields.IsSince(Version::AC1021)) fields.B(false);
+  PutRecordName(drawing, fields, RecordName(drawing, block),
+                block.spec == nullptr ? 0 : block.spec->flags);
   PutFlags(fields, drawing, block);
   if (fields.IsSince(Version::AC1018) && HasOwnedList(block)) {
     fields.BL(static_cast<std::int64_t>(block.entities.size()));

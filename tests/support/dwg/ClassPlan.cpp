@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "support/drawing/ReferenceObjects.h"
 #include "support/dwg/Drawing.h"
 #include "support/dwg/Tokens.h"
 #include "support/dwg/Types.h"
@@ -33,6 +34,7 @@ class ClassList {
       AddClass({kLightPolyline, drawing::kPolylineMarker, "ObjectLib Classes", true});
       AddClass({drawing::kXrecord, drawing::kXrecordMarker});
     }
+    for (const ClassSpec& known : drawing::ReferenceClasses(spec, version_)) AddClass(known);
     if (spec.images.empty()) return;
     AddClass({drawing::kImageDefinition, drawing::kImageDefinitionMarker, kPictureApplication});
     AddClass({drawing::kImageReactor, drawing::kImageReactorMarker, kPictureApplication});

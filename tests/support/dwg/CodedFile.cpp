@@ -29,12 +29,12 @@ struct KnownSection {
 
 // What files tell beside a section's name.
 constexpr KnownSection kHashes[] = {
-    {kHeaderSection, 0x32B803D9},        {kAuxHeaderSection, 0x54F0050A},
-    {kClassesSection, 0x3F54045F},       {kHandlesSection, 0x3F6E0450},
-    {kTemplateSection, 0x4A1404CE},      {kObjectsSection, 0x674C05A9},
-    {kRevisionsSection, 0x60A205B3},     {kSummarySection, 0x717A060F},
-    {kPreviewSection, 0x40AA0473},       {kAppInfoSection, 0x3FA0043E},
-    {kAppInfoHistorySection, 0x96DE0737}};
+    {kHeaderSection, 0x32B803D9},         {kAuxHeaderSection, 0x54F0050A},
+    {kClassesSection, 0x3F54045F},        {kHandlesSection, 0x3F6E0450},
+    {kTemplateSection, 0x4A1404CE},       {kObjectsSection, 0x674C05A9},
+    {kRevisionsSection, 0x60A205B3},      {kSummarySection, 0x717A060F},
+    {kPreviewSection, 0x40AA0473},        {kAppInfoSection, 0x3FA0043E},
+    {kAppInfoHistorySection, 0x96DE0737}, {kFileListSection, 0x6C4205CA}};
 
 struct CodedPage {
   std::size_t id;
@@ -50,6 +50,7 @@ struct CodedSection {
   std::size_t size = 0;
   std::size_t pageSize = kUsualPageSize;
   bool isCoded = true;
+  bool isEncrypted = false;
   std::vector<CodedPage> pages = {};
 };
 
@@ -102,8 +103,9 @@ void AppendNumbers(std::string& bytes, std::initializer_list<std::uint64_t> numb
 
 void AppendSection(std::string& map, const CodedSection& section) {
   const std::string name = section.name.empty() ? "" : Utf16(section.name) + std::string(2, '\0');
-  AppendNumbers(map, {section.size, section.pageSize, 0, HashOf(section.name), name.size(), 0,
-                      section.isCoded ? 4u : 1u, section.pages.size()});
+  AppendNumbers(
+      map, {section.size, section.pageSize, section.isEncrypted ? 2u : 0u, HashOf(section.name),
+            name.size(), 0, section.isCoded ? 4u : 1u, section.pages.size()});
   map += name;
   for (const CodedPage& page : section.pages) {
     AppendNumbers(map, {page.offset, RoundedUp(page.contents.size(), kReserveUnit), page.id,
@@ -149,6 +151,7 @@ class CodedBody {
   // As it is, in one page of a multiple of `unit`, with room for the bytes that would protect it.
   void AddPlain(const char* name, const std::string& bytes, std::size_t unit) {
     CodedSection section{name, bytes.size(), RoundedUp(bytes.size(), unit), false};
+    section.isEncrypted = name == std::string_view(kFileListSection);
     const std::size_t parity =
         WordCount(section.pageSize, kDataWords) * (kWordSize - kDataWords.dataSize);
     AddPage(section, bytes, RoundedUp(section.pageSize + parity, kPageUnit), 0, bytes, bytes);
@@ -284,6 +287,9 @@ std::string FileWithMapPage(Drawing& drawing, const std::vector<PlainSection>& s
   if (!history.empty()) {
     historyAt = body.NextData(2 * mapPage);
     body.AddPlain(kAppInfoHistorySection, history, 0x80);
+  }
+  if (!drawing.spec.fileList.files.empty()) {
+    body.AddPlain(kFileListSection, FileListSection(drawing), 0x80);
   }
   for (std::size_t i = sections.size(); i > 0; --i) {
     body.AddCoded(sections[i - 1].name, sections[i - 1].bytes);

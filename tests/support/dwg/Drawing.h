@@ -145,6 +145,9 @@ class Drawing {
 void PlanRecords(Drawing& drawing);
 std::vector<NumberedClass> NumberedClasses(const DrawingSpec& spec, Version version);
 
+// The fields that each record of a table begins with: the name, and whether it came with an xref.
+void PutRecordName(Drawing& drawing, Fields& fields, const std::string& name, int flags = 0);
+
 // The records, part by part.
 void WriteTables(Drawing& drawing);
 // The style in use; `fields` hold what all records of tables begin with.
@@ -208,6 +211,8 @@ struct DictionaryKind {
 void WriteDictionary(Drawing& drawing, Handle handle, Handle owner,
                      const std::vector<NamedHandle>& entries, const DictionaryKind& kind = {});
 void WriteObject(Drawing& drawing, const ObjectSpec& object, Handle handle, Handle owner);
+// Puts the fields of an object that names files; nothing for others.
+void PutFileObject(Fields& fields, const ObjectSpec& object);
 
 // The values of a record of free values.
 std::string FreeValues(const Drawing& drawing, const std::vector<Tag>& tags);

@@ -30,6 +30,8 @@ constexpr CodeRange kCodeRanges[] = {
     {1071, 1071, Kind::Long},
 };
 
+constexpr std::size_t kLongestChunk = 127;
+
 Kind KindOf(int code) {
   for (const CodeRange& range : kCodeRanges) {
     if (code >= range.first && code <= range.last) return range.kind;
@@ -70,9 +72,21 @@ std::size_t IntegerSize(Kind kind) {
   }
 }
 
-void AppendChunk(std::string& bytes, const std::string& chunk) {
+void AppendChunk(std::string& bytes, std::string_view chunk) {
+  if (chunk.size() > kLongestChunk) throw std::invalid_argument("too many bytes for one chunk");
   AppendNumber(bytes, chunk.size(), 1);
   bytes += chunk;
+}
+
+// As many chunks as the bytes need, at least one.
+void AppendChunks(std::string& bytes, const Tag& tag) {
+  const std::string all = TextOf(tag);
+  std::size_t at = 0;
+  do {
+    AppendNumber(bytes, static_cast<std::uint64_t>(tag.code), 2);
+    AppendChunk(bytes, std::string_view(all).substr(at, kLongestChunk));
+    at += kLongestChunk;
+  } while (at < all.size());
 }
 
 void AppendValue(std::string& bytes, const Drawing& drawing, const Tag& tag, Kind kind) {
@@ -121,6 +135,10 @@ std::string FreeValues(const Drawing& drawing, const std::vector<Tag>& tags) {
   std::string bytes;
   for (std::size_t at = 0; at < tags.size();) {
     const Kind kind = KindOf(tags[at].code);
+    if (kind == Kind::Chunk) {
+      AppendChunks(bytes, tags[at++]);
+      continue;
+    }
     AppendNumber(bytes, static_cast<std::uint64_t>(tags[at].code), 2);
     if (kind == Kind::Point) {
       at += AppendPoint(bytes, tags, at);

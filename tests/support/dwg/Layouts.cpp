@@ -68,10 +68,12 @@ void WriteLayout(Drawing& drawing, const drawing::LayoutSpec& layout, int tab,
               fields);
 }
 
-void WritePlotSettings(Drawing& drawing, const std::string& name, Handle handle) {
+void WritePlotSettings(Drawing& drawing, const drawing::PageSetupSpec& setup, Handle handle) {
+  drawing::LayoutSpec layout(setup.name, {}, setup.styleSheet);
+  layout.printer = setup.printer;
   Fields fields = drawing.NewFields(handle);
   BeginObject(fields, drawing.roots.plotSettings, {drawing.roots.plotSettings});
-  PutPlotSettings(fields, name, drawing::LayoutSpec(name), 0);
+  PutPlotSettings(fields, setup.name, layout, 0);
   if (fields.IsSince(Version::AC1018)) fields.H(Link::HardPointer, 0);
   if (fields.IsSince(Version::AC1021)) fields.H(Link::HardPointer, 0);
   drawing.Add(RecordHead{drawing.ClassNumber(drawing::kPlotSettings)}, fields);
@@ -101,9 +103,9 @@ void WriteLayouts(Drawing& drawing) {
   WriteDictionary(drawing, roots.layouts, roots.named, layouts);
 
   std::vector<NamedHandle> settings;
-  for (const std::string& name : spec.plotSettings) {
-    settings.push_back({name, drawing.NextHandle()});
-    WritePlotSettings(drawing, name, settings.back().handle);
+  for (const drawing::PageSetupSpec& setup : spec.plotSettings) {
+    settings.push_back({setup.name, drawing.NextHandle()});
+    WritePlotSettings(drawing, setup, settings.back().handle);
   }
   WriteDictionary(drawing, roots.plotSettings, roots.named, settings);
   WritePlotStyles(drawing);

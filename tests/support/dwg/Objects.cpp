@@ -138,7 +138,7 @@ void WriteObject(Drawing& drawing, const ObjectSpec& object, Handle handle, Hand
   if (object.type == kGeoLocation && !object.body.empty()) {
     return WriteGeoLocation(drawing, object, fields);
   }
-  // An object without data of its own.
+  PutFileObject(fields, object);
   drawing.Add(RecordHead{drawing.ClassNumber(object.type)}, fields);
 }
 

@@ -252,7 +252,7 @@ std::string PagedFile(Drawing& drawing) {
     historyAt = body.NextData();
     body.AddPlain(kAppInfoHistorySection, ++id, history, 0x80);
   }
-  body.AddPlain(kFileListSection, ++id, FileListSection(), 0x80);
+  body.AddPlain(kFileListSection, ++id, FileListSection(drawing), 0x80);
   for (std::size_t i = sections.size(); i > 0; --i) {
     body.AddCompressed(sections[i - 1].name, i, sections[i - 1].bytes);
   }

@@ -1,6 +1,7 @@
 #include "support/dwg/PlainSections.h"
 
 #include <initializer_list>
+#include <stdexcept>
 
 #include "support/dwg/Bytes.h"
 #include "support/dwg/Times.h"
@@ -15,6 +16,8 @@ constexpr const char* kAppInfoHistoryMark =
 constexpr std::size_t kHeadPictureSize = 80;
 constexpr unsigned kHeadPicture = 1;
 constexpr std::size_t kEntrySize = 9;
+constexpr std::uint64_t kListedTime = 1704103200;
+constexpr std::uint64_t kListedSize = 4096;
 
 // A text with its count of characters, the zero at its end among them.
 std::string WideText(std::string_view utf8) {
@@ -51,6 +54,24 @@ std::string AppInfoList(unsigned first, const std::string& label,
     bytes += IdBytes(entry.id) + WideText(entry.text);
   }
   return bytes;
+}
+
+// A text of the list of files with its count of bytes, without a zero at its end.
+std::string ListText(const Drawing& drawing, std::string_view utf8) {
+  const bool isWide = drawing.IsSince(Version::AC1021);
+  const int size = drawing.spec.fileList.characterSize.value_or(isWide ? 2 : 1);
+  if (size != 1 && size != 2 && size != 4) throw std::invalid_argument("no such characters");
+  if (size == 1) {
+    const std::string text = drawing.encoder.Encode(utf8);
+    return NumberBytes(text.size(), 4) + text;
+  }
+  const std::string units = Utf16(utf8);
+  std::string text;
+  for (std::size_t at = 0; at < units.size(); at += 2) {
+    text += units.substr(at, 2);
+    if (size == 4) text += std::string(2, '\0');
+  }
+  return NumberBytes(text.size(), 4) + text;
 }
 
 unsigned CodeOf(drawing::PreviewKind kind) {
@@ -94,8 +115,25 @@ std::string AppInfoHistorySection(const Drawing& drawing) {
   return FromHex(kAppInfoHistoryMark) + AppInfoList(0, info.label, info.history);
 }
 
-// No features and no files.
-std::string FileListSection() { return std::string(8, '\0'); }
+std::string FileListSection(const Drawing& drawing) {
+  const drawing::FileListSpec& list = drawing.spec.fileList;
+  std::string bytes = NumberBytes(list.features.size(), 4);
+  for (const std::string& feature : list.features) bytes += ListText(drawing, feature);
+  AppendNumber(bytes, list.files.size(), 4);
+  for (const drawing::ListedFile& file : list.files) {
+    // Behind name and path no fingerprint and no version.
+    for (const std::string& text : {file.name, file.path, std::string(), std::string()}) {
+      bytes += ListText(drawing, text);
+    }
+    AppendNumber(bytes, static_cast<std::uint64_t>(file.feature), 4);
+    AppendNumber(bytes, kListedTime, 4);
+    AppendNumber(bytes, kListedSize, 4);
+    // Shown in the drawing; one place names it.
+    AppendNumber(bytes, 1, 2);
+    AppendNumber(bytes, 1, 4);
+  }
+  return bytes;
+}
 
 // No description; metric.
 std::string TemplateSection(Version version) {

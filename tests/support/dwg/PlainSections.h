@@ -15,7 +15,8 @@ std::string SummarySection(const Drawing& drawing);
 // Empty for a drawing that tells nothing about its program.
 std::string AppInfoSection(const Drawing& drawing);
 std::string AppInfoHistorySection(const Drawing& drawing);
-std::string FileListSection();
+// What the file itself tells that it needs.
+std::string FileListSection(const Drawing& drawing);
 std::string TemplateSection(Version version);
 std::string AuxHeaderSection(const Drawing& drawing);
 std::string RevisionsSection();

@@ -93,7 +93,7 @@ void PlanContents(Drawing& drawing) {
   }
   for (const drawing::ImageSpec& image : spec.images) {
     drawing.blocks[0].entities.push_back({drawing.NextHandle(), nullptr, nullptr, &image});
-    drawing.imageDefinitions.push_back(drawing.NextHandle());
+    drawing.imageDefinitions.push_back(drawing.NextHandle(image.handle));
   }
 }
 
@@ -123,7 +123,7 @@ void PlanTables(Drawing& drawing) {
     drawing.linetypes.push_back({linetype.name, drawing.NextHandle()});
   }
   for (const drawing::TextStyleSpec& style : spec.textStyles) {
-    drawing.styles.push_back({style.name, drawing.NextHandle()});
+    drawing.styles.push_back({style.name, drawing.NextHandle(style.handle)});
   }
   for (const std::string& application : spec.applications) {
     drawing.applications.push_back({application, drawing.NextHandle()});

@@ -1,5 +1,6 @@
 #include <numbers>
 
+#include "support/drawing/ReferenceObjects.h"
 #include "support/dwg/Drawing.h"
 #include "support/dwg/Tokens.h"
 
@@ -108,6 +109,8 @@ void WriteRootDictionary(Drawing& drawing) {
   if (!drawing.IsSince(Version::AC1018) && spec.hasSummary) {
     objects.emplace_back(drawing::kSummaryKey, SummaryRecord(spec));
   }
+  const std::vector<NamedObject> references = drawing::ReferenceDictionaries(spec, drawing.version);
+  objects.insert(objects.end(), references.begin(), references.end());
   objects.insert(objects.end(), spec.rootEntries.begin(), spec.rootEntries.end());
   const std::vector<NamedHandle> others = WriteEntries(drawing, objects, roots.named);
   entries.insert(entries.end(), others.begin(), others.end());

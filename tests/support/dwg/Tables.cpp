@@ -4,7 +4,6 @@
 namespace dwg {
 namespace {
 
-constexpr int kXrefDependent = 16;
 constexpr int kXrefIndex = 256;
 constexpr double kLens = 50.0;
 constexpr unsigned kDefaultLineWeight = 0x1F;
@@ -28,21 +27,12 @@ std::vector<NamedObject> TrueName(const Drawing& drawing, const std::string& nam
   return {{kRoundTripKey, drawing::Xrecord({{102, kTrueNames}, {1, stored}, {2, name}})}};
 }
 
-// The fields that each record of a table begins with.
 Fields BeginRecord(Drawing& drawing, Handle handle, Handle table, const std::string& name,
                    int flags = 0) {
   const Handle extension = WriteExtension(drawing, TrueName(drawing, name), handle);
   Fields fields = drawing.NewFields(handle);
   BeginObject(fields, table, {}, extension);
-  fields.T(StoredName(name, drawing.version));
-  const bool isDependent = (flags & kXrefDependent) != 0;
-  if (!fields.IsSince(Version::AC1021)) fields.B(true);
-  fields.BS(isDependent ? kXrefIndex : 0);
-  if (!fields.IsSince(Version::AC1021)) fields.B(isDependent);
-  // A dependent record is named after its drawing's block.
-  const PlannedBlock* block =
-      isDependent ? drawing.BlockNamed(name.substr(0, name.find('|'))) : nullptr;
-  fields.H(Link::HardPointer, block == nullptr ? 0 : block->record);
+  PutRecordName(drawing, fields, name, flags);
   return fields;
 }
 
@@ -261,6 +251,18 @@ void WriteBlockControl(Drawing& drawing) {
 }
 
 }  // namespace
+
+void PutRecordName(Drawing& drawing, Fields& fields, const std::string& name, int flags) {
+  const bool isDependent = (flags & drawing::kXrefDependent) != 0;
+  fields.T(StoredName(name, drawing.version));
+  if (!fields.IsSince(Version::AC1021)) fields.B(true);
+  fields.BS(isDependent ? kXrefIndex : 0);
+  if (!fields.IsSince(Version::AC1021)) fields.B(isDependent);
+  // A dependent record is named after its drawing's block.
+  const PlannedBlock* block =
+      isDependent ? drawing.BlockNamed(name.substr(0, name.find('|'))) : nullptr;
+  fields.H(Link::HardPointer, block == nullptr ? 0 : block->record);
+}
 
 void WriteTables(Drawing& drawing) {
   WriteBlockControl(drawing);

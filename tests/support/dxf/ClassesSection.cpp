@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cctype>
 
+#include "support/drawing/ReferenceObjects.h"
 #include "support/dxf/Drawing.h"
 #include "support/dxf/Tokens.h"
 
@@ -49,6 +50,8 @@ std::vector<ClassSpec> ClassesOf(const DrawingSpec& spec, Version version) {
     classes.push_back({kImageReactor, kImageReactorMarker, kPictureApplication});
     classes.push_back({kImage, kImageMarker, kPictureApplication, true});
   }
+  const std::vector<ClassSpec> references = ReferenceClasses(spec, version);
+  classes.insert(classes.end(), references.begin(), references.end());
   classes.insert(classes.end(), spec.classes.begin(), spec.classes.end());
   AddProxied(classes, spec.rootEntries);
   AddProxied(classes, spec.modelExtension);

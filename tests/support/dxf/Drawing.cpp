@@ -9,7 +9,7 @@ Drawing::Drawing(const DrawingSpec& drawingSpec, TagWriter& writer)
   blocks = PlanBlocks(spec, version, handles);
   classes = ClassesOf(spec, version);
   imageDictionary = handles.Next();
-  for (std::size_t i = 0; i < spec.images.size(); ++i) imageDefinitions.push_back(handles.Next());
+  for (const ImageSpec& image : spec.images) imageDefinitions.push_back(handles.Or(image.handle));
   plotStyle = handles.Next();
   PlanReferences(*this);
 }

@@ -253,5 +253,73 @@ TEST(DxfMaker, TheOldestVersionCanDoWithoutBlocksForTheSpaces) {
   EXPECT_EQ(blocks(), 0);
 }
 
+// The paths that objects of the class `type` hold.
+std::vector<std::string> PathsOf(const DrawingSpec& spec, const std::string& type,
+                                 const std::string& code = "1") {
+  return ValuesAfter(TagsOf(MakeUnix(spec)), {"0", type}, code);
+}
+
+TEST(DxfMaker, ObjectsThatNameFilesStandInTheVersionsThatKnowThem) {
+  DrawingSpec spec;
+  spec.underlays = {{.name = "site", .path = "site.pdf", .item = "2"}};
+  spec.pointClouds = {{.name = "hall", .path = "hall.rcp", .isOfSecondClass = true}};
+  spec.dataLinks = {{.name = "rates", .connection = "rates.xlsx!Sheet"}};
+  spec.materials = {{.name = "Oak", .diffuse = "oak.jpg", .bump = "rough.png"}};
+  using Values = std::vector<std::string>;
+  for (const char* version : {"AC1014", "AC1015", "AC1021", "AC1032"}) {
+    spec.version = version;
+    const bool isNewest = spec.version == "AC1032";
+    const bool isNew = isNewest || spec.version == "AC1021";
+    const bool isOldest = spec.version == "AC1014";
+    EXPECT_EQ(PathsOf(spec, "PDFDEFINITION"), isOldest ? Values{} : Values{"site.pdf"});
+    EXPECT_EQ(PathsOf(spec, "PDFDEFINITION", "2"), isOldest ? Values{} : Values{"2"});
+    EXPECT_EQ(PathsOf(spec, "ACDBPOINTCLOUDDEFEX"), isNewest ? Values{"hall.rcp"} : Values{});
+    EXPECT_EQ(PathsOf(spec, "DATALINK", "302"), isNew ? Values{"rates.xlsx!Sheet"} : Values{});
+    EXPECT_EQ(PathsOf(spec, "MATERIAL", "3"), isNew ? Values{"oak.jpg"} : Values{});
+    EXPECT_EQ(PathsOf(spec, "MATERIAL", "8"), isNew ? Values{"rough.png"} : Values{});
+  }
+}
+
+TEST(DxfMaker, BlocksTellHowTheirDrawingsAreReferredTo) {
+  DrawingSpec spec;
+  spec.blocks = {XrefBlock("A", "a.dwg"), XrefBlock("B", "b.dwg", Xref::Overlaid),
+                 XrefBlock("A|C", "c.dwg")};
+  spec.blocks[2].flags = kXrefDependent;
+  std::vector<int> flags;
+  std::vector<std::string> paths;
+  bool isBlock = false;
+  for (const auto& [code, value] : TagsOf(MakeUnix(spec))) {
+    if (code == "0") isBlock = value == "BLOCK";
+    if (isBlock && code == "70") flags.push_back(std::stoi(value));
+    if (isBlock && code == "1" && !value.empty()) paths.push_back(value);
+  }
+  ASSERT_EQ(flags.size(), 5u);
+  EXPECT_EQ(flags[2] & 28, 4);
+  EXPECT_EQ(flags[3] & 28, 12);
+  EXPECT_EQ(flags[4] & 28, 20);
+  EXPECT_EQ(paths, (std::vector<std::string>{"a.dwg", "b.dwg", "c.dwg"}));
+}
+
+TEST(DxfMaker, LayoutsAndPageSetupsNamePrintersAndPlotStyles) {
+  DrawingSpec spec;
+  spec.layouts = {{"Sheet", {}, "sheet.ctb"}};
+  spec.layouts[0].printer = "plotter.pc3";
+  spec.plotSettings = {{"A3", "laser.pc3", "grey.stb"}};
+  const std::vector<Pair> tags = TagsOf(MakeUnix(spec));
+  EXPECT_EQ(ValuesAfter(tags, {"0", "PLOTSETTINGS"}, "2"), std::vector<std::string>{"laser.pc3"});
+  EXPECT_EQ(ValuesAfter(tags, {"0", "PLOTSETTINGS"}, "7"), std::vector<std::string>{"grey.stb"});
+  EXPECT_NE(std::find(tags.begin(), tags.end(), Pair("2", "plotter.pc3")), tags.end());
+  EXPECT_NE(std::find(tags.begin(), tags.end(), Pair("7", "sheet.ctb")), tags.end());
+}
+
+TEST(DxfMaker, AShapeFileHasNoName) {
+  DrawingSpec spec;
+  spec.textStyles = {ShapeFile("signs.shx", "A1")};
+  const std::vector<Pair> tags = TagsOf(MakeUnix(spec));
+  EXPECT_EQ(ValuesAfter(tags, {"5", "A1"}, "2"), std::vector<std::string>{""});
+  EXPECT_EQ(ValuesAfter(tags, {"5", "A1"}, "3"), std::vector<std::string>{"signs.shx"});
+  EXPECT_EQ(ValuesAfter(tags, {"5", "A1"}, "70"), std::vector<std::string>{"     1"});
+}
+
 }  // namespace
 }  // namespace dxf

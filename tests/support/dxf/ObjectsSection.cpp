@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "support/drawing/ReferenceObjects.h"
 #include "support/dxf/Drawing.h"
 #include "support/dxf/Tokens.h"
 
@@ -131,8 +132,10 @@ NamedObject MlineStyleDictionary(const DrawingSpec& spec) {
 
 NamedObject PlotSettingsDictionary(const DrawingSpec& spec) {
   std::vector<NamedObject> entries;
-  for (const std::string& name : spec.plotSettings) {
-    entries.emplace_back(name, PlotSettings(name, LayoutSpec(name), 0));
+  for (const PageSetupSpec& setup : spec.plotSettings) {
+    LayoutSpec layout(setup.name, {}, setup.styleSheet);
+    layout.printer = setup.printer;
+    entries.emplace_back(setup.name, PlotSettings(setup.name, layout, 0));
   }
   return {kPlotSettingsKey, Dictionary(entries)};
 }
@@ -159,6 +162,8 @@ ObjectSpec RootDictionary(const Drawing& drawing) {
   if (HasSummaryRecord(spec, drawing.version)) {
     entries.emplace_back(kSummaryKey, SummaryRecord(spec));
   }
+  const std::vector<NamedObject> references = ReferenceDictionaries(spec, drawing.version);
+  entries.insert(entries.end(), references.begin(), references.end());
   entries.insert(entries.end(), spec.rootEntries.begin(), spec.rootEntries.end());
   return Dictionary(entries);
 }

@@ -111,7 +111,7 @@ void WriteLayers(Drawing& drawing) {
 void WriteTextStyles(Drawing& drawing) {
   Table table(drawing, "STYLE", kTextStyleTableRecordMarker, drawing.spec.textStyles.size());
   for (const TextStyleSpec& style : drawing.spec.textStyles) {
-    table.BeginRecord(style.name, style.flags);
+    table.BeginRecord(style.name, style.flags, style.handle);
     drawing.out.Put({{40, 0}, {41, 1}, {50, 0}, {71, 0}, {42, 2.5}});
     drawing.out.Put({{3, style.font}, {4, style.bigFont}});
     if (!style.family.empty()) {

@@ -121,7 +121,23 @@ class DwgDrawing : public model::Drawing {
                                               std::wstring_view key);
   // Whether nobody asked for `part` as one of another object.
   bool IsPartOf(model::Handle owner, model::Handle part);
-  std::vector<model::ObjectKey> CollectRecords(model::TableKind table);
+  // A symbol table.
+  struct Table;
+  std::vector<model::ObjectKey> CollectRecords(const Table& table);
+  std::vector<model::ObjectKey> TextStyles();
+  // The files that were found so far, and the records that were looked at for them.
+  struct Files {
+    std::vector<model::FileReference> found;
+    std::unordered_set<model::Handle> known = {};
+  };
+  void AddFile(Files& files, model::FileReference file);
+  void FindDrawings(Files& files);
+  void FindInDictionaries(Files& files);
+  bool KeepsFiles(const model::DictionaryEntry& entry);
+  void TakeObject(Files& files, const model::DictionaryEntry& entry);
+  void FindFonts(Files& files);
+  void FindInHeader(Files& files);
+  void FindListed(Files& files);
   std::optional<Object> ReadBlock(model::Handle handle, const Question& question,
                                   Record::Extent extent = Record::Extent::kWhole);
   bool IsBlockRecord(model::Handle handle);

@@ -10,27 +10,35 @@
 #include "base/CaseFold.h"
 
 namespace zdx::dwg {
+
+struct DwgDrawing::Table {
+  // The header variable that names the table.
+  Key variable;
+  ObjectType type;
+  // The records that the table names apart from its list, and that come first.
+  Key firstApart = Key::kNone;
+  Key secondApart = Key::kNone;
+};
+
 namespace {
 
 struct TableRow {
   model::TableKind kind;
-  // The header variable that names the table.
   Key variable;
   ObjectType type;
   ObjectType recordType;
-  // The records that the table names apart from its list, and that come first.
-  Key firstApart;
-  Key secondApart;
+  // Of the records apart.
+  Key first = Key::kNone;
+  Key second = Key::kNone;
 };
 
 constexpr TableRow kTables[] = {
     {model::TableKind::kBlock, Key::kBlockTable, kBlockTableType, kBlockRecordType,
      Key::kModelSpace, Key::kPaperSpace},
-    {model::TableKind::kLayer, Key::kLayerTable, kLayerTableType, kLayerType, Key::kNone,
-     Key::kNone},
+    {model::TableKind::kLayer, Key::kLayerTable, kLayerTableType, kLayerType},
     {model::TableKind::kLinetype, Key::kLinetypeTable, kLinetypeTableType, kLinetypeType,
      Key::kByBlock, Key::kByLayer},
-    {model::TableKind::kView, Key::kViewTable, kViewTableType, kViewType, Key::kNone, Key::kNone},
+    {model::TableKind::kView, Key::kViewTable, kViewTableType, kViewType},
 };
 
 const TableRow& RowOf(model::TableKind kind) {
@@ -50,12 +58,17 @@ bool IsAnonymous(const std::wstring& name) { return !name.empty() && name.front(
 const std::vector<model::ObjectKey>& DwgDrawing::TableRecords(model::TableKind table) {
   const auto found = tables_.find(table);
   if (found != tables_.end()) return found->second;
-  return tables_.emplace(table, CollectRecords(table)).first->second;
+  const TableRow& row = RowOf(table);
+  return tables_.emplace(table, CollectRecords({row.variable, row.type, row.first, row.second}))
+      .first->second;
+}
+
+std::vector<model::ObjectKey> DwgDrawing::TextStyles() {
+  return CollectRecords({Key::kTextStyleTable, kTextStyleTableType});
 }
 
 // Tables of sound files may name nothing, or records that aren't there.
-std::vector<model::ObjectKey> DwgDrawing::CollectRecords(model::TableKind kind) {
-  const TableRow& row = RowOf(kind);
+std::vector<model::ObjectKey> DwgDrawing::CollectRecords(const Table& row) {
   const FieldValues::Value* const variable = Header().Find(row.variable);
   if (variable == nullptr) return {};
   const model::Handle table = variable->number;

@@ -18,6 +18,7 @@ inline constexpr std::string_view kHandlesSection = "AcDb:Handles";
 inline constexpr std::string_view kObjectsSection = "AcDb:AcDbObjects";
 inline constexpr std::string_view kSummarySection = "AcDb:SummaryInfo";
 inline constexpr std::string_view kPreviewSection = "AcDb:Preview";
+inline constexpr std::string_view kFileListSection = "AcDb:FileDepList";
 
 // Marks of 16 bytes.  The one at the end of a part is the one at its start with all bits inverted.
 inline constexpr std::string_view kHeadEndMark(
@@ -35,11 +36,24 @@ inline constexpr std::string_view kPreviewMark(
 struct LikeClass {
   std::string_view dxfName;
   std::uint16_t type;
+  // Whether other words may stand before the name.
+  bool isEnding = false;
 };
 inline constexpr LikeClass kLikeClasses[] = {
     {"ACDBDICTIONARYWDFLT", 42},
     {"XRECORD", 79},  // in AC1014
     {"GEODATA", 9},
+    {"LAYOUT", 82},
+    // By the numbers that ObjectTypes.h gives those without a type.
+    {"PLOTSETTINGS", 401},
+    {"IMAGEDEF", 402},
+    {"PDFDEFINITION", 403},
+    {"DWFDEFINITION", 404},
+    {"DGNDEFINITION", 405},
+    {"POINTCLOUDDEF", 406, true},
+    {"POINTCLOUDDEFEX", 406, true},
+    {"DATALINK", 407},
+    {"MATERIAL", 408},
 };
 
 // The classes of the objects that have a type of their own.
@@ -127,6 +141,11 @@ inline constexpr std::wstring_view kGroupKey = L"ACAD_GROUP";
 inline constexpr std::wstring_view kMlineStyleKey = L"ACAD_MLINESTYLE";
 inline constexpr std::wstring_view kLayoutKey = L"ACAD_LAYOUT";
 inline constexpr std::wstring_view kPlotSettingsKey = L"ACAD_PLOTSETTINGS";
+inline constexpr std::wstring_view kImageKey = L"ACAD_IMAGE_DICT";
+inline constexpr std::wstring_view kPdfKey = L"ACAD_PDFDEFINITIONS";
+inline constexpr std::wstring_view kDwfKey = L"ACAD_DWFDEFINITIONS";
+inline constexpr std::wstring_view kDgnKey = L"ACAD_DGNDEFINITIONS";
+inline constexpr std::wstring_view kMaterialKey = L"ACAD_MATERIAL";
 inline constexpr std::wstring_view kSummaryKey = L"DWGPROPS";
 
 // Keys of extension dictionaries: of model space the location; of a block what makes it dynamic; of

@@ -17,7 +17,7 @@
 
 namespace zdx::dwg {
 
-enum class SectionId { kHeader, kClasses, kObjectMap, kObjects, kSummary, kPreview };
+enum class SectionId { kHeader, kClasses, kObjectMap, kObjects, kSummary, kPreview, kFileList };
 
 // What keeps alive the bytes that a section gave: it may have had to join them, and lets a page go
 // that nobody holds.

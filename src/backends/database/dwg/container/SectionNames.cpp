@@ -16,7 +16,8 @@ struct NamedSection {
 constexpr NamedSection kSections[] = {
     {kHeaderSection, SectionId::kHeader},     {kClassesSection, SectionId::kClasses},
     {kHandlesSection, SectionId::kObjectMap}, {kObjectsSection, SectionId::kObjects},
-    {kSummarySection, SectionId::kSummary},   {kPreviewSection, SectionId::kPreview}};
+    {kSummarySection, SectionId::kSummary},   {kPreviewSection, SectionId::kPreview},
+    {kFileListSection, SectionId::kFileList}};
 
 }  // namespace
 

@@ -1,5 +1,6 @@
 #include "backends/database/dwg/records/ClassTable.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "backends/database/dwg/Tokens.h"
@@ -12,10 +13,12 @@ constexpr unsigned kEntityItem = 0x1F2;
 // A table without a count may end with this many bits that fill its last byte.
 constexpr std::uint64_t kFiller = 7;
 
-// Whether `stored` says `text`, which is plain ASCII.
-bool IsText(std::string_view stored, std::string_view text, Format format) {
+// Whether `stored` ends in `text`, which is plain ASCII, or says just that.
+bool EndsIn(std::string_view stored, std::string_view text, bool isWhole, Format format) {
+  const std::size_t size = format.HasStringStream() ? 2 * text.size() : text.size();
+  if (stored.size() < size || (isWhole && stored.size() != size)) return false;
+  stored.remove_prefix(stored.size() - size);
   if (!format.HasStringStream()) return stored == text;
-  if (stored.size() != 2 * text.size()) return false;
   for (std::size_t i = 0; i < text.size(); ++i) {
     if (stored[2 * i] != text[i] || stored[2 * i + 1] != '\0') return false;
   }
@@ -24,7 +27,7 @@ bool IsText(std::string_view stored, std::string_view text, Format format) {
 
 std::optional<ObjectType> TypeLike(std::string_view storedName, Format format) {
   for (const LikeClass& row : kLikeClasses) {
-    if (IsText(storedName, row.dxfName, format)) return row.type;
+    if (EndsIn(storedName, row.dxfName, !row.isEnding, format)) return row.type;
   }
   return std::nullopt;
 }
@@ -74,6 +77,11 @@ ClassTable::ClassTable(Section& section, Format format, model::Report& report) {
 const DeclaredClass* ClassTable::Find(ObjectType number) const {
   const auto found = classes_.find(number);
   return found == classes_.end() ? nullptr : &found->second;
+}
+
+bool ClassTable::HasLike(ObjectType type) const {
+  return std::any_of(classes_.begin(), classes_.end(),
+                     [type](const auto& entry) { return entry.second.like == type; });
 }
 
 }  // namespace zdx::dwg

@@ -27,6 +27,8 @@ class ClassTable {
 
   // Null if no class has that number.
   const DeclaredClass* Find(ObjectType number) const;
+  // Whether there is a class whose records are like those of `type`.
+  bool HasLike(ObjectType type) const;
 
  private:
   std::map<ObjectType, DeclaredClass> classes_;

@@ -25,6 +25,7 @@ enum class Code : std::uint8_t {
   kThickness,
   kExtrusion,
   kText,
+  kTexts,  // all texts that are left
   kHandle,
   kDataHandle,    // a handle that stays among the other data in every version
   kColour,        // of an object
@@ -58,12 +59,15 @@ enum class Key : std::uint8_t {
   kNext,
   // Of table records, and of the blocks' begins.
   kName,
+  kDependentIndex,
+  kDependent,
   kComments,
   kAnonymous,
   kBlockBegin,
   // Of the records of blocks.
   kIsReference,
   kIsOverlay,
+  kIsLoaded,
   kOwnedCount,
   kInsertCount,
   kFirst,
@@ -89,6 +93,15 @@ enum class Key : std::uint8_t {
   kTag,
   kAttributeFlags,
   kPrompt,
+  // Of what names a file; kPath of the records of blocks, too.
+  kPath,
+  kIsShapeFile,
+  kFont,
+  kBigFont,
+  kPrinter,
+  kPlotStyleTable,
+  kConnection,
+  kTextures,
   // Of the location.
   kGeoVersion,
   kCoordinateType,
@@ -132,6 +145,7 @@ enum class Key : std::uint8_t {
   kDimblk2,
   kBlockTable,
   kLayerTable,
+  kTextStyleTable,
   kLinetypeTable,
   kViewTable,
   kRootDictionary,

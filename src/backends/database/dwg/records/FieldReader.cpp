@@ -102,6 +102,7 @@ class LayoutReader {
   Progress ReadField(const Field& field);
   bool ReadCounted(const Field& field);
   bool ReadHandles(const Field& field, std::uint64_t times);
+  bool ReadTexts(const Field& field);
   void ReadReal(const Field& field);
   Value ReadValue(Code code);
 
@@ -216,6 +217,16 @@ bool LayoutReader::ReadHandles(const Field& field, std::uint64_t times) {
   return true;
 }
 
+// Empty ones take next to nothing, and nobody asks for them.
+bool LayoutReader::ReadTexts(const Field& field) {
+  while (streams_.HasTextsLeft()) {
+    std::string text = streams_.Text();
+    if (!streams_.Good()) return false;
+    if (!text.empty()) values_.AppendText(field.key, std::move(text));
+  }
+  return true;
+}
+
 bool LayoutReader::ReadCounted(const Field& field) {
   const std::uint64_t times = values_.Number(field.times);
   if (times > streams_.BitsLeft() / LeastBits(field.code)) return false;
@@ -243,6 +254,7 @@ bool LayoutReader::ReadCounted(const Field& field) {
 
 Progress LayoutReader::ReadField(const Field& field) {
   if (field.code == Code::kTable) return Read({field.table, field.tableSize});
+  if (field.code == Code::kTexts) return ReadTexts(field) ? Progress::kGoesOn : Progress::kEnded;
   if (field.times != Key::kNone) {
     return ReadCounted(field) ? Progress::kGoesOn : Progress::kEnded;
   }

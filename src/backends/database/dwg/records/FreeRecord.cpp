@@ -98,7 +98,9 @@ std::optional<Group> GroupReader::Next() {
       if (!length) return std::nullopt;
       size = LittleEndian<std::uint8_t>(*length);
     }
-    if (!Take(size)) return std::nullopt;
+    const auto value = Take(size);
+    if (!value) return std::nullopt;
+    if (row->kind == Kind::kBytes) group.bytes = *value;
   }
   damaged_ = false;
   return group;

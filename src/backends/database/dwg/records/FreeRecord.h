@@ -9,13 +9,15 @@
 
 namespace zdx::dwg {
 
-// One group.  Only texts are told.
+// One group.  Only texts and bytes are told.
 struct Group {
   int code = 0;
   bool isText = false;
   // As stored: in the code page of that number, or UTF-16 with the low byte first.
   std::string_view text;
   std::uint16_t codePage = 0;
+  // Of a group of bytes.
+  std::string_view bytes;
 };
 
 // Goes through the groups in `bytes`, which outlive it.

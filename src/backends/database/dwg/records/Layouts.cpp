@@ -85,15 +85,19 @@ constexpr Field kLinetypeTable[] = {
 };
 
 // Behind the name: what the record has of an external reference.
-constexpr Field kReferenceFlag = Unnamed(Code::kB, 1, Until(kVersion1018));
-constexpr Field kReferenceIndex = Unnamed(Code::kBS);
+constexpr Field kDependence[] = {
+    Unnamed(Code::kB, 1, Until(kVersion1018)),
+    Named(Key::kDependentIndex, Code::kBS),
+    Named(Key::kDependent, Code::kB, Until(kVersion1018)),
+};
 
 constexpr Field kNamed[] = {
     Named(Key::kName, Code::kText),
 };
 
 constexpr Field kLinetype[] = {
-    Named(Key::kName, Code::kText),     kReferenceFlag, kReferenceIndex, kReferenceFlag,
+    Named(Key::kName, Code::kText),
+    Table(kDependence),
     Named(Key::kComments, Code::kText),
 };
 
@@ -109,19 +113,17 @@ constexpr Field kEndsOfChain[] = {
 // The handles that are asked for most stand as early as they may.
 constexpr Field kBlockRecord[] = {
     Named(Key::kName, Code::kText),
-    kReferenceFlag,
-    kReferenceIndex,
-    kReferenceFlag,
+    Table(kDependence),
     Named(Key::kAnonymous, Code::kB),
     Unnamed(Code::kHandle),  // external reference
     Named(Key::kBlockBegin, Code::kHandle),
     Unnamed(Code::kB),  // has attributes
     Named(Key::kIsReference, Code::kB),
     Named(Key::kIsOverlay, Code::kB),
-    Unnamed(Code::kB, 1, Since(kVersion1015)),  // loaded
+    Named(Key::kIsLoaded, Code::kB, Since(kVersion1015)),
     If(Key::kIsReference, 0, Table(kOwnedCountField)),
-    Unnamed(Code::k3BD),   // base
-    Unnamed(Code::kText),  // path
+    Unnamed(Code::k3BD),  // base
+    Named(Key::kPath, Code::kText),
     Named(Key::kInsertCount, Code::kRun, Since(kVersion1015)),
     // Description, preview, unit, what may be done with references.
     Unnamed(Code::kText, 1, Since(kVersion1015)),
@@ -334,6 +336,56 @@ constexpr Field kFreeRecord[] = {
     Repeated(Key::kBytes, Code::kBytes, Key::kByteCount),
 };
 
+constexpr Field kTextStyle[] = {
+    Named(Key::kName, Code::kText),
+    Table(kDependence),
+    Named(Key::kIsShapeFile, Code::kB),
+    Unnamed(Code::kB),      // vertical
+    Unnamed(Code::kBD, 3),  // height, width, slant
+    Unnamed(Code::kRC),     // direction
+    Unnamed(Code::kBD),     // the height last used
+    Named(Key::kFont, Code::kText),
+    Named(Key::kBigFont, Code::kText),
+};
+
+// A layout begins like plot settings of its own.
+constexpr Field kPlotSettings[] = {
+    Unnamed(Code::kText),  // name
+    Named(Key::kPrinter, Code::kText),
+    Unnamed(Code::kBS),                            // flags
+    Unnamed(Code::kBD, 6),                         // margins, size of the paper
+    Unnamed(Code::kText),                          // name of the paper
+    Unnamed(Code::kBD, 2),                         // origin
+    Unnamed(Code::kBS, 3),                         // unit, rotation, what is plotted
+    Unnamed(Code::kBD, 4),                         // window
+    Unnamed(Code::kText, 1, Until(kVersion1015)),  // view
+    Unnamed(Code::kBD, 2),                         // scale
+    Named(Key::kPlotStyleTable, Code::kText),
+};
+
+constexpr Field kImageDefinition[] = {
+    Unnamed(Code::kBL),
+    Unnamed(Code::k2RD),  // size
+    Named(Key::kPath, Code::kText),
+};
+
+constexpr Field kUnderlayDefinition[] = {
+    Named(Key::kPath, Code::kText),
+};
+
+// What these have among their data isn't known; their texts stand apart from it.
+constexpr Field kPointCloudDefinition[] = {
+    Named(Key::kPath, Code::kText, Since(kVersion1024)),
+};
+constexpr Field kDataLink[] = {
+    Unnamed(Code::kText, 3, Since(kVersion1021)),  // what reads it, description, tooltip
+    Named(Key::kConnection, Code::kText, Since(kVersion1021)),
+};
+constexpr Field kMaterialFields[] = {
+    Unnamed(Code::kText, 2, Since(kVersion1021)),  // name, description
+    Named(Key::kTextures, Code::kTexts, Since(kVersion1021)),
+};
+
 constexpr Field kProxy[] = {
     Named(Key::kClassNumber, Code::kBL),
 };
@@ -456,7 +508,7 @@ constexpr Field kHeader[] = {
     // Tables.
     Named(Key::kBlockTable, Code::kHandle),
     Named(Key::kLayerTable, Code::kHandle),
-    Unnamed(Code::kHandle),
+    Named(Key::kTextStyleTable, Code::kHandle),
     Named(Key::kLinetypeTable, Code::kHandle),
     Named(Key::kViewTable, Code::kHandle),
     Unnamed(Code::kHandle, 4),
@@ -519,8 +571,26 @@ std::span<const Field> OwnLayout(ObjectType type) {
     case kLinetypeTableType:
       return kLinetypeTable;
     case kLayerTableType:
+    case kTextStyleTableType:
     case kViewTableType:
       return kTable;
+    case kTextStyleType:
+      return kTextStyle;
+    case kLayoutType:
+    case kPlotSettingsType:
+      return kPlotSettings;
+    case kImageDefinitionType:
+      return kImageDefinition;
+    case kPdfDefinitionType:
+    case kDwfDefinitionType:
+    case kDgnDefinitionType:
+      return kUnderlayDefinition;
+    case kPointCloudDefinitionType:
+      return kPointCloudDefinition;
+    case kDataLinkType:
+      return kDataLink;
+    case kMaterialType:
+      return kMaterialFields;
     case kDictionaryType:
       return kDictionary;
     case kFreeRecordType:

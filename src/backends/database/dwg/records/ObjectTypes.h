@@ -24,18 +24,29 @@ inline constexpr ObjectType kBlockTableType = 48;
 inline constexpr ObjectType kBlockRecordType = 49;
 inline constexpr ObjectType kLayerTableType = 50;
 inline constexpr ObjectType kLayerType = 51;
+inline constexpr ObjectType kTextStyleTableType = 52;
+inline constexpr ObjectType kTextStyleType = 53;
 inline constexpr ObjectType kLinetypeTableType = 56;
 inline constexpr ObjectType kLinetypeType = 57;
 inline constexpr ObjectType kViewTableType = 60;
 inline constexpr ObjectType kViewType = 61;
 inline constexpr ObjectType kApplicationType = 67;
 inline constexpr ObjectType kFreeRecordType = 79;
+inline constexpr ObjectType kLayoutType = 82;
 inline constexpr ObjectType kProxyEntityType = 498;
 inline constexpr ObjectType kProxyObjectType = 499;
 // From here on a type is the number of a class.
 inline constexpr ObjectType kFirstClassType = 500;
-// Stands for a class that has no type: no record has this number.
+// These stand for classes that have no type: no record has such a number.
 inline constexpr ObjectType kGeoDataType = 9;
+inline constexpr ObjectType kPlotSettingsType = 401;
+inline constexpr ObjectType kImageDefinitionType = 402;
+inline constexpr ObjectType kPdfDefinitionType = 403;
+inline constexpr ObjectType kDwfDefinitionType = 404;
+inline constexpr ObjectType kDgnDefinitionType = 405;
+inline constexpr ObjectType kPointCloudDefinitionType = 406;
+inline constexpr ObjectType kDataLinkType = 407;
+inline constexpr ObjectType kMaterialType = 408;
 
 // Whether a type below kFirstClassType is that of an entity.
 bool IsFixedEntity(ObjectType type);

@@ -29,6 +29,8 @@ class Streams {
   HandleReference Handle() { return handlesApart_ ? handles_.H() : data_.H(); }
   // A text as stored: bytes of the code page without terminator, or UTF-16 with the low byte first.
   std::string Text();
+  // Whether there are more texts; false where they don't stand apart.
+  bool HasTextsLeft() const { return strings_.Left() > 0 && !strings_.failed(); }
   // How many bits are left, for checks of what the record promises.
   std::uint64_t BitsLeft() const { return data_.Left() + strings_.Left() + handles_.Left(); }
 
