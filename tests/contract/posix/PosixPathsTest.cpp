@@ -5,8 +5,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <chrono>
 #include <cstdlib>
+#include <ctime>
 #include <filesystem>
 #include <string>
 
@@ -202,9 +202,9 @@ TEST_F(PosixPaths, ThousandsOfMissingNamesInAFullFolderCostLittle) {
   // As if it had been so for a while.
   const timespec longAgo[2] = {{1000000000, 0}, {1000000000, 0}};
   ASSERT_EQ(utimensat(AT_FDCWD, folder.path().c_str(), longAgo, 0), 0);
-  const auto start = std::chrono::steady_clock::now();
+  const std::clock_t start = std::clock();
   for (int i = 0; i < 5000; ++i) EXPECT_EQ(Found(L"MISSING " + std::to_wstring(i)), L"");
-  EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(5));
+  EXPECT_LT(std::clock() - start, 3 * CLOCKS_PER_SEC);
 }
 
 TEST_F(PosixPaths, WhatChangesInAFolderIsSeen) {
