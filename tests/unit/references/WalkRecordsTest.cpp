@@ -106,15 +106,6 @@ TEST_F(WalkRecords, ANodeThatComesTwiceIsListedOnce) {
   EXPECT_EQ(NodeOfRecord(walked, 0), world.walker.NodeOf(image));
 }
 
-TEST_F(WalkRecords, ManyAreListedInTimeThatGrowsAsTheyDo) {
-  constexpr int kCount = 200000;
-  for (int i = 1; i <= kCount; ++i) world.walker.Add("f", L"f.png", 2, static_cast<unsigned>(i));
-  world.drawing.blocks.Add(L"overlaid");
-  Walked walked;
-  WalkInto(walked, {.DetectOverlays = true});
-  EXPECT_EQ(walked.records.size(), static_cast<std::size_t>(kCount));
-}
-
 // Ownership by record
 
 TEST_F(WalkRecords, WithTheFlagFalseEachReleasesItsNode) {

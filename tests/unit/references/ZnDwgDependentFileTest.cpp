@@ -232,19 +232,6 @@ TEST_F(BoundRecordOfATree, TheRootsAsksForTheDirectDependentsOfEachNodeOnce) {
               ElementsAre("root.getDirectDependents()", "child.getDirectDependents()"));
 }
 
-TEST_F(BoundRecordOfATree, ALongChainIsDeletedToItsEnd) {
-  constexpr int kLength = 200000;
-  scripted::WalkedFile& root = AddFile("root");
-  scripted::WalkedFile* last = &root;
-  for (int i = 1; i < kLength; ++i) {
-    scripted::WalkedFile& next = AddFile("link");
-    last->dependents = {&next};
-    last = &next;
-  }
-  RecordOf(root, true).Dispose();
-  EXPECT_EQ(world.Count("delete"), kLength);
-}
-
 TEST_F(BoundRecordOfATree, TheFlagIsThatOfTheOneManager) {
   const scripted::WalkedFile& file = AddFile("image");
   ZnDwgDependentFile record = RecordOf(file);
