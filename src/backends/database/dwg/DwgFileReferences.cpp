@@ -77,8 +77,8 @@ class KnownNames {
   void Add(const FileReference& file) {
     names_.insert(FoldCase(file.path));
     std::wstring leaf = FoldCase(model::LeafOf(file.path));
-    if (leaf.find(L'.') == std::wstring::npos)
-      names_.insert(leaf + std::wstring(Extension(file.use)));
+    const bool hasExtension = leaf.find(L'.') != std::wstring::npos;
+    if (!hasExtension) names_.insert(leaf + std::wstring(Extension(file.use)));
     names_.insert(std::move(leaf));
   }
 
