@@ -7,6 +7,7 @@
 #include "backends/database/dwg/FileList.h"
 #include "backends/database/dwg/Tokens.h"
 #include "backends/database/dwg/records/FreeRecord.h"
+#include "backends/database/model/LinkedFile.h"
 #include "backends/database/model/ReferenceNames.h"
 #include "base/CaseFold.h"
 
@@ -226,7 +227,7 @@ void DwgDrawing::TakeObject(Files& files, const model::DictionaryEntry& entry) {
   for (const NamingField& row : kNamingFields) {
     if (row.type != object->like) continue;
     std::wstring path = TextOf(fields, row.key, entry.target).value_or(std::wstring());
-    if (row.use == FileUse::kLinkedData) path = model::FileOfConnection(path);
+    if (row.use == FileUse::kLinkedData) path = model::LinkedFile(path);
     add(row.use, std::move(path));
   }
   if (object->like != kMaterialType) return;
@@ -250,7 +251,7 @@ void DwgDrawing::FindFonts(Files& files) {
     };
     const bool isShapeFile = fields.Number(Key::kIsShapeFile) != 0;
     add(isShapeFile ? FileUse::kShapeFile : FileUse::kFont, Key::kFont);
-    if (!isShapeFile) add(FileUse::kBigFont, Key::kBigFont);
+    add(FileUse::kBigFont, Key::kBigFont);
   }
 }
 
