@@ -1,5 +1,9 @@
 #include "maker/Drawings.h"
 
+#include <iterator>
+#include <utility>
+
+#include "maker/Plant.h"
 #include "maker/Preview.h"
 #include "support/dwg/DwgMaker.h"
 #include "support/dxf/DxfMaker.h"
@@ -39,20 +43,36 @@ std::string Dwg(drawing::DrawingSpec spec, const char* version) {
 
 std::string SitePlanDwg(const char* version) { return Dwg(SitePlan(version), version); }
 
+// What a vertical module of the examples reads beside the drawing.
+constexpr const char* kPlantLinks = "operating-manual.txt\ninspection-2024.txt\n";
+constexpr const char* kManual = "Alder Works: operating manual\n\nClose the gates at night.\n";
+
+std::vector<ExampleFile> PlantFiles() {
+  return {
+      {"plant/plant.dwg", Dwg(Plant(), "AC1032")},   {"plant/halls.dwg", Dwg(Halls(), "AC1027")},
+      {"plant/machines.dxf", dxf::Make(Machines())}, {"plant/pipes.dxf", dxf::Make(Pipes())},
+      {"plant/flow-sheet.pdf", FlowSheet()},         {"plant/plant.links", kPlantLinks},
+      {"plant/operating-manual.txt", kManual}};
+}
+
 }  // namespace
 
 std::vector<ExampleFile> AllFiles() {
-  return {{"site-plan.dxf", dxf::Make(SitePlan("AC1032"))},
-          {"grading.dxf", dxf::Make(Grading(), {.lineEnd = "\n"})},
-          {"survey-r2000.dxf", dxf::Make(Survey())},
-          {"legacy-r12.dxf", dxf::Make(LegacyPlan(), {.form = dxf::Form::Binary})},
-          {"site-plan.dwg", SitePlanDwg("AC1032")},
-          {"site-plan-2013.dwg", SitePlanDwg("AC1027")},
-          {"site-plan-2010.dwg", SitePlanDwg("AC1024")},
-          {"site-plan-2007.dwg", SitePlanDwg("AC1021")},
-          {"grading-2004.dwg", Dwg(Grading(), "AC1018")},
-          {"survey-r2000.dwg", Dwg(Survey(), "AC1015")},
-          {"legacy-r14.dwg", Dwg(LegacyPlan(), "AC1014")}};
+  std::vector<ExampleFile> files = {
+      {"site-plan.dxf", dxf::Make(SitePlan("AC1032"))},
+      {"grading.dxf", dxf::Make(Grading(), {.lineEnd = "\n"})},
+      {"survey-r2000.dxf", dxf::Make(Survey())},
+      {"legacy-r12.dxf", dxf::Make(LegacyPlan(), {.form = dxf::Form::Binary})},
+      {"site-plan.dwg", SitePlanDwg("AC1032")},
+      {"site-plan-2013.dwg", SitePlanDwg("AC1027")},
+      {"site-plan-2010.dwg", SitePlanDwg("AC1024")},
+      {"site-plan-2007.dwg", SitePlanDwg("AC1021")},
+      {"grading-2004.dwg", Dwg(Grading(), "AC1018")},
+      {"survey-r2000.dwg", Dwg(Survey(), "AC1015")},
+      {"legacy-r14.dwg", Dwg(LegacyPlan(), "AC1014")}};
+  std::vector<ExampleFile> plant = PlantFiles();
+  std::move(plant.begin(), plant.end(), std::back_inserter(files));
+  return files;
 }
 
 }  // namespace examples

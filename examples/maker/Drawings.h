@@ -7,7 +7,7 @@
 
 namespace examples {
 
-// A drawing of this folder, as the makers make it.
+// A file of this folder, by its path from here, as the makers make it.
 struct ExampleFile {
   std::string fileName;
   std::string bytes;

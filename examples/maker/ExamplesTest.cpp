@@ -6,6 +6,7 @@
 
 #include "maker/Drawings.h"
 #include "maker/Photo.h"
+#include "maker/Plant.h"
 
 namespace examples {
 namespace {
@@ -25,8 +26,9 @@ TEST(Examples, TheFilesOfTheFolderAreWhatTheMakerMakes) {
   }
 }
 
-TEST(Examples, ThePictureOfTheSitePlanIsThere) {
+TEST(Examples, ThePicturesInTheDrawingsAreThere) {
   EXPECT_TRUE(std::filesystem::exists(Folder() / kPhotoName));
+  EXPECT_TRUE(std::filesystem::exists(Folder() / kPlantPhotoName));
 }
 
 }  // namespace

@@ -32,13 +32,20 @@ Colour ColourAt(int x, int y) {
   return {static_cast<unsigned char>(150 + y), static_cast<unsigned char>(190 + y / 2), 240};
 }
 
-}  // namespace
+// A chimney beside a hall, its smoke drifting off.
+Colour PlantColourAt(int x, int y) {
+  if (x >= 40 && x < 50 && y >= 20 && y < 80) return {150, 70, 60};
+  if (x >= 60 && x < 140 && y >= 55 && y < 80) return {170, 170, 175};
+  if (x >= 45 && y < 20 && y > 4 && y > 18 - (x - 45) / 6) return {210, 210, 210};
+  if (y >= 80) return {100, 120, 90};
+  return {170, static_cast<unsigned char>(200 + y / 3), 235};
+}
 
-bool WritePhoto(const std::string& path) {
+bool WritePicture(const std::string& path, Colour colourAt(int x, int y)) {
   std::vector<unsigned char> pixels;
   for (int y = 0; y < kHeight; ++y) {
     for (int x = 0; x < kWidth; ++x) {
-      const Colour colour = ColourAt(x, y);
+      const Colour colour = colourAt(x, y);
       pixels.insert(pixels.end(), {colour.red, colour.green, colour.blue});
     }
   }
@@ -49,5 +56,11 @@ bool WritePhoto(const std::string& path) {
   image.format = PNG_FORMAT_RGB;
   return png_image_write_to_file(&image, path.c_str(), 0, pixels.data(), 0, nullptr) != 0;
 }
+
+}  // namespace
+
+bool WritePhoto(const std::string& path) { return WritePicture(path, ColourAt); }
+
+bool WritePlantPhoto(const std::string& path) { return WritePicture(path, PlantColourAt); }
 
 }  // namespace examples

@@ -10,4 +10,7 @@ inline constexpr const char* kPhotoName = "site-photo.png";
 // worked.
 bool WritePhoto(const std::string& path);
 
+// The same for the picture in the plant.
+bool WritePlantPhoto(const std::string& path);
+
 }  // namespace examples
