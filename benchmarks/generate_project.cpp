@@ -21,8 +21,8 @@ constexpr int kPhotos = 50;
 constexpr const char* kFont = "txt";
 
 // What makes a drawing of about 100 KB.
-constexpr int kDwgEntities = 1850;
-constexpr int kDxfEntities = 430;
+constexpr int kDwgEntities = 2100;
+constexpr int kDxfEntities = 490;
 
 std::string Numbered(const char* name, int number, const std::string& extension) {
   const std::string digits = std::to_string(number);
