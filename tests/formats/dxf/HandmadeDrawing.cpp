@@ -26,7 +26,8 @@ void PutSection(dxf::TagWriter& writer, const std::string& name, const Tags& tag
 }
 
 void PutAll(dxf::TagWriter& writer, const Contents& contents) {
-  PutSection(writer, "HEADER", {{9, dxf::kVersionVariable}, {1, contents.version}});
+  PutSection(writer, "HEADER",
+             Join({{{9, dxf::kVersionVariable}, {1, contents.version}}, contents.variables}));
   PutSection(writer, "TABLES", contents.records);
   PutSection(writer, "BLOCKS", contents.blocks);
   PutSection(writer, "ENTITIES", contents.entities);

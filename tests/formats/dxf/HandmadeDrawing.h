@@ -21,6 +21,8 @@ Tags Join(std::initializer_list<Tags> parts);
 // What a drawing holds in its sections.  One that is empty isn't written.
 struct Contents {
   std::string version = "AC1032";
+  // Behind the version.
+  Tags variables = {};
   Tags records = {};
   Tags blocks = {};
   Tags entities = {};

@@ -15,10 +15,6 @@ namespace {
 
 model::ObjectKey KeyOf(const ObjectStart& start) { return model::ObjectKey{start.at}; }
 
-bool IsDictionary(std::string_view type) {
-  return type == kDictionary || type == kDictionaryWithDefault;
-}
-
 bool IsProxy(std::string_view type) { return type == kProxyObject || type == kProxyEntity; }
 
 }  // namespace
@@ -101,6 +97,7 @@ void DxfDrawing::CollectRecords(Tables& tables) {
     if (start.type == kLayerRecord) tables.layers.push_back(KeyOf(start));
     if (start.type == kLinetypeRecord) tables.linetypes.push_back(KeyOf(start));
     if (start.type == kViewRecord) tables.views.push_back(KeyOf(start));
+    if (start.type == kStyleRecord) tables.styles.push_back(KeyOf(start));
     if (start.type == kBlockRecord) tables.blocks.push_back(KeyOf(start));
   }
 }
@@ -154,11 +151,19 @@ std::optional<model::ObjectKey> DxfDrawing::FindRootDictionary() {
 
 std::vector<model::DictionaryEntry> DxfDrawing::DictionaryEntries(model::ObjectKey dictionary) {
   std::vector<model::DictionaryEntry> entries;
+  for (const StoredEntry& entry : StoredEntries(dictionary)) {
+    entries.push_back({Text(entry.key, model::TextUse::kName), entry.target});
+  }
+  return entries;
+}
+
+std::vector<DxfDrawing::StoredEntry> DxfDrawing::StoredEntries(model::ObjectKey dictionary) {
+  std::vector<StoredEntry> entries;
   ObjectTags tags(stream_, StartOf(dictionary).body);
   Tag tag;
   while (tags.Next(tag)) {
     if (tag.code == kKeyCode) {
-      entries.push_back({Text(tag, model::TextUse::kName), 0});
+      entries.push_back({tag, 0});
     } else if ((tag.code == kSoftValueCode || tag.code == kHardValueCode) && !entries.empty() &&
                entries.back().target == 0) {
       entries.back().target = ParseHandle(tag.value);

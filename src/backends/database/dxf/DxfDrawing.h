@@ -67,6 +67,17 @@ class DxfDrawing : public model::Drawing {
     std::vector<model::ObjectKey> layers;
     std::vector<model::ObjectKey> linetypes;
     std::vector<model::ObjectKey> views;
+    std::vector<model::ObjectKey> styles;
+  };
+  // An entry of a dictionary as it stands there.
+  struct StoredEntry {
+    Tag key;
+    model::Handle target = 0;
+  };
+  // The object at `at`, and its key in a dictionary.
+  struct NamedObject {
+    Tag key;
+    std::size_t at = 0;
   };
   // What a search for a tag of an object gave.
   struct TagSearch {
@@ -86,6 +97,7 @@ class DxfDrawing : public model::Drawing {
   const ReferenceIndex& References();
   const ClassTable& Classes();
   std::optional<model::ObjectKey> FindRootDictionary();
+  std::vector<StoredEntry> StoredEntries(model::ObjectKey dictionary);
   std::optional<model::ObjectKey> EntryOf(model::ObjectKey dictionary, std::wstring_view key);
   std::optional<ObjectStart> ExtensionEntry(model::Handle dictionary, std::wstring_view key);
   bool TakeExtension(const ObjectStart& start);
@@ -93,6 +105,16 @@ class DxfDrawing : public model::Drawing {
   const ObjectIndex& IndexOfEverything();
   std::wstring ProxiedClassName(const ObjectStart& start);
   std::wstring ClassName(const ObjectStart& start);
+
+  static bool GoToFreeValues(ObjectTags& tags);
+  void TakeDrawings(std::vector<model::FileReference>& references);
+  void TakeObjects(std::vector<model::FileReference>& references);
+  std::vector<NamedObject> ObjectsOfRoot();
+  void TakeObject(std::size_t at, const std::wstring& name,
+                  std::vector<model::FileReference>& references);
+  void TakeFonts(std::vector<model::FileReference>& references);
+  void TakeSetting(model::FileUse use, model::Setting setting,
+                   std::vector<model::FileReference>& references);
 
   void ReadMultiLineRecord(model::Handle extension, model::Attribute& attribute);
   // The text of a tag, or of pieces; empty if there is none, and nullopt if it may be lost.

@@ -4,7 +4,6 @@
 #include <iterator>
 
 #include "backends/database/dxf/DxfDrawing.h"
-#include "backends/database/dxf/Lines.h"
 #include "backends/database/dxf/Tokens.h"
 #include "backends/database/model/BuiltIns.h"
 #include "backends/database/model/SummaryRecord.h"
@@ -124,9 +123,8 @@ Summary DxfDrawing::SummaryOfRecord() {
   const std::optional<model::ObjectKey> record = EntryOf(*root, kSummaryKey);
   if (!record || StartOf(*record).type != kXrecord) return {};
   ObjectTags tags(stream_, StartOf(*record).body);
+  GoToFreeValues(tags);
   Tag tag;
-  while (tags.Next(tag) && !(tag.code == kSubclassCode && Trimmed(tag.value) == kXrecordMarker)) {
-  }
   model::SummaryRecord summary;
   while (tags.Next(tag)) {
     if (!model::SummaryRecord::Wants(tag.code)) continue;

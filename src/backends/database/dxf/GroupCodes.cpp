@@ -51,4 +51,10 @@ ValueKind KindOf(int code) {
   return code >= 0 && index < kCodes ? kKinds[index] : ValueKind::kUnknown;
 }
 
+bool IsHandle(int code) {
+  return code == kHandleCode || code == kDimensionStyleHandleCode || code == kExtendedHandleCode ||
+         (code >= 320 && code <= 369) || (code >= 390 && code <= 399) ||
+         (code >= 480 && code <= 481);
+}
+
 }  // namespace zdx::dxf

@@ -20,15 +20,23 @@ enum class ValueKind { kUnknown, kText, kDouble, kInt16, kInt32, kInt64, kBool, 
 // A handle is a text of hexadecimal digits in both forms.
 ValueKind KindOf(int code);
 
+// Whether a text behind `code` is an object's number.
+bool IsHandle(int code);
+
 // Codes that are read here, by their meaning.
 inline constexpr int kTypeCode = 0;
 inline constexpr int kTextCode = 1;
+inline constexpr int kPathCode = 1;
 inline constexpr int kNameCode = 2;
+inline constexpr int kPrinterCode = 2;
 inline constexpr int kKeyCode = 3;
 inline constexpr int kMoreTextCode = 3;
 inline constexpr int kPromptCode = 3;
+inline constexpr int kFontCode = 3;
+inline constexpr int kBigFontCode = 4;
 inline constexpr int kDescriptionCode = 3;
 inline constexpr int kHandleCode = 5;
+inline constexpr int kPlotStyleTableCode = 7;
 inline constexpr int kVariableCode = 9;
 inline constexpr int kOnPaperCode = 67;
 inline constexpr int kFlagsCode = 70;
@@ -38,7 +46,10 @@ inline constexpr int kSubclassCode = 100;
 inline constexpr int kEmbeddedCode = 101;
 inline constexpr int kGroupCode = 102;
 inline constexpr int kDimensionStyleHandleCode = 105;
+inline constexpr int kCloningCode = 280;
+inline constexpr int kBackgroundCode = 300;
 inline constexpr int kSystemCode = 301;
+inline constexpr int kConnectionCode = 302;
 inline constexpr int kGeoRssCode = 302;
 inline constexpr int kMoreSystemCode = 303;
 inline constexpr int kObservationFromCode = 305;

@@ -2,23 +2,11 @@
 
 #include <algorithm>
 
+#include "backends/database/dxf/FileObjects.h"
 #include "backends/database/dxf/Tokens.h"
 
 namespace zdx::dxf {
 namespace {
-
-// The handle of the object whose tags begin at `body`; 0 if it has none.  It stands before the
-// first subclass marker: behind one its code may mean something else.
-std::uint64_t HandleOf(const TagStream& stream, const ObjectStart& start) {
-  const int handleCode =
-      start.type == kDimensionStyleRecord ? kDimensionStyleHandleCode : kHandleCode;
-  ObjectTags tags(stream, start.body);
-  Tag tag;
-  while (tags.Next(tag) && tag.code != kSubclassCode) {
-    if (tag.code == handleCode) return ParseHandle(tag.value);
-  }
-  return 0;
-}
 
 constexpr std::uint64_t kCompactLimit = std::uint64_t{1} << 32;
 
@@ -34,13 +22,26 @@ std::size_t EstimateCount(std::size_t taken, std::size_t size) {
 
 }  // namespace
 
+// It stands before the first subclass marker: behind one its code may mean something else.
+std::uint64_t ReadHandle(const TagStream& stream, const ObjectStart& start) {
+  const int handleCode =
+      start.type == kDimensionStyleRecord ? kDimensionStyleHandleCode : kHandleCode;
+  ObjectTags tags(stream, start.body);
+  Tag tag;
+  while (tags.Next(tag) && tag.code != kSubclassCode) {
+    if (tag.code == handleCode) return ParseHandle(tag.value);
+  }
+  return 0;
+}
+
 ObjectIndex ObjectIndex::Build(const TagStream& stream, std::size_t begin, std::size_t end) {
   ObjectIndex index;
   ObjectStart start = stream.NextObject(begin);
   for (; start.Found() && start.at < end; start = stream.NextObject(start.body)) {
     // A section's begin is no object, but what follows in a header looks like one's tags.
     if (start.type == kSection) continue;
-    index.Add(HandleOf(stream, start), start.at);
+    index.Add(ReadHandle(stream, start), start.at);
+    if (MayNameFiles(start.type)) index.fileObjects_.push_back(start.at);
     // Growing by doubling would for a moment take twice what the index needs in the end.
     if (index.compact_.size() == kSample) {
       index.compact_.reserve(EstimateCount(start.at - begin, end - begin));

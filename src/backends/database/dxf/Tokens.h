@@ -45,6 +45,7 @@ inline constexpr std::string_view kReadSections[] = {
 inline constexpr std::string_view kLayerRecord = "LAYER";
 inline constexpr std::string_view kLinetypeRecord = "LTYPE";
 inline constexpr std::string_view kViewRecord = "VIEW";
+inline constexpr std::string_view kStyleRecord = "STYLE";
 inline constexpr std::string_view kBlockRecord = "BLOCK_RECORD";
 inline constexpr std::string_view kDimensionStyleRecord = "DIMSTYLE";
 
@@ -65,6 +66,9 @@ inline constexpr std::string_view kExtensionGroup = "{ACAD_XDICTIONARY";
 // Objects.
 inline constexpr std::string_view kDictionary = "DICTIONARY";
 inline constexpr std::string_view kDictionaryWithDefault = "ACDBDICTIONARYWDFLT";
+constexpr bool IsDictionary(std::string_view type) {
+  return type == kDictionary || type == kDictionaryWithDefault;
+}
 inline constexpr std::string_view kXrecord = "XRECORD";
 inline constexpr std::string_view kXrecordMarker = "AcDbXrecord";
 inline constexpr std::string_view kProxyObject = "ACAD_PROXY_OBJECT";
@@ -72,6 +76,21 @@ inline constexpr std::string_view kProxyEntity = "ACAD_PROXY_ENTITY";
 
 inline constexpr std::string_view kGeoData = "GEODATA";
 inline constexpr std::string_view kGeoDataMarker = "AcDbGeoData";
+// Objects that name files.
+inline constexpr std::string_view kImageDefinition = "IMAGEDEF";
+inline constexpr std::string_view kImageBackground = "IMAGEBACKGROUND";
+inline constexpr std::string_view kPdfDefinition = "PDFDEFINITION";
+inline constexpr std::string_view kDwfDefinition = "DWFDEFINITION";
+inline constexpr std::string_view kDgnDefinition = "DGNDEFINITION";
+inline constexpr std::string_view kDataLink = "DATALINK";
+inline constexpr std::string_view kMaterial = "MATERIAL";
+inline constexpr std::string_view kLayout = "LAYOUT";
+inline constexpr std::string_view kPlotSettings = "PLOTSETTINGS";
+inline constexpr std::string_view kPlotSettingsMarker = "AcDbPlotSettings";
+// The types of point clouds end so.
+inline constexpr std::string_view kPointCloudDefinition = "POINTCLOUDDEF";
+inline constexpr std::string_view kPointCloudDefinitionEx = "POINTCLOUDDEFEX";
+
 // The free record of a multi-line attribute holds this before the text.
 inline constexpr std::string_view kEmbeddedMark = "Embedded Object";
 
