@@ -200,16 +200,16 @@ TEST_P(DxfFileReferences, OfLayoutsAreTheirTablesOfPlotStylesAndTheirPrinters) {
 }
 
 TEST_P(DxfFileReferences, OfTextStylesAreTheirFiles) {
-  EXPECT_THAT(
-      ReferencesIn({.records = Join({Style("10", "Standard", 0, "txt", "big.shx"),
-                                     Style("11", "", 1, "shapes.shx"), Style("12", "Arial", 0, ""),
-                                     Style("13", "site|notes", 0, "arial.ttf"),
-                                     Style("14", "notes", 16 | 32, "romans.shx")})}),
-      ElementsAre(Named(FileUse::kFont, 0x10, L"txt", L"Standard"),
-                  Dependent(Named(FileUse::kFont, 0x13, L"arial.ttf", L"site|notes")),
-                  Dependent(Named(FileUse::kFont, 0x14, L"romans.shx", L"notes")),
-                  Named(FileUse::kBigFont, 0x10, L"big.shx", L"Standard"),
-                  Named(FileUse::kShapeFile, 0x11, L"shapes.shx")));
+  EXPECT_THAT(ReferencesIn({.records = Join({Style("10", "Standard", 0, "txt", "big.shx"),
+                                             Style("11", "", 1, "shapes.shx", "none.shx"),
+                                             Style("12", "Arial", 0, ""),
+                                             Style("13", "site|notes", 0, "arial.ttf"),
+                                             Style("14", "notes", 16 | 32, "romans.shx")})}),
+              ElementsAre(Named(FileUse::kFont, 0x10, L"txt", L"Standard"),
+                          Dependent(Named(FileUse::kFont, 0x13, L"arial.ttf", L"site|notes")),
+                          Dependent(Named(FileUse::kFont, 0x14, L"romans.shx", L"notes")),
+                          Named(FileUse::kBigFont, 0x10, L"big.shx", L"Standard"),
+                          Named(FileUse::kShapeFile, 0x11, L"shapes.shx")));
 }
 
 TEST_P(DxfFileReferences, OfTheHeaderAreTheStyleSheetAndTheMenu) {

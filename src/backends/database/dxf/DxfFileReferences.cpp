@@ -9,7 +9,7 @@
 #include "backends/database/dxf/GroupedTags.h"
 #include "backends/database/dxf/Lines.h"
 #include "backends/database/dxf/Tokens.h"
-#include "backends/database/model/LinkedFile.h"
+#include "backends/database/model/ReferenceNames.h"
 
 namespace zdx::dxf {
 namespace {
@@ -25,13 +25,6 @@ constexpr std::int64_t kOverlaidFlag = 8;
 constexpr std::int64_t kDependentFlag = 16;
 // Of a text style's flags.
 constexpr std::int64_t kShapesFlag = 1;
-
-// In the name of what came with another drawing it stands behind that drawing's name.
-constexpr wchar_t kDependentMark = L'|';
-
-bool IsDependentName(const std::wstring& name) {
-  return name.find(kDependentMark) != std::wstring::npos;
-}
 
 // What the tags of a block or a text style tell.
 struct StoredRecord {
@@ -140,7 +133,8 @@ void DxfDrawing::TakeDrawings(std::vector<FileReference>& references) {
     reference.handle = HandleOf(key);
     reference.path = Text(*stored.path, model::TextUse::kValue);
     reference.name = RecordName(model::TableKind::kBlock, key).value_or(L"");
-    reference.isDependent = (stored.flags & kDependentFlag) != 0 || IsDependentName(reference.name);
+    reference.isDependent =
+        (stored.flags & kDependentFlag) != 0 || model::IsDependentName(reference.name);
     Take(std::move(reference), references);
   }
 }
@@ -201,9 +195,11 @@ void DxfDrawing::TakeObject(std::size_t at, const std::wstring& name,
     reference.use = file.use;
     reference.handle = ReadHandle(stream_, start);
     reference.path = Text(file.tag, model::TextUse::kValue);
-    if (file.use == FileUse::kLinkedData) reference.path = model::LinkedFile(reference.path);
+    if (file.use == FileUse::kLinkedData) {
+      reference.path.resize(model::FileOfConnection(reference.path).size());
+    }
     reference.name = name;
-    reference.isDependent = IsDependentName(name);
+    reference.isDependent = model::IsDependentName(name);
     Take(std::move(reference), references);
   }
 }
@@ -215,17 +211,16 @@ void DxfDrawing::TakeFonts(std::vector<FileReference>& references) {
     FileReference reference;
     reference.handle = HandleOf(key);
     if (stored.name) reference.name = Text(*stored.name, model::TextUse::kName);
-    reference.isDependent = (stored.flags & kDependentFlag) != 0 || IsDependentName(reference.name);
+    reference.isDependent =
+        (stored.flags & kDependentFlag) != 0 || model::IsDependentName(reference.name);
     const bool hasShapes = (stored.flags & kShapesFlag) != 0;
-    const std::pair<FileUse, const std::optional<Tag>&> fonts[] = {
-        {hasShapes ? FileUse::kShapeFile : FileUse::kFont, stored.font},
-        {FileUse::kBigFont, stored.bigFont}};
-    for (const auto& [use, tag] : fonts) {
-      if (!tag) continue;
-      reference.use = use;
-      reference.path = Text(*tag, model::TextUse::kValue);
-      Take(reference, references);
-    }
+    reference.use = hasShapes ? FileUse::kShapeFile : FileUse::kFont;
+    if (stored.font) reference.path = Text(*stored.font, model::TextUse::kValue);
+    Take(reference, references);
+    if (hasShapes || !stored.bigFont) continue;
+    reference.use = FileUse::kBigFont;
+    reference.path = Text(*stored.bigFont, model::TextUse::kValue);
+    Take(std::move(reference), references);
   }
 }
 
