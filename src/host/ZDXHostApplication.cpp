@@ -1,5 +1,7 @@
 #include "host/ZDXHostApplication.h"
 
+#include "host/RoamingFolder.h"
+#include "host/SupportFileSearch.h"
 #include "platform/os/Os.h"
 
 namespace ZDXEngine {
@@ -15,14 +17,14 @@ ZDXHostApplication::~ZDXHostApplication() {
   os::CoUninitialize();
 }
 
-Zent::ErrorStatus ZDXHostApplication::findFile(wchar_t* /*fileOut*/, int /*bufferLength*/,
-                                               const wchar_t* /*fileName*/,
-                                               ZnDbDatabase* /*database*/, int /*hint*/) {
-  return Zent::kFileNotFound;
+Zent::ErrorStatus ZDXHostApplication::findFile(wchar_t* fileOut, int bufferLength,
+                                               const wchar_t* fileName, ZnDbDatabase* database,
+                                               int hint) {
+  return FindSupportFile(param_, fileOut, bufferLength, fileName, database, hint);
 }
 
 Zent::ErrorStatus ZDXHostApplication::getRoamingRootFolder(const wchar_t*& folder) {
-  folder = L"";
+  folder = RoamingRootFolder();
   return Zent::kOk;
 }
 

@@ -1,10 +1,10 @@
 #include "ZDXEngine/ZDXService.h"
 
 #include "drawing/HostProduct.h"
+#include "host/DynamicLinker.h"
 #include "host/ZDXHostApplication.h"
 #include "platform/econvey/ZnDwgDepends.h"
 #include "platform/zndb/ZnDbDatabase.h"
-#include "platform/zndb/ZnRx.h"
 
 namespace ZDXEngine {
 namespace ZDXService {
@@ -18,14 +18,6 @@ ZDXHostApplication* hostApplication = nullptr;
 ZnDbDatabase* engineDatabase = nullptr;
 
 bool InOurKindOfHost() { return zndbHostApplicationServices()->prodcode() == kHostProductCode; }
-
-// Looked up afresh for each module.  Callers rely on the entry being there: without a linker the
-// runtime itself isn't set up.
-ZnRxDynamicLinker* DynamicLinker() {
-  ZnRxObject* const entry = znrxSysRegistry()->at(L"DynamicLinker");
-  const bool isLinker = entry->isA()->isDerivedFrom(ZnRxDynamicLinker::desc());
-  return isLinker ? static_cast<ZnRxDynamicLinker*>(entry) : nullptr;
-}
 
 }  // namespace
 

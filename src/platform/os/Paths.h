@@ -26,7 +26,7 @@ inline constexpr Errno kBufferTooSmall = 34;
 HRESULT SHGetFolderPathW(void* owner, int which, void* token, std::uint32_t flags, wchar_t* path);
 // Appends `name` as the last element to `path`, of kPathSize characters.  Nonzero on success.
 int PathAppendW(wchar_t* path, const wchar_t* name);
-// Nonzero if there is such a file or folder.
+// Nonzero if there is such a file or folder; never for a path of kPathSize characters or more.
 int PathFileExistsW(const wchar_t* path);
 // Nonzero unless `path` is absolute.
 int PathIsRelativeW(const wchar_t* path);

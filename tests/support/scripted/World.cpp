@@ -17,12 +17,16 @@ World::World()
       system(log_, ledger_),
       files(log_, ledger_),
       graphics(log_, ledger_),
+      paths(log_),
+      modules(log_),
       walker(log_),
       previousLibrary_(zndb::InstallProvider(&library)),
       previousUtilities_(Common::InstallProvider(&utilities)),
       previousSystem_(os::InstallProvider(&system)),
       previousFiles_(os::InstallFileProvider(&files)),
-      previousGraphics_(os::InstallGraphicsProvider(&graphics)) {
+      previousGraphics_(os::InstallGraphicsProvider(&graphics)),
+      previousPaths_(os::InstallPathProvider(&paths)),
+      previousModules_(os::InstallModuleProvider(&modules)) {
   current = this;
   ZnDwgDepends::InstallBinder(&World::Bind);
 }
@@ -30,6 +34,8 @@ World::World()
 World::~World() {
   foreignServices_.reset();
   ZnDwgDepends::InstallBinder(nullptr);
+  os::InstallModuleProvider(previousModules_);
+  os::InstallPathProvider(previousPaths_);
   os::InstallGraphicsProvider(previousGraphics_);
   os::InstallFileProvider(previousFiles_);
   os::InstallProvider(previousSystem_);

@@ -19,6 +19,8 @@
 #include "support/scripted/Graphics.h"
 #include "support/scripted/Ledger.h"
 #include "support/scripted/Library.h"
+#include "support/scripted/Modules.h"
+#include "support/scripted/Paths.h"
 #include "support/scripted/System.h"
 #include "support/scripted/Utilities.h"
 #include "support/scripted/Walker.h"
@@ -45,6 +47,8 @@ class World {
   System system;
   Files files;
   Graphics graphics;
+  Paths paths;
+  Modules modules;
   Walker walker;
   // What the drawing holds that every opening finds.
   Drawing& drawing = library.drawing;
@@ -93,6 +97,8 @@ class World {
   os::Provider* previousSystem_ = nullptr;
   os::FileProvider* previousFiles_ = nullptr;
   os::GraphicsProvider* previousGraphics_ = nullptr;
+  os::PathProvider* previousPaths_ = nullptr;
+  os::ModuleProvider* previousModules_ = nullptr;
   int timesBound_ = 0;
 };
 

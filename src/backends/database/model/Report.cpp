@@ -30,4 +30,8 @@ std::shared_ptr<Report> Report::Begin(std::wstring path) {
 
 Report Report::Last() { return LastReport() == nullptr ? Report() : *LastReport(); }
 
+KeptReport::KeptReport() : kept_(LastReport()) {}
+
+KeptReport::~KeptReport() { LastReport() = std::move(kept_); }
+
 }  // namespace zdx::model

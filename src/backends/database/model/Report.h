@@ -41,4 +41,17 @@ struct Report {
   static Report Last();
 };
 
+// Lets what is the last report now be the last one again when it goes: for openings of other
+// drawings that belong to one that the client asked for.
+class KeptReport {
+ public:
+  KeptReport();
+  ~KeptReport();
+  KeptReport(const KeptReport&) = delete;
+  KeptReport& operator=(const KeptReport&) = delete;
+
+ private:
+  std::shared_ptr<Report> kept_;
+};
+
 }  // namespace zdx::model

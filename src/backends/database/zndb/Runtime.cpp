@@ -4,6 +4,8 @@
 #include <iterator>
 #include <string_view>
 
+#include "backends/System.h"
+
 namespace zdx::database {
 namespace {
 
@@ -18,11 +20,11 @@ bool IsCompiledIn(const wchar_t* name) {
 }  // namespace
 
 bool DynamicLinker::loadModule(const wchar_t* name, bool /*printMessage*/, bool /*asCommand*/) {
-  return IsCompiledIn(name);
+  return IsCompiledIn(name) || LoadModule(name) != nullptr;
 }
 
 bool DynamicLinker::unloadModule(const wchar_t* name, bool /*asCommand*/) {
-  return IsCompiledIn(name);
+  return IsCompiledIn(name) || UnloadModule(name);
 }
 
 ZnRxObject* RuntimeRegistry::at(const wchar_t* name) const {

@@ -5,11 +5,11 @@
 
 namespace zdx::database {
 
-// Knows the object modules whose work the database does itself.
+// Knows the object modules whose work the database does itself, and leaves all others to the system.
 class DynamicLinker : public ZnRxDynamicLinker {
  public:
   ZnRxClass* isA() const override { return desc(); }
-  // True for an object module that is compiled in, which needs no loading; false for any other.
+  // An object module that is compiled in needs no loading.
   bool loadModule(const wchar_t* name, bool printMessage, bool asCommand) override;
   bool unloadModule(const wchar_t* name, bool asCommand) override;
 };
