@@ -338,7 +338,7 @@ TEST(HostileFiles, LongPathsAreToldUpToSomeMillionsOfCharacters) {
   drawing::DrawingSpec spec;
   spec.version = "AC1018";
   for (int i = 0; i < 75; ++i) {
-    spec.textStyles.emplace_back("S" + std::to_string(i), std::string(kLength, 'x'));
+    spec.fileList.files.push_back({std::to_string(i) + std::string(kLength - 2, 'x')});
   }
   OpenDrawing opened(spec);
   std::size_t characters = 0;
