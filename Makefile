@@ -3,7 +3,7 @@
 SHELL := /bin/bash
 MAKEFLAGS += --no-print-directory
 .DEFAULT_GOAL := help
-.PHONY: help demo test test-windows compare-systems package-windows windows-tools lint format-check bench bench-blocks clean
+.PHONY: help demo test test-windows compare-systems package-windows windows-tools lint format-check bench bench-blocks bench-references clean
 
 JOBS ?= $(shell nproc)
 
@@ -29,6 +29,7 @@ help:
 	@echo 'make lint             check the form of the sources, and run clang-tidy'
 	@echo 'make bench            measure the tool on large drawings'
 	@echo 'make bench-blocks     measure the values of one block among many references'
+	@echo 'make bench-references measure a walk through drawings that refer to each other'
 	@echo 'make clean            remove everything that was built'
 	@echo 'JOBS=N limits the builds and tests to N at a time.'
 
@@ -105,6 +106,10 @@ bench:
 bench-blocks:
 	@.ci/packages $(BENCH_PACKAGES)
 	@benchmarks/run.sh blocks
+
+bench-references:
+	@.ci/packages $(BENCH_PACKAGES)
+	@benchmarks/run.sh references
 
 clean:
 	@.ci/wine --stop

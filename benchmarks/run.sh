@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
-# Measures `zdx info` on generated drawings against one pass over their bytes, and prints tables in
-# Markdown for docs/performance.md.
+# Measures the tool on generated drawings, against one pass over their bytes where there is a measure
+# in that, and prints tables in Markdown for docs/performance.md.
 #
-#   benchmarks/run.sh [RUNS]          everything but blocks; 20 runs by default
-#   benchmarks/run.sh blocks [RUNS]   one block of many references; 10 runs by default
+#   benchmarks/run.sh [RUNS]              everything but blocks and references; 20 runs by default
+#   benchmarks/run.sh blocks [RUNS]       one block of many references; 10 runs by default
+#   benchmarks/run.sh references [RUNS]   drawings that refer to each other; 10 runs by default
 #
 # ZDX_BENCH_SIZES: the DXF drawings' sizes in megabytes, "2.5 20 200" by default.
 # ZDX_BENCH_VERSIONS: the versions of the DWG drawings, "AC1015 AC1021 AC1032" by default.
@@ -12,12 +13,13 @@
 # "250000 500000 1000000" by default.
 # ZDX_BENCH_TITLE_VERSIONS: the versions of those that are DWG, "AC1014 AC1015 AC1018 AC1021 AC1032"
 # by default.
+# ZDX_BENCH_PROJECT: how many drawings refer to each other, 1000 by default.
 set -euo pipefail
 
 cd "$(dirname "$0")/.."
 part=all
-if [ "${1:-}" = blocks ]; then
-  part=blocks
+if [ "${1:-}" = blocks ] || [ "${1:-}" = references ]; then
+  part=$1
   shift
 fi
 bin=build/release/bin
@@ -28,7 +30,8 @@ say() { echo "$*" >&2; }
 say "Building ..."
 cmake --preset release >&2
 cmake --build --preset release -j"$(nproc)" \
-  --target zdx generate_dxf generate_dwg line_pass measure_runs check_answer >&2
+  --target zdx generate_dxf generate_dwg generate_project line_pass measure_runs check_answer \
+  check_references >&2
 mkdir -p "$data"
 
 number() { awk -v value="$1" -v by="$2" -v form="$3" 'BEGIN { printf form, value / by }'; }

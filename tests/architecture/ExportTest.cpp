@@ -20,15 +20,18 @@ using ::testing::ContainerEq;
 
 // The name as the headers spell it, whichever standard library the build uses.
 std::string HeaderSpelling(std::string name) {
+  static const std::regex inlineNamespace("std::(__cxx11|__1)::");
   static const std::regex wideString(
-      "std::(__cxx11::|__1::)?basic_string<wchar_t, std::(__1::)?char_traits<wchar_t>, "
-      "std::(__1::)?allocator<wchar_t> ?>");
-  static const std::regex allocator(", std::(__1::)?allocator<[^<>]*> ?>");
+      "std::basic_string<wchar_t, std::char_traits<wchar_t>, std::allocator<wchar_t> ?>");
+  static const std::regex mapOfTexts(
+      ", std::less<std::wstring ?>, "
+      "std::allocator<std::pair<std::wstring const, std::wstring ?> ?> ?>");
+  static const std::regex allocator(", std::allocator<[^<>]*(<[^<>]*> ?)?> ?>");
   static const std::regex abiTag("\\[abi:[^\\]]*\\]");
-  static const std::regex inlineNamespace("std::__1::");
-  name = std::regex_replace(name, wideString, "std::wstring");
-  name = std::regex_replace(name, allocator, ">");
   name = std::regex_replace(name, inlineNamespace, "std::");
+  name = std::regex_replace(name, wideString, "std::wstring");
+  name = std::regex_replace(name, mapOfTexts, ">");
+  name = std::regex_replace(name, allocator, ">");
   return std::regex_replace(name, abiTag, "");
 }
 
@@ -37,6 +40,15 @@ TEST(HeaderSpelling, AWideStringAndAVectorComeOutAsTheHeadersSpellThem) {
                            "std::char_traits<wchar_t>, std::allocator<wchar_t> > const&, "
                            "std::vector<N::T, std::allocator<N::T> >&)"),
             "F(std::wstring const&, std::vector<N::T>&)");
+}
+
+TEST(HeaderSpelling, AListOfMapsComesOutAsTheHeadersSpellIt) {
+  EXPECT_EQ(
+      HeaderSpelling("F(std::vector<std::map<std::basic_string<wchar_t, std::char_traits<wchar_t>, "
+                     "std::allocator<wchar_t> >, int, std::less<std::wstring>, "
+                     "std::allocator<std::pair<std::wstring const, std::wstring > > >, "
+                     "std::allocator<std::map<std::wstring, int> > >)"),
+      "F(std::vector<std::map<std::wstring, int>>)");
 }
 
 // The name that the compiler made the symbol of; the symbol itself if it's none of the compiler's.

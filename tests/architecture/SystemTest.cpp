@@ -47,7 +47,7 @@ TEST(SystemRules, AskingWhichSystemItIsIsNamedEverywhere) {
 // Headers of the interface that clients compile on each system, and what stands in for such a
 // header; and the example, which is one file for all.
 const std::set<std::string> kExceptions = {
-    "include/ZDXEngine/Automation.h",     "include/ZDXEngine/Export.h",
+    "include/ZDXEngine/Automation.h", "include/ZDXEngine/Export.h",
     "include/ZDXEngine/VerticalModule.h", "src/platform/os/PropVariant.h",
     "examples/read_properties.cpp"};
 

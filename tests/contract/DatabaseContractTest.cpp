@@ -298,11 +298,6 @@ TEST_P(EmbeddedDatabase, DestroyedServicesAreNoLongerInstalled) {
   EXPECT_EQ(zndbHostApplicationServices(), nullptr);
 }
 
-TEST_P(EmbeddedDatabase, ItsLinkerKnowsNoOtherModules) {
-  auto* const linker = static_cast<ZnRxDynamicLinker*>(znrxSysRegistry()->at(L"DynamicLinker"));
-  EXPECT_FALSE(linker->loadModule(L"other.zdx", false, false));
-}
-
 TEST_P(EmbeddedDatabase, ReadsOneFileOnly) {
   ZnDbDatabase database(false, true);
   ASSERT_EQ(subject.Read(database), Zent::kOk);

@@ -150,6 +150,19 @@ TEST_F(EmbeddedWalk, ADrawingsReferencesAreLookedForFromItsOwnFolder) {
   EXPECT_THAT(errors, IsEmpty());
 }
 
+TEST_F(EmbeddedWalk, TwoNamesOfOneFileAreOneDrawing) {
+  WriteDwg("root.dwg", {"a.dwg", "link.dwg", "same.dwg"});
+  WriteDwg("a.dwg", {"b.dwg"});
+  WriteDwg("b.dwg");
+  std::filesystem::create_hard_link(folder.path() / "a.dwg", folder.path() / "link.dwg");
+  std::filesystem::create_hard_link(folder.path() / "root.dwg", folder.path() / "same.dwg");
+  Walk("root.dwg");
+  ASSERT_THAT(names, ElementsAre("root.dwg", "a.dwg", "link.dwg", "same.dwg", "b.dwg"));
+  EXPECT_FALSE(dynamic_cast<const Node&>(*files[1]).facts().isRepeated);
+  EXPECT_TRUE(dynamic_cast<const Node&>(*files[2]).facts().isRepeated);
+  EXPECT_TRUE(dynamic_cast<const Node&>(*files[3]).facts().isRepeated);
+}
+
 TEST_F(EmbeddedWalk, IdsAreTheHandlesOfTheRecordsOfTheWalkedDrawing) {
   drawing::DrawingSpec spec = Referring({"a.dwg"});
   spec.blocks[0].handle = "4D2";

@@ -68,11 +68,12 @@ class Library : public zndb::Provider {
   Zent::ErrorStatus znutNewString(const wchar_t* source, wchar_t*& buffer) override;
   void znutDelBuffer(wchar_t*& buffer) override;
 
+  // "database 1" for the first that was made, "null" for none.
+  std::string NameOf(const ZnDbDatabase* database) const;
+
  private:
   // Nothing for the installed services, so that their calls are told plainly.
   std::string NameOf(const ZnDbHostApplicationServices* host) const;
-  // "database 1" for the first that was made, "null" for none.
-  std::string NameOf(const ZnDbDatabase* database) const;
 
   CallLog& calls_;
   Ledger& ledger_;

@@ -19,14 +19,17 @@ World::World()
       graphics(log_, ledger_),
       paths(log_),
       modules(log_),
-      walker(log_),
+      walker(log_, ledger_),
+      modelDocuments(log_,
+                     [this](const ZnDbDatabase* database) { return library.NameOf(database); }),
       previousLibrary_(zndb::InstallProvider(&library)),
       previousUtilities_(Common::InstallProvider(&utilities)),
       previousSystem_(os::InstallProvider(&system)),
       previousFiles_(os::InstallFileProvider(&files)),
       previousGraphics_(os::InstallGraphicsProvider(&graphics)),
       previousPaths_(os::InstallPathProvider(&paths)),
-      previousModules_(os::InstallModuleProvider(&modules)) {
+      previousModules_(os::InstallModuleProvider(&modules)),
+      previousModelDocuments_(modeldoc::InstallProvider(&modelDocuments)) {
   current = this;
   ZnDwgDepends::InstallBinder(&World::Bind);
 }
@@ -34,6 +37,7 @@ World::World()
 World::~World() {
   foreignServices_.reset();
   ZnDwgDepends::InstallBinder(nullptr);
+  modeldoc::InstallProvider(previousModelDocuments_);
   os::InstallModuleProvider(previousModules_);
   os::InstallPathProvider(previousPaths_);
   os::InstallGraphicsProvider(previousGraphics_);

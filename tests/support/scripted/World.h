@@ -19,6 +19,7 @@
 #include "support/scripted/Graphics.h"
 #include "support/scripted/Ledger.h"
 #include "support/scripted/Library.h"
+#include "support/scripted/ModelDocuments.h"
 #include "support/scripted/Modules.h"
 #include "support/scripted/Paths.h"
 #include "support/scripted/System.h"
@@ -50,6 +51,7 @@ class World {
   Paths paths;
   Modules modules;
   Walker walker;
+  ModelDocuments modelDocuments;
   // What the drawing holds that every opening finds.
   Drawing& drawing = library.drawing;
 
@@ -99,6 +101,7 @@ class World {
   os::GraphicsProvider* previousGraphics_ = nullptr;
   os::PathProvider* previousPaths_ = nullptr;
   os::ModuleProvider* previousModules_ = nullptr;
+  modeldoc::Provider* previousModelDocuments_ = nullptr;
   int timesBound_ = 0;
 };
 

@@ -5,6 +5,7 @@
 #include "support/scripted/ScriptedTest.h"
 
 using testing::ElementsAre;
+using testing::IsEmpty;
 
 namespace {
 
@@ -29,6 +30,48 @@ TEST_F(ScriptedWorld, CallsOnServicesThatAreNotInstalledSaySo) {
   others->prodcode();
   world.library.services->prodcode();
   EXPECT_THAT(world.Calls(), ElementsAre("services not installed.prodcode()", "prodcode()"));
+}
+
+// A world of its own, which need not be left as it was found.
+TEST(ScriptedWalker, ANodeThatIsDeletedTwiceOrNeverIsToldOf) {
+  scripted::World world;
+  scripted::WalkedFile& root = world.walker.Add("root", L"a.dwg");
+  scripted::WalkedFile& image = world.walker.Add("image", L"i.png");
+  root.dependents = {&image};
+  ZnDwgDepends::File* const node = world.walker.NodeOf(root);
+  EXPECT_TRUE(world.walker.IsAlive(image));
+  delete node;
+  EXPECT_FALSE(world.walker.IsAlive(root));
+  EXPECT_TRUE(world.walker.IsAlive(image));
+  EXPECT_THAT(world.Leftovers(), ElementsAre("still out: node image"));
+  delete node;
+  EXPECT_THAT(world.Leftovers(), ElementsAre("still out: node image",
+                                             "given back twice, or never handed out: node root"));
+}
+
+TEST(ScriptedWalker, ANodeThatIsAskedAfterItsEndIsToldOf) {
+  scripted::World world;
+  scripted::WalkedFile& root = world.walker.Add("root", L"a.dwg");
+  root.hasDatabase = true;
+  ZnDwgDepends::File* const node = world.walker.NodeOf(root);
+  delete node;
+  EXPECT_THAT(world.Leftovers(), IsEmpty());
+  node->filename();
+  EXPECT_THAT(world.Leftovers(), ElementsAre("called after its end: node root"));
+}
+
+TEST(ScriptedWalker, AWalkThatKeepsItsRootDeletesEveryNode) {
+  scripted::World world;
+  world.walker.Add("root", L"a.dwg");
+  world.walker.Add("image", L"i.png");
+  {
+    ZnDwgDepends::DwgDepends walk(L"a.dwg", 0, L"", L"", false, true);
+    std::vector<ZnDwgDepends::File*> files;
+    walk.getDependencies(files, true);
+    EXPECT_EQ(files.size(), 2u);
+  }
+  EXPECT_EQ(world.Count("delete"), 2);
+  EXPECT_THAT(world.Leftovers(), IsEmpty());
 }
 
 }  // namespace
