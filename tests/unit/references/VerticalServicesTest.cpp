@@ -21,11 +21,20 @@ using ZDXEngine::VerticalRecord;
 
 namespace {
 
-// A manager of the test's own, without services.  Managers can't be ended, so it stays.
-FileReferenceMgr& NewManager() {
-  static std::vector<FileReferenceMgr*> all;
-  return *all.emplace_back(new FileReferenceMgr(Manager()));
+// What stays until the process ends, where a tool that looks for leaks finds it.
+template <class T>
+std::vector<T*>& Lasting() {
+  static auto& all = *new std::vector<T*>;
+  return all;
 }
+
+// A manager of the test's own that begins as a copy of `original`.  Managers can't be ended.
+FileReferenceMgr& CopyOf(const FileReferenceMgr& original) {
+  return *Lasting<FileReferenceMgr>().emplace_back(new FileReferenceMgr(original));
+}
+
+// One without services.
+FileReferenceMgr& NewManager() { return CopyOf(Manager()); }
 
 std::vector<std::string> Held(const FileReferenceMgr::Services& services) {
   std::vector<std::string> words;
@@ -115,9 +124,7 @@ TEST_F(HeldServices, AreTheManagersOwn) {
 
 TEST_F(HeldServices, AreSharedByCopies) {
   ZDXEngine::FileReferenceService* const service = Request({{L"1", L"a.zdx"}}).begin()->second;
-  static std::vector<FileReferenceMgr*> copies;
-  FileReferenceMgr* const copy = copies.emplace_back(new FileReferenceMgr(manager));
-  EXPECT_EQ(copy->GetExternalVerticalReferenceServices({}).begin()->second, service);
+  EXPECT_EQ(CopyOf(manager).GetExternalVerticalReferenceServices({}).begin()->second, service);
   FileReferenceMgr& assigned = NewManager();
   assigned = manager;
   EXPECT_EQ(assigned.GetExternalVerticalReferenceServices({}).begin()->second, service);
@@ -137,10 +144,10 @@ TEST(HeldServicesAtExit, GoWithTheManager) {
 
 class AskedService : public HeldServices {
  protected:
-  ~AskedService() override {
-    for (DwgDependentFile* const record : records_) references::DisposeAndDelete(record);
-  }
+  ~AskedService() override { Release(); }
+  // The records are there until the next time.
   const std::vector<DwgDependentFile*>& Ask() {
+    Release();
     records_ = manager.GetVerticalDependencies(&database, &references::AskedModule);
     return records_;
   }
@@ -151,6 +158,11 @@ class AskedService : public HeldServices {
   ZnDbDatabase database{false, true};
 
  private:
+  void Release() {
+    for (DwgDependentFile* const record : records_) references::DisposeAndDelete(record);
+    records_.clear();
+  }
+
   std::vector<DwgDependentFile*> records_;
 };
 
@@ -163,16 +175,16 @@ TEST_F(AskedService, ItsAnswersBecomeRecordsInTheirOrder) {
 
 TEST_F(AskedService, ItsRecordsHaveNoNode) {
   Answer({{{L"RefId", L"1"}, {L"FilePath", L"a"}}});
-  ASSERT_THAT(Ask(), SizeIs(1));
-  EXPECT_EQ(dynamic_cast<ZDXEngine::ZnDwgDependentFile*>(Ask()[0]), nullptr);
+  EXPECT_EQ(dynamic_cast<ZDXEngine::ZnDwgDependentFile*>(Ask().at(0)), nullptr);
 }
 
 TEST_F(AskedService, ARecordThatIsDisposedOfReleasesNothing) {
   for (const bool flag : {false, true}) {
     SetFlag(flag);
     Answer({{{L"RefId", L"1"}, {L"FilePath", L"a"}}});
-    Ask()[0]->Dispose();
-    EXPECT_EQ(Shown(*Ask()[0]), "1 a type 10 repathable");
+    DwgDependentFile& record = *Ask().at(0);
+    record.Dispose();
+    EXPECT_EQ(Shown(record), "1 a type 10 repathable");
   }
 }
 
@@ -182,7 +194,7 @@ TEST_F(AskedService, TheWordFalseAloneMakesARecordRepathable) {
   };
   for (const auto& [value, repathable] : rows) {
     Answer({{{L"RefId", L"1"}, {L"FilePath", L"a"}, {L"IsUpdateSupported", value}}});
-    EXPECT_EQ(Ask()[0]->GetSupportRePath(), repathable) << scripted::Shown(value);
+    EXPECT_EQ(Ask().at(0)->GetSupportRePath(), repathable) << scripted::Shown(value);
   }
 }
 
@@ -252,10 +264,7 @@ class ToldService : public HeldServices {
       return std::vector<std::wstring>{L"whatever"};
     };
   }
-  static std::vector<VerticalRecord*>& Kept() {
-    static std::vector<VerticalRecord*> kept;
-    return kept;
-  }
+  static std::vector<VerticalRecord*>& Kept() { return Lasting<VerticalRecord>(); }
   DwgDependentFile* AddRecord(const wchar_t* refId, const wchar_t* destination) {
     auto& record = owned_.emplace_back(std::make_unique<DwgDependentFile>(
         L"source", destination, refId, ZDXEngine::FileType{10}, false));
