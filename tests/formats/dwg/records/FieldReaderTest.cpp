@@ -358,6 +358,21 @@ TEST(FieldReader, AMillionHandlesAreAListIfTheRecordHasRoomForThem) {
   }
 }
 
+TEST(FieldReader, TakesTheTextsThatAreLeftButEmptyOnes) {
+  constexpr Field kLayout[] = {Named(Key::kName, Code::kText), Named(Key::kTextures, Code::kTexts)};
+  for (const bool isCut : {false, true}) {
+    Writer writer(model::kVersion1021);
+    for (const char* text : {"name", "a", "", "b"}) writer.T(text);
+    // A text of which only the length is there.
+    if (isCut) writer.texts.BS(5);
+    Streams streams = writer.Read();
+    FieldValues values;
+    EXPECT_EQ(ReadFields(kLayout, writer.version, streams, values),
+              isCut ? Progress::kEnded : Progress::kGoesOn);
+    EXPECT_THAT(values.Texts(Key::kTextures), ElementsAre(writer.Stored("a"), writer.Stored("b")));
+  }
+}
+
 TEST(Layouts, ABlockRecordNamesWhatStandsInItAndWhatShowsIt) {
   for (const model::Version version : kAll) {
     SCOPED_TRACE(version);
@@ -663,7 +678,7 @@ TEST(Layouts, TheFirstLocationHasAnotherOrder) {
 }
 
 TEST(Layouts, OtherTypesHaveNoFieldsOfTheirOwn) {
-  for (const int type : {0, 5, 6, 19, 43, 73, 82, 500}) {
+  for (const int type : {0, 5, 6, 19, 43, 73, 80, 500}) {
     EXPECT_TRUE(OwnLayout(static_cast<ObjectType>(type)).empty()) << type;
   }
 }
