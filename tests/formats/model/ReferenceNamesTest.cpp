@@ -18,6 +18,17 @@ TEST(ReferenceNames, TheLeafStandsBehindTheLastSeparatorOfEitherSystem) {
   EXPECT_EQ(LeafOf(L"a/"), L"");
 }
 
+TEST(ReferenceNames, AConnectionBeginsWithAFile) {
+  EXPECT_EQ(FileOfConnection(L"C:\\data\\rates.xlsx!Sheet1!A1:B2"), L"C:\\data\\rates.xlsx");
+  EXPECT_EQ(FileOfConnection(L"rates.xlsx"), L"rates.xlsx");
+  EXPECT_EQ(FileOfConnection(L""), L"");
+}
+
+TEST(ReferenceNames, AnExclamationMarkBeforeTheExtensionBelongsToTheFile) {
+  EXPECT_EQ(FileOfConnection(L"new!/2.old/wow!.xlsx!Sheet"), L"new!/2.old/wow!.xlsx");
+  EXPECT_EQ(FileOfConnection(L"..\\wow!.xlsx!Sheet"), L"..\\wow!.xlsx");
+}
+
 TEST(ReferenceNames, AFileHasAShortPlainExtension) {
   EXPECT_TRUE(HasExtension(L"oak.jpg"));
   EXPECT_TRUE(HasExtension(L"a.b/Oak. Dark.JPEG2"));

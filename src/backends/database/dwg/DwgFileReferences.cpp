@@ -7,7 +7,6 @@
 #include "backends/database/dwg/FileList.h"
 #include "backends/database/dwg/Tokens.h"
 #include "backends/database/dwg/records/FreeRecord.h"
-#include "backends/database/model/LinkedFile.h"
 #include "backends/database/model/ReferenceNames.h"
 #include "base/CaseFold.h"
 
@@ -227,7 +226,7 @@ void DwgDrawing::TakeObject(Files& files, const model::DictionaryEntry& entry) {
   for (const NamingField& row : kNamingFields) {
     if (row.type != object->like) continue;
     std::wstring path = TextOf(fields, row.key, entry.target).value_or(std::wstring());
-    if (row.use == FileUse::kLinkedData) path = model::LinkedFile(path);
+    if (row.use == FileUse::kLinkedData) path = model::FileOfConnection(path);
     add(row.use, std::move(path));
   }
   if (object->like != kMaterialType) return;

@@ -11,6 +11,17 @@ std::wstring_view LeafOf(std::wstring_view path) {
   return separator == std::wstring_view::npos ? path : path.substr(separator + 1);
 }
 
+// A name may hold exclamation marks, too.
+std::wstring_view FileOfConnection(std::wstring_view connection) {
+  bool hasDot = false;
+  for (std::size_t i = 0; i < connection.size(); ++i) {
+    if (connection[i] == L'/' || connection[i] == L'\\') hasDot = false;
+    if (connection[i] == L'.') hasDot = true;
+    if (connection[i] == L'!' && hasDot) return connection.substr(0, i);
+  }
+  return connection;
+}
+
 bool HasExtension(std::wstring_view text) {
   constexpr std::size_t kLongest = 5;
   const std::wstring_view leaf = LeafOf(text);

@@ -12,6 +12,10 @@ bool IsDependentName(std::wstring_view name);
 // What stands behind the last separator, of either system, in `path`.
 std::wstring_view LeafOf(std::wstring_view path);
 
+// The path of the file in what a data link connects to: behind the file, of which all names have an
+// extension, an exclamation mark begins what is meant of it.
+std::wstring_view FileOfConnection(std::wstring_view connection);
+
 // Whether `text` ends in a file's name that has an extension.
 bool HasExtension(std::wstring_view text);
 
