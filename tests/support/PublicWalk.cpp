@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+
 #include "ZDXEngine/Utf8.h"
 #include "ZDXEngine/ZDXService.h"
 #include "support/Paths.h"
@@ -32,13 +34,13 @@ class Records {
   std::vector<DwgDependentFile*> files;
 
  private:
-  // The destructor isn't virtual.
+  // The destructor isn't virtual, so each is deleted as what it is.
   static void Release(DwgDependentFile* file) {
     file->Dispose();
     if (auto* const bound = dynamic_cast<ZDXEngine::ZnDwgDependentFile*>(file)) {
-      delete bound;
+      std::unique_ptr<ZDXEngine::ZnDwgDependentFile>(bound).reset();
     } else {
-      delete file;
+      std::unique_ptr<DwgDependentFile>(file).reset();
     }
   }
 
