@@ -72,6 +72,39 @@ TEST_F(Usage, HelpOfGetNamesItsKeysAndExitCodes) {
   }
 }
 
+TEST_F(Usage, HelpOfDepsNamesItsOptionsAndExitCodes) {
+  const Outcome outcome = Zdx({"deps", "--help"});
+  EXPECT_EQ(outcome.exitCode, 0);
+  for (const char* const word :
+       {"-o", "--output", "dot", "html", "--direct", "--overlays", "--missing", "--tree",
+        "--search-path", "--service", "VERSION=MODULE", "FILE", "Exit codes"}) {
+    EXPECT_THAT(outcome.out, HasSubstr(word));
+  }
+}
+
+TEST_F(Usage, HelpNamesDepsAndVersion) {
+  EXPECT_THAT(Zdx({"--help"}).out, HasSubstr("deps"));
+  EXPECT_THAT(Zdx({"--help"}).out, HasSubstr("version "));
+}
+
+TEST_F(Usage, DepsWithoutAFileIsRefused) { ExpectRefused({"deps"}, "FILE"); }
+
+TEST_F(Usage, AServiceWithoutAVersionOrAModuleIsRefused) {
+  for (const char* const word : {"module.so", "=module.so", "2024=", "="}) {
+    ExpectRefused({"deps", "--service", word, "a.dxf"}, "isn't VERSION=MODULE");
+  }
+}
+
+TEST_F(Usage, TwoServicesOfOneVersionAreRefused) {
+  ExpectRefused({"deps", "--service=1=a", "--service=1=b", "a.dxf"}, "'1'");
+}
+
+TEST_F(Usage, GraphsOfOtherThingsThanDependenciesAreRefused) {
+  ExpectRefused({"info", "-o", "dot", "a.dxf"}, "dot");
+  ExpectRefused({"blocks", "-o", "html", "a.dxf"}, "html");
+  ExpectRefused({"version", "-o", "dot", "a.dxf"}, "dot");
+}
+
 TEST_F(Usage, BlocksWithoutAFileIsRefused) { ExpectRefused({"blocks"}, "FILE"); }
 
 TEST_F(Usage, GetWithoutAKeyOrAFileIsRefused) {

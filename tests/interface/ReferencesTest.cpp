@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <set>
 
 #include "interface/DrawingFolder.h"
@@ -44,12 +45,12 @@ class References : public testing::TestWithParam<zdx_test::WrittenAs> {
     WriteRoot({XrefBlock("a", "a.dwg"), XrefBlock("gone", "gone.dwg"), away,
                XrefBlock("b", "b.dxf", Xref::Overlaid)});
     folder.Write("a.dwg", {XrefBlock("c", "c.dxf"), XrefBlock("root", RootName()),
-                           XrefBlock("over", "over.dwg", Xref::Overlaid)});
-    folder.Write("away.dwg", {XrefBlock("behind", "behind.dwg")}, "AC1032");
-    folder.Write("behind.dwg", {}, "AC1014");
+                           XrefBlock("over", "over.dxf", Xref::Overlaid)});
+    folder.Write("away.dwg", {XrefBlock("behind", "behind.dxf")}, "AC1032");
+    folder.Write("behind.dxf", {}, "AC1014");
     folder.Write("b.dxf", {XrefBlock("c", "c.dxf")}, "AC1009");
     folder.Write("c.dxf", {XrefBlock("a", "a.dwg"), XrefBlock("self", "c.dxf")}, "AC1021");
-    folder.Write("over.dwg", {XrefBlock("deep", "deep.dxf")}, "AC1021");
+    folder.Write("over.dxf", {XrefBlock("deep", "deep.dxf")}, "AC1021");
     folder.Write("deep.dxf", {}, "AC1032");
   }
 
@@ -62,13 +63,22 @@ class References : public testing::TestWithParam<zdx_test::WrittenAs> {
   Lines AllLines() const {
     Lines lines =
         WithAway({"root > a.dwg", "root > gone.dwg missing", "", "root > b.dxf", "a.dwg > c.dxf",
-                  "a.dwg > " + RootName() + " repeated", "a.dwg > over.dwg"});
-    if (!TellsUnloaded()) lines.push_back("away.dwg > behind.dwg");
+                  "a.dwg > " + RootName() + " repeated", "a.dwg > over.dxf"});
+    if (!TellsUnloaded()) lines.push_back("away.dwg > behind.dxf");
     for (const char* line :
          {"b.dxf > c.dxf repeated", "c.dxf > a.dwg repeated", "c.dxf > c.dxf repeated"}) {
       lines.push_back(line);
     }
     return lines;
+  }
+
+  // The files of the written drawing, of which there are some.
+  std::vector<WalkedFile> Files(const ZDXEngine::DependencySettings& settings = {}) const {
+    WalkOptions options;
+    options.settings = settings;
+    const std::vector<WalkedFile> files = zdx_test::WalkFiles(root, options).files;
+    EXPECT_EQ(files.size(), AllLines().size());
+    return files;
   }
 
   zdx_test::DrawingFolder folder;
@@ -102,7 +112,7 @@ TEST_P(References, FollowInnerOverlaysOnlyIfTheyAreAskedTo) {
   Lines expected = AllLines();
   const auto behind = std::find(expected.begin(), expected.end(), "b.dxf > c.dxf repeated");
   // Behind what hangs under the drawings before it, in the order in which they were met.
-  expected.insert(behind + 2, "over.dwg > deep.dxf");
+  expected.insert(behind + 2, "over.dxf > deep.dxf");
   Lines told = LinesOf(zdx_test::WalkFiles(root, options));
   std::sort(expected.begin(), expected.end());
   std::sort(told.begin(), told.end());
@@ -119,7 +129,7 @@ TEST_P(References, TellTheRootByItsPath) {
 
 TEST_P(References, TellFoundFilesByTheirFullPathsAndOthersAsTheyAreStored) {
   WriteAll();
-  for (const WalkedFile& file : zdx_test::WalkFiles(root).files) {
+  for (const WalkedFile& file : Files()) {
     if (file.StoredPath() == "gone.dwg") {
       EXPECT_EQ(file.source, "gone.dwg");
       EXPECT_EQ(file.detail.problem, ZDXEngine::DependencyProblem::NotFound);
@@ -137,7 +147,7 @@ TEST_P(References, TellFoundFilesByTheirFullPathsAndOthersAsTheyAreStored) {
 TEST_P(References, HaveIdsOfTheirOwn) {
   WriteAll();
   std::set<std::string> ids = {"0"};
-  for (const WalkedFile& file : zdx_test::WalkFiles(root).files) {
+  for (const WalkedFile& file : Files()) {
     EXPECT_TRUE(ids.insert(file.refId).second) << file.refId;
   }
 }
@@ -145,49 +155,14 @@ TEST_P(References, HaveIdsOfTheirOwn) {
 // Where records have no handles, no block can be found by one.
 TEST_P(References, AreOverlaysIfTheirBlocksAreOnes) {
   WriteAll();
-  WalkOptions options;
-  options.settings.DetectOverlays = true;
-  for (const WalkedFile& file : zdx_test::WalkFiles(root, options).files) {
+  ZDXEngine::DependencySettings settings;
+  settings.DetectOverlays = true;
+  for (const WalkedFile& file : Files(settings)) {
     EXPECT_EQ(file.isOverlay, file.StoredPath() == "b.dxf" && HasHandles()) << file.StoredPath();
-    const bool isOverlaid = file.StoredPath() == "b.dxf" || file.StoredPath() == "over.dwg";
+    const bool isOverlaid = file.StoredPath() == "b.dxf" || file.StoredPath() == "over.dxf";
     EXPECT_EQ(file.detail.kind, isOverlaid ? ZDXEngine::DependencyKind::OverlaidDrawing
                                            : ZDXEngine::DependencyKind::AttachedDrawing);
   }
-}
-
-TEST_P(References, AreLookedForBesideTheDrawingThatNamesThem) {
-  WriteRoot({XrefBlock("a", "sub\\a.dwg"), XrefBlock("moved", "D:\\old place\\moved.dwg"),
-             XrefBlock("bare", "bare")});
-  folder.Write("sub/a.dwg", {XrefBlock("b", "b.dxf"), XrefBlock("up", "..\\up.dwg")});
-  folder.Write("sub/b.dxf");
-  folder.Write("up.dwg");
-  folder.Write("moved.dwg");
-  folder.Write("bare.dwg");
-  EXPECT_THAT(LinesOf(zdx_test::WalkFiles(root)),
-              ElementsAre("root > sub\\a.dwg", "root > D:\\old place\\moved.dwg", "root > bare",
-                          "sub\\a.dwg > b.dxf", "sub\\a.dwg > ..\\up.dwg"));
-}
-
-TEST_P(References, OfADrawingThatNamesNoneAreNone) {
-  WriteRoot({});
-  for (const NodeOwner owner : kOwners) {
-    const FileWalk walk = zdx_test::WalkFiles(root, {.owner = owner});
-    EXPECT_THAT(walk.files, IsEmpty());
-    EXPECT_EQ(walk.root.refId, "0");
-  }
-}
-
-TEST_P(References, GoDownAChainOfManyDrawings) {
-  constexpr int kLength = 60;
-  const auto name = [](int i) {
-    return "link" + std::to_string(i) + (i % 2 == 0 ? ".dwg" : ".dxf");
-  };
-  WriteRoot({XrefBlock("next", name(0))});
-  for (int i = 0; i < kLength; ++i) folder.Write(name(i), {XrefBlock("next", name(i + 1))});
-  const FileWalk walk = zdx_test::WalkFiles(root);
-  ASSERT_EQ(walk.files.size(), kLength + 1u);
-  EXPECT_FALSE(walk.files.back().detail.exists);
-  EXPECT_EQ(walk.files.back().detail.parent, std::size_t{kLength} - 1);
 }
 
 INSTANTIATE_TEST_SUITE_P(Dxf, References,
@@ -199,5 +174,48 @@ INSTANTIATE_TEST_SUITE_P(Dwg, References,
                          testing::Combine(testing::ValuesIn(zdx_test::kDwgVersions),
                                           testing::Values(zdx_test::kDwgWritings[0])),
                          zdx_test::WritingTestName);
+
+// What the walked drawing's version doesn't change.
+class ReferencesOfOneVersion : public testing::Test {
+ protected:
+  zdx_test::DrawingFolder folder;
+  std::filesystem::path root;
+};
+
+TEST_F(ReferencesOfOneVersion, AreLookedForBesideTheDrawingThatNamesThem) {
+  root = folder.Write("root.dwg",
+                      {XrefBlock("a", "sub\\a.dwg"), XrefBlock("moved", "D:\\old place\\moved.dwg"),
+                       XrefBlock("bare", "bare")});
+  folder.Write("sub/a.dwg", {XrefBlock("b", "b.dxf"), XrefBlock("up", "..\\up.dwg")});
+  folder.Write("sub/b.dxf");
+  folder.Write("up.dwg");
+  folder.Write("moved.dwg");
+  folder.Write("bare.dwg");
+  EXPECT_THAT(LinesOf(zdx_test::WalkFiles(root)),
+              ElementsAre("root > sub\\a.dwg", "root > D:\\old place\\moved.dwg", "root > bare",
+                          "sub\\a.dwg > b.dxf", "sub\\a.dwg > ..\\up.dwg"));
+}
+
+TEST_F(ReferencesOfOneVersion, OfADrawingThatNamesNoneAreNone) {
+  root = folder.Write("root.dwg", {});
+  for (const NodeOwner owner : kOwners) {
+    const FileWalk walk = zdx_test::WalkFiles(root, {.owner = owner});
+    EXPECT_THAT(walk.files, IsEmpty());
+    EXPECT_EQ(walk.root.refId, "0");
+  }
+}
+
+TEST_F(ReferencesOfOneVersion, GoDownAChainOfManyDrawings) {
+  constexpr int kLength = 60;
+  const auto name = [](int i) {
+    return "link" + std::to_string(i) + (i % 2 == 0 ? ".dwg" : ".dxf");
+  };
+  root = folder.Write("root.dwg", {XrefBlock("next", name(0))});
+  for (int i = 0; i < kLength; ++i) folder.Write(name(i), {XrefBlock("next", name(i + 1))});
+  const FileWalk walk = zdx_test::WalkFiles(root);
+  ASSERT_EQ(walk.files.size(), kLength + 1u);
+  EXPECT_FALSE(walk.files.back().detail.exists);
+  EXPECT_EQ(walk.files.back().detail.parent, std::size_t{kLength} - 1);
+}
 
 }  // namespace

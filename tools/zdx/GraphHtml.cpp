@@ -109,22 +109,23 @@ std::string Coordinates(std::size_t x, std::size_t y) {
   return std::to_string(x) + " " + std::to_string(y);
 }
 
-// A curve from the right side of a node to the left side of another.  The `number`th between the
-// same two runs beside the others.
+// A curve between the sides of two nodes that face each other; between nodes of one column it bows
+// to the right.  The `number`th between the same two runs beside the others.
 std::string Curve(const GraphPlace& from, const GraphPlace& to, std::size_t number) {
-  constexpr std::size_t kPull = 60;
   constexpr std::size_t kMostBeside = 8;
   const std::size_t beside = std::min(number, kMostBeside) * 4;
-  const std::size_t startX = XOf(from) + kNodeWidth;
-  const std::size_t startY = YOf(from) + kNodeHeight / 2;
-  const std::size_t endX = XOf(to);
-  const std::size_t endY = YOf(to) + kNodeHeight / 2;
-  // One to the same column or back goes round below.
-  const std::size_t down = to.column > from.column ? 0 : kRowHeight;
-  const std::size_t leftOfEnd = endX > kPull ? endX - kPull : 0;
+  const std::size_t pull = (from.column == to.column ? 30 : 50) + beside;
+  const bool startsRight = from.column <= to.column;
+  const bool endsRight = from.column >= to.column;
+  const std::size_t startX = XOf(from) + (startsRight ? kNodeWidth : 0);
+  const std::size_t endX = XOf(to) + (endsRight ? kNodeWidth : 0);
+  // One that leads to its own node needs some room.
+  const std::size_t startY = YOf(from) + kNodeHeight / 2 - 6;
+  const std::size_t endY = YOf(to) + kNodeHeight / 2 + 6;
   return "M" + Coordinates(startX, startY) + " C" +
-         Coordinates(startX + kPull, startY + beside + down) + " " +
-         Coordinates(leftOfEnd, endY + beside + down) + " " + Coordinates(endX, endY);
+         Coordinates(startsRight ? startX + pull : startX - pull, startY + beside) + " " +
+         Coordinates(endsRight ? endX + pull : endX - pull, endY + beside) + " " +
+         Coordinates(endX, endY);
 }
 
 void AppendEdges(std::string& page, const FileGraph& graph, const std::vector<GraphPlace>& places) {

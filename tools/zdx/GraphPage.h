@@ -38,7 +38,7 @@ li a { color: inherit; font-weight: 600; }
 li .note { color: var(--faint); }
 li.missing .note { color: var(--bad); font-weight: 600; }
 li div { color: var(--faint); font-size: .88em; }
-label { margin-left: .8rem; }
+label, #found { margin-left: .8rem; }
 )css";
 
 // Nothing here depends on the graph.  The page is of use without it: it can be scrolled.

@@ -123,7 +123,7 @@ class Folders {
 }  // namespace
 
 std::vector<std::string> NamesIgnoringCase(const std::string& folder, std::wstring_view name) {
-  static thread_local Folders folders;
+  static Folders folders;
   const Names& names = folders.Get(folder);
   const std::size_t hash = FoldedHash(name);
   auto row = std::lower_bound(names.rows.begin(), names.rows.end(), hash,

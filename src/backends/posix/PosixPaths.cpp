@@ -35,7 +35,10 @@ std::wstring Combined(const std::wstring& folder, const std::wstring& file) {
   if (IsAbsolute(file)) return WithoutDots(Slashed(file));
   if (IsOfAnotherSystem(folder)) return folder + L'\\' + file;
   const bool isFolder = StatusOf(ZDXEngine::BytesFromWide(folder)).has_value();
-  return WithoutDots(Joined(isFolder ? folder : Slashed(folder), Slashed(file)));
+  const std::wstring path = WithoutDots(Joined(isFolder ? folder : Slashed(folder), Slashed(file)));
+  // Behind a folder that isn't there ".." leads on all the same.
+  const auto found = RealName(path);
+  return found ? Tidied(*found) : path;
 }
 
 // Where the last element of `path` begins, and the separator before it, unless that is a root.

@@ -2,6 +2,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <chrono>
+
 #include "backends/database/dwg/PreviewArea.h"
 #include "backends/database/dwg/Tokens.h"
 #include "backends/database/dwg/container/Decompression.h"
@@ -265,6 +268,126 @@ TEST(HostileFiles, AttributesThatReferencesShareAreToldOfOneOfThemAndOnce) {
   });
   EXPECT_EQ(opened->ReadBlockReference(model::ObjectKey{0x50}).attributes.size(), 1u);
   EXPECT_EQ(opened->ReadBlockReference(model::ObjectKey{0x51}).attributes.size(), 0u);
+}
+
+// How many files of that use a drawing names, told within seconds.
+std::size_t CountFiles(OpenDrawing& opened, model::FileUse use) {
+  const auto begin = std::chrono::steady_clock::now();
+  const std::vector<model::FileReference> files = opened->FileReferences();
+  const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - begin;
+  EXPECT_LT(taken.count(), 10.0);
+  return static_cast<std::size_t>(
+      std::count_if(files.begin(), files.end(),
+                    [use](const model::FileReference& file) { return file.use == use; }));
+}
+
+// Entries under so many keys that all name one object.
+std::vector<dwg::NamedHandle> ManyEntries(int count, dwg::Handle handle) {
+  std::vector<dwg::NamedHandle> entries;
+  for (int i = 0; i < count; ++i) entries.push_back({"KEY" + std::to_string(i), handle});
+  return entries;
+}
+
+constexpr dwg::Handle kLargeDictionary = 0x50000;
+
+// Links stand in a dictionary that is known by its objects alone, so that all are looked at.
+TEST(HostileFiles, ADictionaryThatTheRootNamesManyTimesIsSearchedOnce) {
+  drawing::DrawingSpec spec;
+  spec.version = "AC1024";
+  spec.dataLinks = {{.name = "rates", .connection = "rates.xlsx!Sheet", .handle = "A01"}};
+  OpenDrawing opened = PagedWith(spec, [](dwg::Drawing& drawing) {
+    dwg::WriteDictionary(drawing, kLargeDictionary, drawing.roots.named,
+                         ManyEntries(50000, drawing.roots.named));
+    dwg::WriteDictionary(drawing, drawing.roots.named, 0, ManyEntries(50000, kLargeDictionary));
+  });
+  EXPECT_EQ(CountFiles(opened, model::FileUse::kLinkedData), 0u);
+}
+
+TEST(HostileFiles, APictureUnderManyKeysIsToldOnce) {
+  drawing::DrawingSpec spec;
+  spec.version = "AC1018";
+  spec.images = {{.name = "APE", .path = "a.png", .handle = "A01"}};
+  OpenDrawing opened = PagedWith(spec, [](dwg::Drawing& drawing) {
+    dwg::WriteDictionary(drawing, kLargeDictionary, drawing.roots.named, ManyEntries(50000, 0xA01));
+    dwg::WriteDictionary(drawing, drawing.roots.named, 0, {{"ACAD_IMAGE_DICT", kLargeDictionary}});
+  });
+  EXPECT_EQ(CountFiles(opened, model::FileUse::kImage), 1u);
+}
+
+TEST(HostileFiles, AMaterialTellsNoMorePicturesThanDrawingsHave) {
+  drawing::DrawingSpec spec;
+  spec.version = "AC1024";
+  spec.materials = {{.name = "OAK", .diffuse = "oak.jpg", .handle = "A01"}};
+  OpenDrawing opened = PagedWith(spec, [](dwg::Drawing& drawing) {
+    dwg::Fields fields = drawing.NewFields(0xA01);
+    dwg::BeginObject(fields, drawing.roots.named);
+    fields.T("OAK");
+    fields.T("");
+    for (int i = 0; i < 150000; ++i) fields.T("o.p");
+    drawing.records[0xA01] = dwg::AssembleRecord({drawing.ClassNumber("MATERIAL")}, fields);
+  });
+  const std::size_t told = CountFiles(opened, model::FileUse::kTexture);
+  EXPECT_GE(told, 90000u);
+  EXPECT_LE(told, 100000u);
+  EXPECT_GE(opened.report->warningCount, 1u);
+}
+
+TEST(HostileFiles, LongPathsAreToldUpToSomeMillionsOfCharacters) {
+  constexpr std::size_t kLength = 60000;
+  constexpr std::size_t kMost = std::size_t{4} << 20;
+  drawing::DrawingSpec spec;
+  spec.version = "AC1018";
+  for (int i = 0; i < 75; ++i) {
+    spec.textStyles.emplace_back("S" + std::to_string(i), std::string(kLength, 'x'));
+  }
+  OpenDrawing opened(spec);
+  std::size_t characters = 0;
+  for (const model::FileReference& file : opened->FileReferences()) {
+    characters += file.path.size();
+  }
+  EXPECT_GE(characters, kMost - 2 * kLength);
+  EXPECT_LE(characters, kMost);
+  EXPECT_GE(opened.report->warningCount, 1u);
+}
+
+TEST(HostileFiles, AFreeRecordTellsNoMoreGroupsThanDrawingsHave) {
+  drawing::DrawingSpec spec;
+  spec.version = "AC1018";
+  drawing::ObjectSpec record = drawing::Xrecord(std::vector<drawing::Tag>(150000, {280, 1}));
+  record.handle = "A01";
+  spec.rootEntries.emplace_back("RECORD", record);
+  OpenDrawing opened(spec);
+  EXPECT_EQ(opened->FreeValues(model::ObjectKey{0xA01}).size(), 100000u);
+  EXPECT_EQ(opened.report->warningCount, 1u);
+}
+
+// A record that ends where its path begins.
+TEST(DamagedRecords, WhatNamesNoFileAnyMoreCostsOnlyItself) {
+  drawing::DrawingSpec spec;
+  spec.version = "AC1018";
+  spec.images = {{.name = "APE", .path = "a.png", .handle = "A01"},
+                 {.name = "BEE", .path = "b.png", .handle = "A02"}};
+  spec.textStyles = {{"FIRST", "first.shx"}, {"SECOND", "second.shx"}};
+  spec.textStyles[0].handle = "A03";
+  spec.blocks = {drawing::XrefBlock("SITE", "site.dwg"), drawing::XrefBlock("ROAD", "road.dwg")};
+  spec.blocks[0].handle = "A04";
+  OpenDrawing opened = PagedWith(spec, [](dwg::Drawing& drawing) {
+    const auto cut = [&drawing](dwg::Handle handle, unsigned type) {
+      dwg::Fields fields = drawing.NewFields(handle);
+      dwg::BeginObject(fields, drawing.roots.named);
+      drawing.records[handle] = dwg::AssembleRecord({type}, fields);
+    };
+    cut(0xA01, drawing.ClassNumber("IMAGEDEF"));
+    cut(0xA03, 53);
+    cut(0xA04, 49);
+  });
+  std::vector<std::wstring> told;
+  for (const model::FileReference& file : opened->FileReferences()) {
+    if (file.use < model::FileUse::kPlotStyleTable) told.push_back(file.path);
+  }
+  EXPECT_THAT(told, testing::ElementsAre(L"road.dwg", L"b.png", L"second.shx"));
+  // One warning for all of them: a compressed page is the place of each.
+  EXPECT_EQ(opened.report->warningCount, 1u);
 }
 
 }  // namespace

@@ -129,11 +129,14 @@ class DwgDrawing : public model::Drawing {
   struct Files {
     std::vector<model::FileReference> found;
     std::unordered_set<model::Handle> known = {};
+    // Of all names and paths.
+    std::size_t characters = 0;
+    bool isFull = false;
   };
   void AddFile(Files& files, model::FileReference file);
   void FindDrawings(Files& files);
   void FindInDictionaries(Files& files);
-  bool KeepsFiles(const model::DictionaryEntry& entry);
+  bool KeepsObjectsOfFiles(const std::vector<model::DictionaryEntry>& entries);
   void TakeObject(Files& files, const model::DictionaryEntry& entry);
   void FindFonts(Files& files);
   void FindInHeader(Files& files);

@@ -16,8 +16,9 @@ namespace {
 using model::FileReference;
 using model::FileUse;
 
-// Far more than any drawing names.
+// Far more than any drawing names, and what their names and paths have together.
 constexpr std::size_t kMostFiles = 100000;
+constexpr std::size_t kMostCharacters = std::size_t{4} << 20;
 
 // What a free record may hold, and what one group of it takes at least in a record of that size.
 constexpr std::size_t kMostGroups = 100000;
@@ -53,6 +54,12 @@ constexpr NamingField kNamingFields[] = {
     {kPlotSettingsType, Key::kPrinter, FileUse::kPrinter},
 };
 
+bool KeepsFiles(std::wstring_view key) {
+  return std::any_of(std::begin(kFileKeys), std::end(kFileKeys), [key](std::wstring_view known) {
+    return CompareIgnoringCase(key, known) == 0;
+  });
+}
+
 bool IsDependent(const FieldValues& record, std::wstring_view name) {
   return (record.Number(Key::kDependentIndex) & kDependentIndex) != 0 ||
          record.Number(Key::kDependent) != 0 || model::IsDependentName(name);
@@ -70,8 +77,8 @@ class KnownNames {
   void Add(const FileReference& file) {
     names_.insert(FoldCase(file.path));
     std::wstring leaf = FoldCase(model::LeafOf(file.path));
-    if (leaf.find(L'.') == std::wstring::npos)
-      names_.insert(leaf + std::wstring(Extension(file.use)));
+    const bool hasExtension = leaf.find(L'.') != std::wstring::npos;
+    if (!hasExtension) names_.insert(leaf + std::wstring(Extension(file.use)));
     names_.insert(std::move(leaf));
   }
 
@@ -148,12 +155,14 @@ std::vector<FileReference> DwgDrawing::FileReferences() {
 }
 
 void DwgDrawing::AddFile(Files& files, FileReference file) {
-  if (file.path.empty()) return;
-  if (files.found.size() == kMostFiles) {
+  if (file.path.empty() || files.isFull) return;
+  files.characters += file.path.size() + file.name.size();
+  files.isFull = files.found.size() == kMostFiles || files.characters > kMostCharacters;
+  if (files.isFull) {
     Warn(L"The drawing names too many files.", file.handle);
-    return;
+  } else {
+    files.found.push_back(std::move(file));
   }
-  files.found.push_back(std::move(file));
 }
 
 void DwgDrawing::FindDrawings(Files& files) {
@@ -178,11 +187,17 @@ void DwgDrawing::FindDrawings(Files& files) {
 void DwgDrawing::FindInDictionaries(Files& files) {
   const std::optional<model::ObjectKey> root = RootDictionary();
   if (!root) return;
+  const bool looksEverywhere =
+      std::any_of(std::begin(kTypesAnywhere), std::end(kTypesAnywhere),
+                  [this](ObjectType type) { return Classes().HasLike(type); });
   files.known.insert(static_cast<model::Handle>(*root));
   for (const model::DictionaryEntry& entry : DictionaryEntries(*root)) {
-    if (entry.target == 0 || files.known.contains(entry.target) || !KeepsFiles(entry)) continue;
-    files.known.insert(entry.target);
-    for (const auto& object : DictionaryEntries(model::ObjectKey{entry.target})) {
+    const bool isKnownKey = KeepsFiles(entry.key);
+    if (!isKnownKey && !looksEverywhere) continue;
+    if (entry.target == 0 || !files.known.insert(entry.target).second) continue;
+    const auto objects = DictionaryEntries(model::ObjectKey{entry.target});
+    if (!isKnownKey && !KeepsObjectsOfFiles(objects)) continue;
+    for (const model::DictionaryEntry& object : objects) {
       if (object.target != 0 && files.known.insert(object.target).second) {
         TakeObject(files, object);
       }
@@ -190,22 +205,13 @@ void DwgDrawing::FindInDictionaries(Files& files) {
   }
 }
 
-// Whether what stands under an entry of the root is a dictionary of objects that name files.
-bool DwgDrawing::KeepsFiles(const model::DictionaryEntry& entry) {
-  const auto isKey = [&entry](std::wstring_view key) {
-    return CompareIgnoringCase(entry.key, key) == 0;
-  };
-  if (std::any_of(std::begin(kFileKeys), std::end(kFileKeys), isKey)) return true;
-  const auto isDeclared = [this](ObjectType type) { return Classes().HasLike(type); };
-  if (std::none_of(std::begin(kTypesAnywhere), std::end(kTypesAnywhere), isDeclared)) return false;
-  // The first object tells.
-  for (const auto& object : DictionaryEntries(model::ObjectKey{entry.target})) {
-    if (object.target == 0) continue;
-    const std::optional<Kind> kind = KindOf(object.target);
-    return kind && std::find(std::begin(kTypesAnywhere), std::end(kTypesAnywhere), kind->like) !=
-                       std::end(kTypesAnywhere);
-  }
-  return false;
+// Whether these are the entries of a dictionary that is told by its objects: by the first.
+bool DwgDrawing::KeepsObjectsOfFiles(const std::vector<model::DictionaryEntry>& entries) {
+  const auto first = std::find_if(entries.begin(), entries.end(),
+                                  [](const auto& entry) { return entry.target != 0; });
+  const std::optional<Kind> kind = first != entries.end() ? KindOf(first->target) : std::nullopt;
+  return kind && std::find(std::begin(kTypesAnywhere), std::end(kTypesAnywhere), kind->like) !=
+                     std::end(kTypesAnywhere);
 }
 
 void DwgDrawing::TakeObject(Files& files, const model::DictionaryEntry& entry) {
@@ -244,7 +250,7 @@ void DwgDrawing::FindFonts(Files& files) {
     };
     const bool isShapeFile = fields.Number(Key::kIsShapeFile) != 0;
     add(isShapeFile ? FileUse::kShapeFile : FileUse::kFont, Key::kFont);
-    if (!isShapeFile) add(FileUse::kBigFont, Key::kBigFont);
+    add(FileUse::kBigFont, Key::kBigFont);
   }
 }
 

@@ -112,6 +112,21 @@ TEST_F(ClassTableTest, ATableThatEndsEarlyKeepsItsClasses) {
   EXPECT_EQ(report.warnings[0].offset, 0x900u);
 }
 
+TEST_F(ClassTableTest, AClassIsLikeATypeByItsNameOrByTheEndOfIt) {
+  Bits fields;
+  unsigned number = 500;
+  for (const char* name : {"IMAGEDEF", "FARPOINTCLOUDDEF", "POINTCLOUDDEFINER", "FARIMAGEDEF"}) {
+    fields.BS(number++).BS(0).T("app").T("Class").T(name).B(false).BS(0x1F3);
+  }
+  const ClassTable table = Read(FramedClasses(fields), kClassesOf1015);
+  EXPECT_EQ(table.Find(500)->like, kImageDefinitionType);
+  EXPECT_EQ(table.Find(501)->like, kPointCloudDefinitionType);
+  EXPECT_EQ(table.Find(502)->like, std::nullopt);
+  EXPECT_EQ(table.Find(503)->like, std::nullopt);
+  EXPECT_TRUE(table.HasLike(kPointCloudDefinitionType));
+  EXPECT_FALSE(table.HasLike(kMaterialType));
+}
+
 TEST_F(ClassTableTest, OfARepeatedNumberTheFirstCounts) {
   Bits fields;
   for (const char* name : {"First", "Second"}) {

@@ -219,10 +219,13 @@ bool LayoutReader::ReadHandles(const Field& field, std::uint64_t times) {
 
 // Empty ones take next to nothing, and nobody asks for them.
 bool LayoutReader::ReadTexts(const Field& field) {
+  std::uint64_t left = MostTimes(Code::kText, streams_);
   while (streams_.HasTextsLeft()) {
     std::string text = streams_.Text();
     if (!streams_.Good()) return false;
-    if (!text.empty()) values_.AppendText(field.key, std::move(text));
+    if (text.empty()) continue;
+    if (left-- == 0) return false;
+    values_.AppendText(field.key, std::move(text));
   }
   return true;
 }
