@@ -8,7 +8,8 @@ MAKEFLAGS += --no-print-directory
 JOBS ?= $(shell nproc)
 
 BUILD_PACKAGES := g++ cmake make libcli11-dev libpng-dev nlohmann-json3-dev
-TEST_PACKAGES := $(BUILD_PACKAGES) libgtest-dev googletest libgmock-dev graphicsmagick netpbm
+TEST_PACKAGES := $(BUILD_PACKAGES) libgtest-dev googletest libgmock-dev graphicsmagick netpbm \
+  graphviz chromium
 WINDOWS_PACKAGES := g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine64 wine64-preloader googletest lld \
   cmake make libcli11-dev nlohmann-json3-dev dpkg-dev debian-archive-keyring zip
 LINT_PACKAGES := $(TEST_PACKAGES) clang-format-14 clang-tidy-14 libbenchmark-dev \
@@ -47,6 +48,8 @@ demo:
 	  echo; echo "\$$ zdx $$words examples/site-plan.dwg"; \
 	  build/demo/bin/zdx $$words examples/site-plan.dwg || exit 1; \
 	done
+	@echo; echo '$$ zdx deps examples/plant/plant.dwg'
+	@build/demo/bin/zdx deps examples/plant/plant.dwg
 	@echo; echo '$$ zdx thumb examples/site-plan.dwg -O build/demo/site-plan.png'
 	@build/demo/bin/zdx thumb examples/site-plan.dwg -O build/demo/site-plan.png
 	@echo 'The preview picture is in build/demo/site-plan.png.'
@@ -76,7 +79,7 @@ compare-systems:
 	@.ci/packages $(TEST_PACKAGES)
 	@cmake --preset dev > /dev/null && cmake --build --preset dev -j$(JOBS) --target zdx > /dev/null
 	@.ci/compare-systems build/dev/bin/zdx build/windows/bin/zdx.exe \
-	  $(wildcard examples/*.d?? ../shared/samples/*.d??)
+	  $(wildcard examples/*.d?? examples/plant/*.d?? ../shared/samples/*.d??)
 
 package-windows: windows-tools
 	@.ci/windows-libraries $(JOBS)

@@ -32,7 +32,7 @@ class Paths : public testing::Test {
   std::wstring At(const char* name) const { return zdx_test::NameOf(folder.path() / name); }
   std::wstring Write(const char* name) {
     fs::create_directories((folder.path() / name).parent_path());
-    return zdx_test::NameOf(folder.Write(name, "x"));
+    return zdx_test::NameOf(folder.Write(name, "x").make_preferred());
   }
   std::wstring Here() const { return zdx_test::NameOf(folder.path()); }
   bool Exists(const std::wstring& path) { return paths->PathFileExistsW(path.c_str()) != 0; }

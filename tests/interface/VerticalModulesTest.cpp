@@ -45,7 +45,7 @@ void StartEngine() {
 // A manager without services, whose services nobody else uses.  It stays until the process ends, as
 // the one of the engine does.
 FileReferenceMgr& NewManager() {
-  static std::vector<FileReferenceMgr*> managers;
+  static auto& managers = *new std::vector<FileReferenceMgr*>();
   managers.push_back(new FileReferenceMgr(FileReferenceMgr::Instance()));
   return *managers.back();
 }
@@ -198,7 +198,7 @@ TEST_P(VerticalModules, AModuleThatFailsIsAnErrorAndTheWalkedDrawingCanBeLetGo) 
 ZDXEngine::UpdateDependenciesFunc forwardTo = nullptr;
 
 std::vector<std::wstring> Forward(ZnDbDatabase* database, ZDXEngine::VerticalRecord& destinations) {
-  static std::vector<const ZDXEngine::VerticalRecord*> kept;
+  static auto& kept = *new std::vector<const ZDXEngine::VerticalRecord*>();
   kept.push_back(&destinations);
   return forwardTo(database, destinations);
 }

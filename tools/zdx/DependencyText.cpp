@@ -58,6 +58,7 @@ std::string StateOf(const DependencyRecord& record) {
   if (!IsMissing(record) && !detail.reason.empty()) {
     text += (text.empty() ? "" : ": ") + ReadableText(detail.reason);
   }
+  if (text.empty() && !detail.exists) text = "not looked for";
   if (record.isOverlay && detail.kind != DependencyKind::OverlaidDrawing) {
     AppendPart(text, "overlaid");
   }

@@ -13,7 +13,7 @@ namespace {
 
 constexpr std::string_view kMissingColour = "#b3261e";
 
-// Graphviz reads no quoted text of more than 16,384 bytes, and a byte here is at most ten there.
+// Graphviz reads no quoted text of more than 16,384 bytes, and a byte here is at most five there.
 constexpr std::size_t kMostBytes = 1500;
 
 // The beginning of `text`, valid UTF-8, if it is too long.
@@ -44,10 +44,9 @@ std::string Quoted(const std::string& text, std::string_view backslash) {
   return quoted;
 }
 
-// "\N" and its kin are looked for before entities become characters in a label, in a tip also after
-// that.
-std::string LabelText(const std::string& text) { return Quoted(text, "\\\\"); }
-std::string TipText(const std::string& text) { return Quoted(text, "&#92;&#92;"); }
+// "\N" and its kin are looked for once in a label and twice in a tip.
+std::string LabelText(const std::string& text) { return Quoted(text, R"(\\)"); }
+std::string TipText(const std::string& text) { return Quoted(text, R"(\\\\)"); }
 
 std::string NodeName(std::size_t place) { return "n" + std::to_string(place); }
 

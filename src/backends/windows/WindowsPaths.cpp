@@ -60,7 +60,10 @@ int WindowsPaths::CreateDirectoryW(const wchar_t* path, void* security) {
 }
 
 std::uint32_t WindowsPaths::GetModuleFileNameW(void* module, wchar_t* path, std::uint32_t size) {
-  return ::GetModuleFileNameW(static_cast<HMODULE>(module), path, size);
+  const DWORD length = ::GetModuleFileNameW(static_cast<HMODULE>(module), path, size);
+  // Not every system ends a path that it cuts off.
+  if (size != 0 && length >= size) path[size - 1] = L'\0';
+  return length;
 }
 
 os::Errno WindowsPaths::_wsplitpath_s(const wchar_t* path, wchar_t* drive, std::size_t driveSize,

@@ -134,7 +134,10 @@ TEST(TextOfDependencies, TellsWhatIsSpecialAboutAReference) {
   DependencyRecord damaged = Found(DependencyKind::AttachedDrawing, L"c.dwg");
   damaged.detail.problem = DependencyProblem::Damaged;
   damaged.detail.reason = L"Half of it\nis gone.";
-  const std::string text = TextOf(L"a", ReportOf({repeated, unloaded, damaged}));
+  DependencyRecord address = Found(DependencyKind::Image, L"d.png");
+  address.detail.exists = false;
+  const std::string text = TextOf(L"a", ReportOf({repeated, unloaded, damaged, address}));
+  EXPECT_THAT(text, HasSubstr("d.png  image             not looked for\n"));
   EXPECT_THAT(text, HasSubstr("a.dwg  attached drawing  overlaid, repeated\n"));
   EXPECT_THAT(text, HasSubstr("b.png  image             MISSING, unloaded\n"));
   EXPECT_THAT(text, HasSubstr("c.dwg  attached drawing  damaged: Half of it\\x0ais gone.\n"));
