@@ -9,7 +9,7 @@ JOBS ?= $(shell nproc)
 
 BUILD_PACKAGES := g++ cmake make libcli11-dev libpng-dev nlohmann-json3-dev
 TEST_PACKAGES := $(BUILD_PACKAGES) libgtest-dev googletest libgmock-dev graphicsmagick netpbm
-WINDOWS_PACKAGES := g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine64 wine64-preloader googletest \
+WINDOWS_PACKAGES := g++-mingw-w64-x86-64-posix libz-mingw-w64-dev wine64 wine64-preloader googletest lld \
   cmake make libcli11-dev nlohmann-json3-dev dpkg-dev debian-archive-keyring zip
 LINT_PACKAGES := $(TEST_PACKAGES) clang-format-14 clang-tidy-14 libbenchmark-dev \
   g++-mingw-w64-x86-64-posix

@@ -27,8 +27,9 @@ using testing::UnorderedElementsAre;
 // and the text "90" and the constant "MAKER" of the text "Smith", and which holds a line behind
 // them.  A reference of it with two attributes stands in model space, another with two in the block
 // "House", the second of many lines.  "House" also holds a text and a multi-line text.  The block
-// "Gate" is dynamic and has the copies "*U7" and "*U8".  The drawing's location is tied to its
-// point (1, 2, 3) and counts in metres.
+// "Gate" is dynamic and has the copies "*U7" and "*U8".  "Site" stands for an attached drawing and
+// "Grid", whose handle is AB, for an overlaid one.  The drawing's location is tied to its point
+// (1, 2, 3) and counts in metres.
 class Subject {
  public:
   virtual ~Subject() = default;
@@ -59,6 +60,10 @@ class Scripted : public Subject {
     for (const wchar_t* copy : {L"*U7", L"*U8"}) {
       gate.copies.push_back(&world_.drawing.blocks.Add(copy));
     }
+    world_.drawing.blocks.Add(L"Site");
+    scripted::Record& grid = world_.drawing.blocks.Add(L"Grid");
+    grid.overlay = true;
+    grid.handle = 0xAB;
     world_.drawing.location.emplace();
     world_.drawing.location->designPoint = {1, 2, 3};
     world_.drawing.location->horizontalUnits = 6;
@@ -89,7 +94,10 @@ class Embedded : public Subject {
                       drawing::MText("0", {}, 1, "on\\Pmany")}},
         {.name = "Gate", .isDynamic = true},
         {.name = "*U7", .copyOf = "Gate"},
-        {.name = "*U8", .copyOf = "Gate"}};
+        {.name = "*U8", .copyOf = "Gate"},
+        drawing::XrefBlock("Site", "site.dwg"),
+        drawing::XrefBlock("Grid", "grid.dwg", drawing::Xref::Overlaid)};
+    spec.blocks.back().handle = "AB";
     spec.entities = {
         drawing::Insert("Door", {{.tag = "A", .value = "80"}, {.tag = "B", .value = "81"}})};
     drawing::GeoSpec geo;
@@ -198,6 +206,35 @@ TEST_P(BlockContract, OnlyABlockWithDefinitionsHasThem) {
     ZnDbBlockTableRecord* const block = Block(name);
     EXPECT_EQ(block->hasAttributeDefinitions(), hasThem) << name;
     block->close();
+  }
+}
+
+TEST_P(BlockContract, OnlyAnOverlaidDrawingIsAnOverlay) {
+  for (const auto& [name, isOverlay] :
+       {std::pair(L"*Model_Space", false), std::pair(L"Door", false), std::pair(L"Site", false),
+        std::pair(L"Grid", true)}) {
+    ZnDbBlockTableRecord* const block = Block(name);
+    EXPECT_EQ(block->isFromOverlayReference(), isOverlay) << name;
+    block->close();
+  }
+}
+
+TEST_P(BlockContract, AnIdTellsTheHandleOfItsObject) {
+  EXPECT_EQ(IdOf(L"Grid").nonForwardedHandle(), 0xABu);
+  EXPECT_EQ(ZnDbObjectId().nonForwardedHandle(), 0u);
+}
+
+TEST_P(BlockContract, AWalkStartsAgainAtEitherEnd) {
+  const auto records = Records();
+  const auto first = IdOf(L"*Model_Space");
+  const auto last = IdOf(L"Grid");
+  while (!records->done()) records->step(true, true);
+  for (const auto& [atBeginning, id] : {std::pair(true, first), std::pair(false, last)}) {
+    records->start(atBeginning, true);
+    ASSERT_FALSE(records->done());
+    ZnDbObjectId at;
+    ASSERT_EQ(records->getRecordId(at), Zent::kOk);
+    EXPECT_EQ(at, id);
   }
 }
 

@@ -27,6 +27,8 @@ class Subject {
   virtual ~Subject() = default;
   // Reads the drawing into `database`.
   virtual Zent::ErrorStatus Read(ZnDbDatabase& database) = 0;
+  // The path that it is read from.
+  virtual std::wstring Path() const = 0;
 };
 
 class Scripted : public Subject {
@@ -39,9 +41,11 @@ class Scripted : public Subject {
     world_.drawing.summary.title = L"Plan";
     world_.drawing.summary.custom = {{L"Client", L"Somebody"}};
     world_.drawing.settings.menu = L"menu";
+    world_.drawing.originalFileName = Path();
   }
+  std::wstring Path() const override { return L"/somewhere/plan.dxf"; }
   Zent::ErrorStatus Read(ZnDbDatabase& database) override {
-    return database.dxfIn(L"plan.dxf", nullptr);
+    return database.dxfIn(Path().c_str(), nullptr);
   }
 
  private:
@@ -61,8 +65,9 @@ class Embedded : public Subject {
     file_.emplace(asDwg ? dwg::Make(spec) : dxf::Make(spec), asDwg ? ".dwg" : ".dxf");
   }
   ~Embedded() override { zndb::InstallProvider(before_); }
+  std::wstring Path() const override { return zdx_test::NameOf(file_->path()); }
   Zent::ErrorStatus Read(ZnDbDatabase& database) override {
-    const std::wstring path = zdx_test::NameOf(file_->path());
+    const std::wstring path = Path();
     return asDwg_ ? database.readDwgFile(path.c_str(), 4, true, nullptr)
                   : database.dxfIn(path.c_str(), nullptr);
   }
@@ -104,6 +109,10 @@ class DatabaseContract : public testing::TestWithParam<const char*> {
 };
 
 TEST_P(DatabaseContract, ReadsTheDrawing) { EXPECT_EQ(status, Zent::kOk); }
+
+TEST_P(DatabaseContract, KnowsTheFileThatItWasReadFrom) {
+  EXPECT_EQ(database->originalFileName(), subject->Path());
+}
 
 TEST_P(DatabaseContract, IteratesOverTheRecordsInOrder) {
   ZnDbLayerTable* const table = Layers();
@@ -323,6 +332,7 @@ TEST_P(EmbeddedDatabase, BeforeAFileIsReadThereIsNothing) {
   EXPECT_EQ(table, nullptr);
   EXPECT_TRUE(database.namedObjectsDictionaryId().isNull());
   EXPECT_EQ(database.originalFileVersion(), 0);
+  EXPECT_STREQ(database.originalFileName(), L"");
   const wchar_t* name = nullptr;
   EXPECT_NE(database.getFilename(name), Zent::kOk);
   ZnDbObjectId location;

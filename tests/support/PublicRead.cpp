@@ -10,7 +10,14 @@ namespace {
 
 using ZDXEngine::FilePropertyMgr;
 
-void StartEngineOnce() {
+std::string TextOf(const ZDXEngine::_PropData& record) {
+  if (record.value.vt != VT_BSTR || record.value.bstrVal == nullptr) return "(no text)";
+  return ZDXEngine::Utf8FromWide(record.value.bstrVal);
+}
+
+}  // namespace
+
+void StartEngine() {
   static const bool started = [] {
     ZDXEngine::ZDXService::SetupHostApplication();
     ZDXEngine::ZDXService::InitHostApplication();
@@ -18,13 +25,6 @@ void StartEngineOnce() {
   }();
   (void)started;
 }
-
-std::string TextOf(const ZDXEngine::_PropData& record) {
-  if (record.value.vt != VT_BSTR || record.value.bstrVal == nullptr) return "(no text)";
-  return ZDXEngine::Utf8FromWide(record.value.bstrVal);
-}
-
-}  // namespace
 
 std::wstring WriteFile(std::string_view bytes, const std::string& suffix) {
   return NameOf(NewFile(bytes, suffix));
@@ -54,7 +54,7 @@ Reading ReadFile(const std::wstring& path, FilePropertyMgr::FilePropertiesSet se
 
 Reading ReadFile(const std::wstring& path, std::vector<ZDXEngine::BlockFilterParam> filters,
                  FilePropertyMgr::FilePropertiesSet selection) {
-  StartEngineOnce();
+  StartEngine();
   Reading reading;
   reading.properties = FilePropertyMgr::Instance().GetProperties(path, filters, selection);
   reading.diagnostics = ZDXEngine::Diagnostics::LastOpening();
@@ -62,7 +62,7 @@ Reading ReadFile(const std::wstring& path, std::vector<ZDXEngine::BlockFilterPar
 }
 
 std::vector<ZDXEngine::BlockInfo> ListBlocks(const std::wstring& path) {
-  StartEngineOnce();
+  StartEngine();
   return ZDXEngine::ListBlocksWithAttributes(path);
 }
 

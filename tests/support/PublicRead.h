@@ -16,6 +16,9 @@ inline constexpr std::wstring_view kSummary = L"{F29F85E0-4FF9-1068-AB91-08002B2
 inline constexpr std::wstring_view kCustom = L"{D5CDD505-2E9C-101B-9397-08002B2CF9AE}";
 inline constexpr std::wstring_view kStorage = L"{B725F130-47EF-101A-A5F1-02608C9EEBAC}";
 
+// Starts the engine at the first call.
+void StartEngine();
+
 // The name of a new file of `bytes`, which goes away with the process; it ends in `suffix`.
 std::wstring WriteFile(std::string_view bytes, const std::string& suffix = ".dxf");
 

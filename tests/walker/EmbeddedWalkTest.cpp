@@ -188,6 +188,13 @@ TEST_F(EmbeddedWalk, AFolderMayNotBeRead) {
   EXPECT_EQ(ConditionBelow("folder.dwg"), 3);
 }
 
+TEST_F(EmbeddedWalk, APipeIsNotWaitedFor) {
+  if (!zdx_test::MakePipe(folder.path() / "pipe.dwg")) {
+    GTEST_SKIP() << "This system has no pipes among its files.";
+  }
+  EXPECT_EQ(ConditionBelow("pipe.dwg"), 3);
+}
+
 TEST_F(EmbeddedWalk, AFileThatIsNoDrawingHasABadHeader) {
   folder.Write("text.dwg", "This is a text.");
   EXPECT_EQ(ConditionBelow("text.dwg"), 16);

@@ -31,7 +31,8 @@ Request ParseCommandLine(const std::vector<std::string>& arguments) {
   // Not more than one, or a file with a command's name would count as a second command.
   app.require_subcommand(0, 1);
   app.footer("Run 'zdx COMMAND --help' for the options of a command.");
-  const std::array commands = {InfoUsage(app), BlocksUsage(app), GetUsage(app), ThumbUsage(app)};
+  const std::array commands = {InfoUsage(app),  BlocksUsage(app), GetUsage(app),
+                               ThumbUsage(app), DepsUsage(app),   VersionUsage(app)};
   try {
     app.parse(ReversedArguments(arguments));
   } catch (const CLI::CallForHelp&) {

@@ -6,9 +6,11 @@
 #include <vector>
 
 #include "BlocksCommand.h"
+#include "DepsCommand.h"
 #include "GetCommand.h"
 #include "InfoCommand.h"
 #include "ThumbCommand.h"
+#include "VersionCommand.h"
 
 namespace zdx {
 
@@ -23,8 +25,8 @@ struct WrongUsage {
   std::string text;
 };
 
-using Request =
-    std::variant<InfoOptions, BlocksOptions, GetOptions, ThumbOptions, PrintAndLeave, WrongUsage>;
+using Request = std::variant<InfoOptions, BlocksOptions, GetOptions, ThumbOptions, DepsOptions,
+                             VersionOptions, PrintAndLeave, WrongUsage>;
 
 // Reads what stands behind the program's name.
 Request ParseCommandLine(const std::vector<std::string>& arguments);

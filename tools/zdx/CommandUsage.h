@@ -34,5 +34,7 @@ std::unique_ptr<CommandUsage> InfoUsage(CLI::App& app);
 std::unique_ptr<CommandUsage> BlocksUsage(CLI::App& app);
 std::unique_ptr<CommandUsage> GetUsage(CLI::App& app);
 std::unique_ptr<CommandUsage> ThumbUsage(CLI::App& app);
+std::unique_ptr<CommandUsage> DepsUsage(CLI::App& app);
+std::unique_ptr<CommandUsage> VersionUsage(CLI::App& app);
 
 }  // namespace zdx

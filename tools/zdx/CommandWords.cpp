@@ -15,6 +15,17 @@ namespace {
 // No argument of a process can hold this character.
 constexpr char kMark = '\0';
 
+struct Form {
+  std::string_view word;
+  std::string_view meaning;
+  OutputFormat format;
+};
+
+constexpr Form kForms[] = {{"text", "for people", OutputFormat::kText},
+                           {"json", "for programs", OutputFormat::kJson},
+                           {"dot", "for Graphviz", OutputFormat::kDot},
+                           {"html", "a page with the graph", OutputFormat::kHtml}};
+
 }  // namespace
 
 const char* const kExitCodesOfFiles =
@@ -33,18 +44,25 @@ std::string Unmarked(std::string word) {
   return word;
 }
 
-void AddOutputFormat(CLI::App& command, std::string& word) {
-  command.add_option("-o,--output", word, "text for people, json for programs; default text")
-      ->check(CLI::IsMember({"text", "json"}))
+void AddOutputFormat(CLI::App& command, std::string& word, const std::vector<std::string>& forms) {
+  std::string meaning;
+  for (const Form& form : kForms) {
+    if (std::find(forms.begin(), forms.end(), form.word) == forms.end()) continue;
+    meaning.append(meaning.empty() ? "" : ", ").append(form.word).append(" ").append(form.meaning);
+  }
+  command.add_option("-o,--output", word, meaning + "; default text")
+      ->check(CLI::IsMember(forms))
       ->type_name("FORMAT");
 }
 
 OutputFormat OutputFormatOf(const std::string& word) {
-  return word == "json" ? OutputFormat::kJson : OutputFormat::kText;
+  const auto* const form = std::find_if(std::begin(kForms), std::end(kForms),
+                                        [&](const Form& known) { return known.word == word; });
+  return form == std::end(kForms) ? OutputFormat::kText : form->format;
 }
 
-void AddFiles(CLI::App& command, std::vector<std::string>& words) {
-  command.add_option("FILE", words, "drawings; names that begin with '-' go after --")
+CLI::Option* AddFiles(CLI::App& command, std::vector<std::string>& words) {
+  return command.add_option("FILE", words, "drawings; names that begin with '-' go after --")
       ->required()
       ->type_name("");
 }

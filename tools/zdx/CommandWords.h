@@ -10,7 +10,8 @@
 
 namespace CLI {
 class App;
-}
+class Option;
+}  // namespace CLI
 
 namespace zdx {
 
@@ -19,12 +20,13 @@ namespace zdx {
 std::string Marked(std::string_view word);
 std::string Unmarked(std::string word);
 
-// Adds an option for the form of what is told; `word` is "text" or "json" then.
-void AddOutputFormat(CLI::App& command, std::string& word);
+// Adds an option for the form of what is told; `word` is one of `forms` then.
+void AddOutputFormat(CLI::App& command, std::string& word,
+                     const std::vector<std::string>& forms = {"text", "json"});
 OutputFormat OutputFormatOf(const std::string& word);
 
 // Adds the drawings, at least one.
-void AddFiles(CLI::App& command, std::vector<std::string>& words);
+CLI::Option* AddFiles(CLI::App& command, std::vector<std::string>& words);
 // The drawings that such words stand for.
 std::vector<std::string> FilesOf(const std::vector<std::string>& words);
 

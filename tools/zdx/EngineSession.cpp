@@ -1,7 +1,5 @@
 #include "EngineSession.h"
 
-#include "ZDXEngine/ZDXService.h"
-
 namespace zdx {
 
 namespace {
@@ -12,8 +10,8 @@ constexpr long kEnglish = 1033;
 
 namespace service = ZDXEngine::ZDXService;
 
-EngineSession::EngineSession() {
-  service::SetupHostApplication();
+EngineSession::EngineSession(const ZDXEngine::HostApplicationParam& host) {
+  service::SetupHostApplication(host);
   service::ValidateHostApplication(kEnglish);
   service::InitHostApplication();
   service::InitializeEConvyEngine();

@@ -4,8 +4,8 @@
 namespace zdx {
 
 inline constexpr int kAllFilesRead = 0;
-// All files were read, but what was asked for isn't there: a preview picture to write, or in some
-// file a value to print.
+// All files were read, but what was asked for isn't there: a preview picture to write, in some file
+// a value to print, or a file that is needed.
 inline constexpr int kNothingThere = 1;
 // At least one file failed; the others were told.
 inline constexpr int kFileFailed = 2;

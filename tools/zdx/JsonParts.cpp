@@ -11,8 +11,6 @@ namespace {
 
 using ZDXEngine::Utf8FromWide;
 
-constexpr const char* kSchema = "zdx/1";
-
 // Appends a member to `document`, the text of an object that isn't empty; `value` is JSON text.
 void AppendMember(std::string& document, std::string_view name, std::string_view value) {
   document.back() = ',';
@@ -50,6 +48,16 @@ void AddPlace(Json& object, const ZDXEngine::DiagnosticPlace& place) {
   if (place.line) object["line"] = *place.line;
   if (place.offset) object["offset"] = *place.offset;
   if (place.handle) object["handle"] = HandleText(*place.handle);
+}
+
+Json ErrorJson(const Failure& failure) {
+  Json error = {{"class", failure.className}, {"code", nullptr}, {"message", failure.message}};
+  if (failure.code) error["code"] = *failure.code;
+  Json place;
+  AddPlace(place, failure.place);
+  error["place"] = std::move(place);
+  if (!failure.reason.empty()) error["reason"] = failure.reason;
+  return error;
 }
 
 std::string DocumentText(const Json& document, std::string_view listName, std::string_view list,

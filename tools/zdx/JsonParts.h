@@ -5,11 +5,15 @@
 #include <string>
 #include <string_view>
 
+#include "Failure.h"
 #include "ZDXEngine/Diagnostics.h"
 
 namespace zdx {
 
 using Json = nlohmann::ordered_json;
+
+// The form of all documents.
+inline constexpr const char* kSchema = "zdx/1";
 
 // The start of a document; `status` is "ok" or "error".
 Json JsonDocument(const std::wstring& path, const char* status);
@@ -19,6 +23,9 @@ void AddForm(Json& document, const ZDXEngine::Diagnostics& found);
 
 // Adds what of `place` is known.
 void AddPlace(Json& object, const ZDXEngine::DiagnosticPlace& place);
+
+// Why a file couldn't be read.
+Json ErrorJson(const Failure& failure);
 
 // `document` as text, with a member `listName` whose value is `list`, JSON text, with the warnings
 // and with a line end.  The list comes as text since a tree of a million values would take many

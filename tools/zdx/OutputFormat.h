@@ -3,6 +3,6 @@
 
 namespace zdx {
 
-enum class OutputFormat { kText, kJson };
+enum class OutputFormat { kText, kJson, kDot, kHtml };
 
 }  // namespace zdx

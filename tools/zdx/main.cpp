@@ -16,6 +16,8 @@ struct Follow {
   int operator()(const zdx::BlocksOptions& options) const { return zdx::RunBlocks(options); }
   int operator()(const zdx::GetOptions& options) const { return zdx::RunGet(options); }
   int operator()(const zdx::ThumbOptions& options) const { return zdx::RunThumb(options); }
+  int operator()(const zdx::DepsOptions& options) const { return zdx::RunDeps(options); }
+  int operator()(const zdx::VersionOptions& options) const { return zdx::RunVersion(options); }
   int operator()(const zdx::PrintAndLeave& print) const {
     return zdx::WriteOutput(print.text) ? zdx::kAllFilesRead : zdx::kOutputFailed;
   }

@@ -14,6 +14,8 @@ constexpr std::size_t kMostListed = 100000;
 constexpr std::size_t kTailSize = 4 + 4 + 4 + 2 + 4;
 
 constexpr std::size_t kWideSize = 4;
+constexpr std::uint32_t kLastCharacter = 0x10FFFF;
+constexpr std::uint32_t kFirstOfPairs = 0x10000;
 
 class ListReader {
  public:
@@ -45,25 +47,39 @@ class ListReader {
   std::string_view bytes_;
 };
 
-// Whether each character of a text has four bytes, of which the high ones are zero.
+// Whether each character of a text has four bytes.  Two of UTF-16 would make no character, for the
+// second one would have to be a control character.
 bool IsWide(std::string_view text) {
-  if (text.empty() || text.size() % kWideSize != 0) return false;
+  if (text.size() % kWideSize != 0) return false;
   for (std::size_t i = 0; i < text.size(); i += kWideSize) {
-    if (text[i + 2] != '\0' || text[i + 3] != '\0') return false;
+    if (LittleEndianAt<std::uint32_t>(text, i) > kLastCharacter) return false;
   }
   return true;
 }
 
-// The first `kept` bytes of each character.
-std::string Narrow(std::string_view text, std::size_t kept) {
-  std::string narrow;
-  narrow.reserve(text.size() / kWideSize * kept);
-  for (std::size_t i = 0; i < text.size(); i += kWideSize) narrow += text.substr(i, kept);
-  return narrow;
+void AppendUnit(std::string& text, std::uint32_t unit) {
+  text += static_cast<char>(unit & 0xFF);
+  text += static_cast<char>(unit >> 8);
+}
+
+std::string Utf16FromWide(std::string_view wide) {
+  std::string text;
+  text.reserve(wide.size() / 2);
+  for (std::size_t i = 0; i < wide.size(); i += kWideSize) {
+    const auto point = LittleEndianAt<std::uint32_t>(wide, i);
+    if (point < kFirstOfPairs) {
+      AppendUnit(text, point);
+      continue;
+    }
+    const std::uint32_t rest = point - kFirstOfPairs;
+    AppendUnit(text, 0xD800 + (rest >> 10));
+    AppendUnit(text, 0xDC00 + (rest & 0x3FF));
+  }
+  return text;
 }
 
 std::string AsStored(std::string_view text, Format format) {
-  if (IsWide(text)) return Narrow(text, format.HasStringStream() ? 2 : 1);
+  if (format.HasStringStream() && IsWide(text)) return Utf16FromWide(text);
   return std::string(text);
 }
 

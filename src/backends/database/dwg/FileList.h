@@ -4,8 +4,8 @@
 //   number of files (4 bytes); of each its name, path, fingerprint and version, then its purpose,
 //   time and size (4 bytes each), a word (2 bytes), how often it is needed (4 bytes)
 //
-// A text is its number of bytes (4 bytes) and the bytes: of the code page in AC1018, UTF-16 later;
-// some writers give each character four bytes.
+// A text is its number of bytes (4 bytes) and the bytes: of the code page in AC1018, UTF-16 later,
+// where some writers give each character four bytes.
 #pragma once
 
 #include <string>

@@ -43,6 +43,10 @@ class EmbeddedDatabase : public ::zndb::DatabaseBody {
   // The object that `stub` stands for; null if there is none.
   ZnDbObject* Open(ZnDbStub& stub);
 
+  // What a save writes about redirections of model documents; nullopt for what the file holds.
+  const std::optional<std::wstring>& redirections() const { return redirections_; }
+  void SetRedirections(std::wstring text) { redirections_ = std::move(text); }
+
   Zent::ErrorStatus GetGeoDataId(ZnDbObjectId& id);
   bool IsDynamicBlock(const ZnDbStub& record);
   Zent::ErrorStatus GetAnonymousBlockIds(const ZnDbStub& record, ZnDbObjectIdArray& ids);
@@ -103,6 +107,7 @@ class EmbeddedDatabase : public ::zndb::DatabaseBody {
   std::unique_ptr<model::Drawing> drawing_;
   std::wstring dimpost_;
   std::wstring dimapost_;
+  std::optional<std::wstring> redirections_;
 
   // Stubs stay where they are: ids point at them.
   mutable std::deque<ZnDbStub> stubs_;

@@ -23,45 +23,45 @@ using testing::Contains;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-const std::string kPreview = Noise(0x60, 3);
+const std::string kPagedPreview = Noise(0x60, 3);
 const std::string kFirstPaged = Noise(0x80, 1);
 const std::string kSecondPaged = Noise(0x80, 2);
 
 // A section of two compressed pages, and one that is stored plain.
-PagedSpec Spec() {
+PagedSpec PagedFileSpec() {
   PagedSpec spec;
   spec.parts = {{"AcDb:AcDbObjects",
                  0xC0,
                  0x80,
                  true,
                  {{OneRun(kFirstPaged), 0}, {OneRun(kSecondPaged), 0x80}}},
-                {"AcDb:Preview", 0x60, 0x80, false, {{Padded(kPreview, 0x80), 0}}}};
+                {"AcDb:Preview", 0x60, 0x80, false, {{Padded(kPagedPreview, 0x80), 0}}}};
   return spec;
 }
 
 Opened OpenedPaged(const std::string& bytes) { return Opened(OpenPaged, bytes); }
 
 TEST(PagedContainer, JoinsThePagesOfASection) {
-  Opened file = OpenedPaged(MakePaged(Spec()).bytes);
+  Opened file = OpenedPaged(MakePaged(PagedFileSpec()).bytes);
   EXPECT_EQ(file.All(SectionId::kObjects), kFirstPaged + kSecondPaged.substr(0, 0x40));
-  EXPECT_EQ(file.All(SectionId::kPreview), kPreview);
+  EXPECT_EQ(file.All(SectionId::kPreview), kPagedPreview);
   EXPECT_THAT(file.Warnings(), IsEmpty());
 }
 
 TEST(PagedContainer, ASectionThatTheMapDoesNotNameIsNotThere) {
-  Opened file = OpenedPaged(MakePaged(Spec()).bytes);
+  Opened file = OpenedPaged(MakePaged(PagedFileSpec()).bytes);
   EXPECT_EQ(file.container().Find(SectionId::kSummary), nullptr);
 }
 
 TEST(PagedContainer, TellsWhereAPlainByteAndWhereACompressedPageStands) {
-  const PagedBytes made = MakePaged(Spec());
+  const PagedBytes made = MakePaged(PagedFileSpec());
   Opened file = OpenedPaged(made.bytes);
   EXPECT_EQ(file.container().Find(SectionId::kPreview)->PlaceOf(5), made.pages[2] + 0x20 + 5);
   EXPECT_EQ(file.container().Find(SectionId::kObjects)->PlaceOf(0x85), made.pages[1]);
 }
 
 TEST(PagedContainer, APageThatIsNotWrittenIsZeros) {
-  PagedSpec spec = Spec();
+  PagedSpec spec = PagedFileSpec();
   spec.parts[0].pages.erase(spec.parts[0].pages.begin());
   Opened file = OpenedPaged(MakePaged(spec).bytes);
   EXPECT_EQ(file.All(SectionId::kObjects), std::string(0x80, '\0') + kSecondPaged.substr(0, 0x40));
@@ -69,14 +69,14 @@ TEST(PagedContainer, APageThatIsNotWrittenIsZeros) {
 }
 
 TEST(PagedContainer, ASectionWithoutPagesIsZeros) {
-  PagedSpec spec = Spec();
+  PagedSpec spec = PagedFileSpec();
   spec.parts[0].pages.clear();
   spec.parts[0].size = 4;
   EXPECT_EQ(OpenedPaged(MakePaged(spec).bytes).All(SectionId::kObjects), std::string(4, '\0'));
 }
 
 TEST(PagedContainer, GapsInThePageMapAreSteppedOver) {
-  PagedSpec spec = Spec();
+  PagedSpec spec = PagedFileSpec();
   spec.editPageMap = [](std::string& map) {
     // Of the first page's size, half is a gap behind it now, with its four words more.
     map.replace(0, 8,
@@ -87,24 +87,24 @@ TEST(PagedContainer, GapsInThePageMapAreSteppedOver) {
 }
 
 TEST(PagedContainer, AWrongSumOfAPageIsToldWithItsPlaceAndThePageRead) {
-  const PagedBytes made = MakePaged(Spec());
+  const PagedBytes made = MakePaged(PagedFileSpec());
   Opened file = OpenedPaged(Damaged(made.bytes, made.pages[2] + 0x20));
-  EXPECT_EQ(file.All(SectionId::kPreview), Damaged(kPreview, 0));
+  EXPECT_EQ(file.All(SectionId::kPreview), Damaged(kPagedPreview, 0));
   EXPECT_THAT(file.Warnings(), ElementsAre(L"The checksum of a page is wrong."));
   EXPECT_EQ(file.report().warnings[0].offset, made.pages[2]);
 }
 
 TEST(PagedContainer, AWrongSumOfAPagesHeadIsTold) {
-  const PagedBytes made = MakePaged(Spec());
+  const PagedBytes made = MakePaged(PagedFileSpec());
   Opened file = OpenedPaged(Damaged(made.bytes, made.pages[2] + 0x0C));
-  EXPECT_EQ(file.All(SectionId::kPreview), kPreview);
+  EXPECT_EQ(file.All(SectionId::kPreview), kPagedPreview);
   EXPECT_THAT(file.Warnings(), ElementsAre(L"The checksum of a page's head is wrong."));
 }
 
 // The type, the section's number and the stored size.
 // One word of the three that tell which page it is may be damaged.
 TEST(PagedContainer, APageWithADamagedHeadIsReadAllTheSame) {
-  const PagedBytes made = MakePaged(Spec());
+  const PagedBytes made = MakePaged(PagedFileSpec());
   for (const std::size_t at : {0x00u, 0x04u, 0x10u}) {
     Opened file = OpenedPaged(Damaged(made.bytes, made.pages[0] + at));
     EXPECT_EQ(file.Part(SectionId::kObjects, 0, 0x80), kFirstPaged.substr(0, 0x80));
@@ -114,7 +114,7 @@ TEST(PagedContainer, APageWithADamagedHeadIsReadAllTheSame) {
 }
 
 TEST(PagedContainer, AnotherPageIsNotRead) {
-  const PagedBytes made = MakePaged(Spec());
+  const PagedBytes made = MakePaged(PagedFileSpec());
   Opened file =
       OpenedPaged(Damaged(Damaged(made.bytes, made.pages[0] + 0x04), made.pages[0] + 0x10));
   EXPECT_EQ(file.Part(SectionId::kObjects, 0, 0x80), std::nullopt);
@@ -124,14 +124,14 @@ TEST(PagedContainer, AnotherPageIsNotRead) {
 
 // The section map tells it too.
 TEST(PagedContainer, AWrongStoredSizeInAPagesHeadCostsNothing) {
-  const PagedBytes made = MakePaged(Spec());
+  const PagedBytes made = MakePaged(PagedFileSpec());
   Opened file = OpenedPaged(Damaged(made.bytes, made.pages[0] + 0x0B));
   EXPECT_EQ(file.Part(SectionId::kObjects, 0, 0x80), kFirstPaged.substr(0, 0x80));
   EXPECT_THAT(file.Warnings(), ElementsAre(L"The checksum of a page's head is wrong."));
 }
 
 TEST(PagedContainer, APageThatTheMapDoesNotPlaceIsTold) {
-  PagedSpec spec = Spec();
+  PagedSpec spec = PagedFileSpec();
   spec.parts[0].pages[0].id = 77;
   Opened file = OpenedPaged(MakePaged(spec).bytes);
   EXPECT_EQ(file.Part(SectionId::kObjects, 0, 1), std::nullopt);
@@ -139,7 +139,7 @@ TEST(PagedContainer, APageThatTheMapDoesNotPlaceIsTold) {
 }
 
 TEST(PagedContainer, DamagedCompressionKeepsWhatCameBefore) {
-  PagedSpec spec = Spec();
+  PagedSpec spec = PagedFileSpec();
   // A run, and a copy from before it.
   spec.parts[0].pages[0].stored = std::string(
       "\x01"
@@ -153,7 +153,7 @@ TEST(PagedContainer, DamagedCompressionKeepsWhatCameBefore) {
 }
 
 TEST(PagedContainer, APageThatStaysShortGivesNothingBehindItsEnd) {
-  PagedSpec spec = Spec();
+  PagedSpec spec = PagedFileSpec();
   spec.parts[0].pages[0].stored = OneRun("abcd");
   Opened file = OpenedPaged(MakePaged(spec).bytes);
   EXPECT_EQ(file.Part(SectionId::kObjects, 2, 2), "cd");
@@ -161,17 +161,17 @@ TEST(PagedContainer, APageThatStaysShortGivesNothingBehindItsEnd) {
 }
 
 TEST(PagedContainer, AnUntouchedPageIsNotRead) {
-  const PagedBytes made = MakePaged(Spec());
+  const PagedBytes made = MakePaged(PagedFileSpec());
   Opened file = OpenedPaged(Damaged(made.bytes, made.pages[1]));
   EXPECT_EQ(file.Part(SectionId::kObjects, 0, 0x80), kFirstPaged);
   EXPECT_THAT(file.Warnings(), IsEmpty());
 }
 
 TEST(PagedContainer, ADamagedHeaderIsReplacedByItsCopy) {
-  const std::string bytes = MakePaged(Spec()).bytes;
+  const std::string bytes = MakePaged(PagedFileSpec()).bytes;
   for (const std::size_t at : {0x80u, 0xD4u, 0xDCu, 0xE8u}) {
     Opened file = OpenedPaged(Damaged(bytes, at));
-    EXPECT_EQ(file.All(SectionId::kPreview), kPreview);
+    EXPECT_EQ(file.All(SectionId::kPreview), kPagedPreview);
     EXPECT_THAT(file.Warnings(),
                 ElementsAre(L"The checksum of the file's header is wrong; its copy is used."));
     EXPECT_EQ(file.report().warnings[0].offset, 0x80u);
@@ -179,24 +179,24 @@ TEST(PagedContainer, ADamagedHeaderIsReplacedByItsCopy) {
 }
 
 TEST(PagedContainer, AHeaderWhoseCopyIsDamagedTooIsTakenAsItIs) {
-  const std::string bytes = MakePaged(Spec()).bytes;
+  const std::string bytes = MakePaged(PagedFileSpec()).bytes;
   Opened file = OpenedPaged(Damaged(Damaged(bytes, 0x80), bytes.size() - 0x6C));
-  EXPECT_EQ(file.All(SectionId::kPreview), kPreview);
+  EXPECT_EQ(file.All(SectionId::kPreview), kPagedPreview);
   EXPECT_THAT(file.Warnings(), ElementsAre(L"The checksum of the file's header is wrong."));
 }
 
 TEST(PagedContainer, AWrongSumOfAMapIsToldAndTheMapRead) {
-  const PagedBytes made = MakePaged(Spec());
+  const PagedBytes made = MakePaged(PagedFileSpec());
   for (const std::size_t at : {made.pageMapAt, made.sectionMapAt}) {
     Opened file = OpenedPaged(Damaged(made.bytes, at + 16));
-    EXPECT_EQ(file.All(SectionId::kPreview), kPreview);
+    EXPECT_EQ(file.All(SectionId::kPreview), kPagedPreview);
     ASSERT_EQ(file.Warnings().size(), 1u);
     EXPECT_EQ(file.report().warnings[0].offset, at);
   }
 }
 
 TEST(PagedContainer, AMapOfAnotherTypeOrSizeIsARefusal) {
-  const PagedBytes made = MakePaged(Spec());
+  const PagedBytes made = MakePaged(PagedFileSpec());
   EXPECT_EQ(OpenedPaged(Damaged(made.bytes, made.pageMapAt)).Refusal(),
             L"The page map can't be read.");
   EXPECT_EQ(OpenedPaged(Damaged(made.bytes, made.pageMapAt + 11)).Refusal(),
@@ -206,7 +206,7 @@ TEST(PagedContainer, AMapOfAnotherTypeOrSizeIsARefusal) {
 }
 
 TEST(PagedContainer, APageMapOutsideOfTheFileIsARefusal) {
-  PagedSpec spec = Spec();
+  PagedSpec spec = PagedFileSpec();
   for (const std::uint64_t at : {std::uint64_t{0x100000}, ~std::uint64_t{0}, std::uint64_t{0}}) {
     spec.pageMapAt = at;
     EXPECT_NE(OpenedPaged(MakePaged(spec).bytes).Refusal(), L"");
@@ -214,18 +214,18 @@ TEST(PagedContainer, APageMapOutsideOfTheFileIsARefusal) {
 }
 
 TEST(PagedContainer, ASectionMapWithoutAPageIsARefusal) {
-  PagedSpec spec = Spec();
+  PagedSpec spec = PagedFileSpec();
   spec.sectionMapId = 99;
   EXPECT_EQ(OpenedPaged(MakePaged(spec).bytes).Refusal(), L"The section map can't be read.");
 }
 
 TEST(PagedContainer, AFileThatEndsWithinItsHeaderIsARefusal) {
-  EXPECT_EQ(OpenedPaged(MakePaged(Spec()).bytes.substr(0, 0xE0)).Refusal(),
+  EXPECT_EQ(OpenedPaged(MakePaged(PagedFileSpec()).bytes.substr(0, 0xE0)).Refusal(),
             L"The file's header can't be read.");
 }
 
 TEST(PagedContainer, ASectionWithMorePagesThanTheMapHoldsKeepsThoseThatAreThere) {
-  PagedSpec spec = Spec();
+  PagedSpec spec = PagedFileSpec();
   std::swap(spec.parts[0], spec.parts[1]);
   spec.parts[1].pageCount = 0xFFFFFFFF;
   Opened file = OpenedPaged(MakePaged(spec).bytes);
@@ -233,7 +233,7 @@ TEST(PagedContainer, ASectionWithMorePagesThanTheMapHoldsKeepsThoseThatAreThere)
 }
 
 TEST(PagedContainer, PagesMayStandInAnyOrder) {
-  PagedSpec spec = Spec();
+  PagedSpec spec = PagedFileSpec();
   std::swap(spec.parts[0].pages[0], spec.parts[0].pages[1]);
   EXPECT_EQ(OpenedPaged(MakePaged(spec).bytes).All(SectionId::kObjects),
             kFirstPaged + kSecondPaged.substr(0, 0x40));
@@ -244,7 +244,7 @@ TEST(PagedContainer, PagesMayStandInAnyOrder) {
 TEST(PagedContainer, ASectionFarLargerThanTheCacheIsReadAllTheSame) {
   constexpr std::uint32_t kSize = 1 << 20;
   constexpr std::uint64_t kCount = 64;
-  handmade::PagedSpec spec = Spec();
+  handmade::PagedSpec spec = PagedFileSpec();
   handmade::PagedPart part{.name = "AcDb:AcDbObjects", .size = kCount * kSize, .pageSize = kSize};
   for (std::uint64_t i = 0; i < kCount; ++i) {
     part.pages.push_back(

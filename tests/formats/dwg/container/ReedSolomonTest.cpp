@@ -22,7 +22,7 @@ constexpr Kind kKinds[] = {{ParityKind::kSystemPage, Word::kSystem, 239, 8},
                            {ParityKind::kDataPage, Word::kData, 251, 2}};
 
 // Changes `count` bytes of word `word` of a page of `words`, spread over data and parity.
-std::string Struck(std::string page, std::size_t words, std::size_t word, std::size_t count) {
+std::string StruckPage(std::string page, std::size_t words, std::size_t word, std::size_t count) {
   for (std::size_t i = 0; i < count; ++i) {
     const std::size_t place = (i * 97 + 3) % kWordSize;
     char& byte = page[word + place * words];
@@ -57,7 +57,7 @@ TEST(ReedSolomon, MendsHalfAsManyBytesAsThereIsParity) {
     const std::string data = Noise(kind.data);
     const std::string page = InterleavedPage(data, kind.word);
     for (std::size_t count = 1; count <= kind.mendable; ++count) {
-      const std::string struck = Struck(page, 1, 0, count);
+      const std::string struck = StruckPage(page, 1, 0, count);
       EXPECT_NE(TakeData(struck, 1, kind.parity), data);
       EXPECT_EQ(TakeMendedData(struck, 1, kind.parity), data) << count;
     }
@@ -78,7 +78,7 @@ TEST(ReedSolomon, MendsEachWordOfAPage) {
   for (const Kind& kind : kKinds) {
     const std::string data = Noise(3 * kind.data);
     std::string page = InterleavedPage(data, kind.word);
-    for (std::size_t word = 0; word < 3; ++word) page = Struck(page, 3, word, kind.mendable);
+    for (std::size_t word = 0; word < 3; ++word) page = StruckPage(page, 3, word, kind.mendable);
     EXPECT_EQ(TakeMendedData(page, 3, kind.parity), data);
   }
 }
@@ -87,7 +87,7 @@ TEST(ReedSolomon, MendsEachWordOfAPage) {
 TEST(ReedSolomon, AWordOfASystemPageBeyondMendingStaysAsItIs) {
   const std::string page = InterleavedPage(Noise(239), Word::kSystem);
   for (const std::size_t count : {9u, 12u, 40u}) {
-    const std::string struck = Struck(page, 1, 0, count);
+    const std::string struck = StruckPage(page, 1, 0, count);
     EXPECT_EQ(TakeMendedData(struck, 1, ParityKind::kSystemPage),
               TakeData(struck, 1, ParityKind::kSystemPage));
   }
@@ -97,7 +97,7 @@ TEST(ReedSolomon, AWordOfASystemPageBeyondMendingStaysAsItIs) {
 TEST(ReedSolomon, MendingNeverChangesMoreThanItMay) {
   const std::string page = InterleavedPage(Noise(251), Word::kData);
   for (std::size_t count = 3; count < 30; ++count) {
-    const std::string struck = Struck(page, 1, 0, count);
+    const std::string struck = StruckPage(page, 1, 0, count);
     const std::string mended = TakeMendedData(struck, 1, ParityKind::kDataPage);
     std::size_t changed = 0;
     for (std::size_t i = 0; i < mended.size(); ++i) changed += mended[i] != struck[i] ? 1 : 0;
@@ -108,8 +108,8 @@ TEST(ReedSolomon, MendingNeverChangesMoreThanItMay) {
 TEST(ReedSolomon, AWordBeyondMendingLeavesTheOthersMended) {
   for (const Kind& kind : kKinds) {
     const std::string data = Noise(2 * kind.data);
-    std::string page = Struck(InterleavedPage(data, kind.word), 2, 0, 100);
-    page = Struck(page, 2, 1, 1);
+    std::string page = StruckPage(InterleavedPage(data, kind.word), 2, 0, 100);
+    page = StruckPage(page, 2, 1, 1);
     EXPECT_EQ(TakeMendedData(page, 2, kind.parity).substr(kind.data), data.substr(kind.data));
   }
 }

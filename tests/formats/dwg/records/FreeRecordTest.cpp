@@ -90,6 +90,16 @@ TEST(GroupReader, TextsFromAC1021OnHaveUnitsOfTwoBytes) {
   EXPECT_FALSE(reader.endedByDamage());
 }
 
+TEST(GroupReader, BytesAreToldAsTheyAre) {
+  const std::string bytes = Low16(310) + std::string("\x03\0\xFF\x01", 4) + OldText(1, "behind");
+  GroupReader reader(bytes, kOld);
+  const auto group = reader.Next();
+  ASSERT_TRUE(group);
+  EXPECT_FALSE(group->isText);
+  EXPECT_EQ(group->bytes, std::string("\0\xFF\x01", 3));
+  EXPECT_EQ(reader.Next()->bytes, "");
+}
+
 TEST(GroupReader, NothingIsAnEndWithoutDamage) {
   GroupReader reader("", kOld);
   EXPECT_EQ(reader.Next(), std::nullopt);

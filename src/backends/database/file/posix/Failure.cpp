@@ -16,6 +16,7 @@ Failure FailureOf(std::uint32_t number) {
     case EPERM:
     case EROFS:
       return Failure::kNoAccess;
+    case EAGAIN:  // another program has a lease on it
     case EBUSY:
     case ETXTBSY:
       return Failure::kInUse;

@@ -1,0 +1,203 @@
+// What a drawing's dependencies are, whatever the versions and forms of the drawings.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "interface/DrawingFolder.h"
+#include "interface/Writings.h"
+#include "support/Paths.h"
+
+namespace {
+
+using drawing::Xref;
+using drawing::XrefBlock;
+using testing::ElementsAre;
+using testing::ElementsAreArray;
+using testing::IsEmpty;
+using zdx_test::FileWalk;
+using zdx_test::LinesOf;
+using zdx_test::NodeOwner;
+using zdx_test::WalkedFile;
+using zdx_test::WalkOptions;
+using Lines = std::vector<std::string>;
+
+constexpr NodeOwner kOwners[] = {NodeOwner::EachRecord, NodeOwner::Root};
+
+class References : public testing::TestWithParam<zdx_test::WrittenAs> {
+ protected:
+  std::string Version() const { return std::get<0>(GetParam()); }
+  const zdx_test::Writing& Form() const { return std::get<1>(GetParam()); }
+  bool HasHandles() const { return Version() != "AC1009"; }
+  bool TellsUnloaded() const { return Form().IsDwg() && Version() >= "AC1015"; }
+  std::string RootName() const { return std::string("root") + Form().Suffix(); }
+
+  void WriteRoot(std::vector<drawing::BlockSpec> blocks) {
+    root = folder.WriteBytes(RootName(),
+                             Form().make(zdx_test::DrawingOf(std::move(blocks), Version())));
+  }
+
+  // A drawing of each sort: shared, in circles, overlaid at both depths, missing, unloaded.
+  void WriteAll() {
+    drawing::BlockSpec away = XrefBlock("away", "away.dwg");
+    away.isUnloaded = true;
+    WriteRoot({XrefBlock("a", "a.dwg"), XrefBlock("gone", "gone.dwg"), away,
+               XrefBlock("b", "b.dxf", Xref::Overlaid)});
+    folder.Write("a.dwg", {XrefBlock("c", "c.dxf"), XrefBlock("root", RootName()),
+                           XrefBlock("over", "over.dwg", Xref::Overlaid)});
+    folder.Write("away.dwg", {XrefBlock("behind", "behind.dwg")}, "AC1032");
+    folder.Write("behind.dwg", {}, "AC1014");
+    folder.Write("b.dxf", {XrefBlock("c", "c.dxf")}, "AC1009");
+    folder.Write("c.dxf", {XrefBlock("a", "a.dwg"), XrefBlock("self", "c.dxf")}, "AC1021");
+    folder.Write("over.dwg", {XrefBlock("deep", "deep.dxf")}, "AC1021");
+    folder.Write("deep.dxf", {}, "AC1032");
+  }
+
+  Lines WithAway(Lines lines) const {
+    lines[2] = TellsUnloaded() ? "root > away.dwg unloaded" : "root > away.dwg";
+    return lines;
+  }
+
+  // Without those that an unloaded drawing keeps from being seen.
+  Lines AllLines() const {
+    Lines lines =
+        WithAway({"root > a.dwg", "root > gone.dwg missing", "", "root > b.dxf", "a.dwg > c.dxf",
+                  "a.dwg > " + RootName() + " repeated", "a.dwg > over.dwg"});
+    if (!TellsUnloaded()) lines.push_back("away.dwg > behind.dwg");
+    for (const char* line :
+         {"b.dxf > c.dxf repeated", "c.dxf > a.dwg repeated", "c.dxf > c.dxf repeated"}) {
+      lines.push_back(line);
+    }
+    return lines;
+  }
+
+  zdx_test::DrawingFolder folder;
+  std::filesystem::path root;
+};
+
+TEST_P(References, AreListedBreadthFirstAndEachDrawingIsFollowedOnce) {
+  WriteAll();
+  for (const NodeOwner owner : kOwners) {
+    const FileWalk walk = zdx_test::WalkFiles(root, {.owner = owner});
+    EXPECT_THAT(LinesOf(walk), ElementsAreArray(AllLines()));
+    EXPECT_FALSE(walk.statusFlag);
+    EXPECT_TRUE(walk.hasDatabase);
+    EXPECT_EQ(walk.drawingType, ZDXEngine::DwgFileType::Zent);
+  }
+}
+
+TEST_P(References, OfTheDrawingAloneAreThoseOfItsOwnRecords) {
+  WriteAll();
+  for (const NodeOwner owner : kOwners) {
+    const FileWalk walk = zdx_test::WalkFiles(root, {.directOnly = true, .owner = owner});
+    EXPECT_THAT(LinesOf(walk), ElementsAreArray(WithAway({"root > a.dwg", "root > gone.dwg missing",
+                                                          "", "root > b.dxf"})));
+  }
+}
+
+TEST_P(References, FollowInnerOverlaysOnlyIfTheyAreAskedTo) {
+  WriteAll();
+  WalkOptions options;
+  options.settings.WalkBit10 = true;
+  Lines expected = AllLines();
+  const auto behind = std::find(expected.begin(), expected.end(), "b.dxf > c.dxf repeated");
+  // Behind what hangs under the drawings before it, in the order in which they were met.
+  expected.insert(behind + 2, "over.dwg > deep.dxf");
+  Lines told = LinesOf(zdx_test::WalkFiles(root, options));
+  std::sort(expected.begin(), expected.end());
+  std::sort(told.begin(), told.end());
+  EXPECT_EQ(told, expected);
+}
+
+TEST_P(References, TellTheRootByItsPath) {
+  WriteAll();
+  const FileWalk walk = zdx_test::WalkFiles(root);
+  EXPECT_EQ(walk.root.refId, "0");
+  EXPECT_EQ(zdx_test::PathOf(std::string_view(walk.root.source)), root);
+  EXPECT_EQ(walk.root.fileType, 1);
+}
+
+TEST_P(References, TellFoundFilesByTheirFullPathsAndOthersAsTheyAreStored) {
+  WriteAll();
+  for (const WalkedFile& file : zdx_test::WalkFiles(root).files) {
+    if (file.StoredPath() == "gone.dwg") {
+      EXPECT_EQ(file.source, "gone.dwg");
+      EXPECT_EQ(file.detail.problem, ZDXEngine::DependencyProblem::NotFound);
+    } else {
+      const std::filesystem::path source = zdx_test::PathOf(std::string_view(file.source));
+      EXPECT_TRUE(source.is_absolute()) << file.source;
+      EXPECT_TRUE(std::filesystem::equivalent(source, folder.At(file.StoredPath())));
+      EXPECT_EQ(file.detail.problem, ZDXEngine::DependencyProblem::None);
+    }
+    EXPECT_EQ(file.fileType, 1);
+    EXPECT_TRUE(file.canBeRepathed);
+  }
+}
+
+TEST_P(References, HaveIdsOfTheirOwn) {
+  WriteAll();
+  std::set<std::string> ids = {"0"};
+  for (const WalkedFile& file : zdx_test::WalkFiles(root).files) {
+    EXPECT_TRUE(ids.insert(file.refId).second) << file.refId;
+  }
+}
+
+// Where records have no handles, no block can be found by one.
+TEST_P(References, AreOverlaysIfTheirBlocksAreOnes) {
+  WriteAll();
+  WalkOptions options;
+  options.settings.DetectOverlays = true;
+  for (const WalkedFile& file : zdx_test::WalkFiles(root, options).files) {
+    EXPECT_EQ(file.isOverlay, file.StoredPath() == "b.dxf" && HasHandles()) << file.StoredPath();
+    const bool isOverlaid = file.StoredPath() == "b.dxf" || file.StoredPath() == "over.dwg";
+    EXPECT_EQ(file.detail.kind, isOverlaid ? ZDXEngine::DependencyKind::OverlaidDrawing
+                                           : ZDXEngine::DependencyKind::AttachedDrawing);
+  }
+}
+
+TEST_P(References, AreLookedForBesideTheDrawingThatNamesThem) {
+  WriteRoot({XrefBlock("a", "sub\\a.dwg"), XrefBlock("moved", "D:\\old place\\moved.dwg"),
+             XrefBlock("bare", "bare")});
+  folder.Write("sub/a.dwg", {XrefBlock("b", "b.dxf"), XrefBlock("up", "..\\up.dwg")});
+  folder.Write("sub/b.dxf");
+  folder.Write("up.dwg");
+  folder.Write("moved.dwg");
+  folder.Write("bare.dwg");
+  EXPECT_THAT(LinesOf(zdx_test::WalkFiles(root)),
+              ElementsAre("root > sub\\a.dwg", "root > D:\\old place\\moved.dwg", "root > bare",
+                          "sub\\a.dwg > b.dxf", "sub\\a.dwg > ..\\up.dwg"));
+}
+
+TEST_P(References, OfADrawingThatNamesNoneAreNone) {
+  WriteRoot({});
+  for (const NodeOwner owner : kOwners) {
+    const FileWalk walk = zdx_test::WalkFiles(root, {.owner = owner});
+    EXPECT_THAT(walk.files, IsEmpty());
+    EXPECT_EQ(walk.root.refId, "0");
+  }
+}
+
+TEST_P(References, GoDownAChainOfManyDrawings) {
+  constexpr int kLength = 60;
+  const auto name = [](int i) {
+    return "link" + std::to_string(i) + (i % 2 == 0 ? ".dwg" : ".dxf");
+  };
+  WriteRoot({XrefBlock("next", name(0))});
+  for (int i = 0; i < kLength; ++i) folder.Write(name(i), {XrefBlock("next", name(i + 1))});
+  const FileWalk walk = zdx_test::WalkFiles(root);
+  ASSERT_EQ(walk.files.size(), kLength + 1u);
+  EXPECT_FALSE(walk.files.back().detail.exists);
+  EXPECT_EQ(walk.files.back().detail.parent, std::size_t{kLength} - 1);
+}
+
+INSTANTIATE_TEST_SUITE_P(Dxf, References,
+                         testing::Combine(testing::ValuesIn(zdx_test::kDxfVersions),
+                                          testing::Values(zdx_test::kDxfWritings[0],
+                                                          zdx_test::kDxfWritings[3])),
+                         zdx_test::WritingTestName);
+INSTANTIATE_TEST_SUITE_P(Dwg, References,
+                         testing::Combine(testing::ValuesIn(zdx_test::kDwgVersions),
+                                          testing::Values(zdx_test::kDwgWritings[0])),
+                         zdx_test::WritingTestName);
+
+}  // namespace
