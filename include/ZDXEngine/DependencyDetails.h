@@ -61,7 +61,8 @@ struct DependencyDetail {
   // Whether there is such a file: of a service's record, whether its "AbsolutePath" or else its
   // "FilePath" exists.
   bool exists = false;
-  // Whether the user put the reference aside.
+  // Whether the drawing is marked as unloaded: put aside by its user, or not at hand when the file
+  // was saved.
   bool isUnloaded = false;
   // Of a drawing that was reached before, or that is the walked one: what it refers to stands
   // there.

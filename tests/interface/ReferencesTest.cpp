@@ -59,17 +59,11 @@ class References : public testing::TestWithParam<zdx_test::WrittenAs> {
     return lines;
   }
 
-  // Without those that an unloaded drawing keeps from being seen.
   Lines AllLines() const {
-    Lines lines =
-        WithAway({"root > a.dwg", "root > gone.dwg missing", "", "root > b.dxf", "a.dwg > c.dxf",
-                  "a.dwg > " + RootName() + " repeated", "a.dwg > over.dxf"});
-    if (!TellsUnloaded()) lines.push_back("away.dwg > behind.dxf");
-    for (const char* line :
-         {"b.dxf > c.dxf repeated", "c.dxf > a.dwg repeated", "c.dxf > c.dxf repeated"}) {
-      lines.push_back(line);
-    }
-    return lines;
+    return WithAway({"root > a.dwg", "root > gone.dwg missing", "", "root > b.dxf", "a.dwg > c.dxf",
+                     "a.dwg > " + RootName() + " repeated", "a.dwg > over.dxf",
+                     "away.dwg > behind.dxf", "b.dxf > c.dxf repeated", "c.dxf > a.dwg repeated",
+                     "c.dxf > c.dxf repeated"});
   }
 
   // The files of the written drawing, of which there are some.

@@ -168,30 +168,26 @@ TEST_F(WalkTest, OverlaysOfADrawingThatIsReferredToAreLeaves) {
 }
 
 TEST_F(WalkTest, ADrawingThatWasOnlyListedIsStillFollowedFromElsewhere) {
-  auto unloaded = Attached(L"b.dwg");
-  unloaded.isUnloaded = true;
-  world.drawings[L"root.dwg"].references = {unloaded, Attached(L"a.dwg")};
+  world.drawings[L"root.dwg"].references = {Attached(L"a.dwg")};
   world.drawings[L"a.dwg"].references = {Overlaid(L"b.dwg"), Attached(L"b.dwg")};
   world.drawings[L"b.dwg"].references = {Attached(L"c.dwg")};
   world.drawings[L"c.dwg"];
   const Nodes nodes = WalkFrom(world, L"root.dwg");
-  ASSERT_THAT(NamesOf(nodes),
-              ElementsAre(L"root.dwg", L"b.dwg", L"a.dwg", L"b.dwg", L"b.dwg", L"c.dwg"));
-  EXPECT_FALSE(nodes[4]->facts().isRepeated);
-  EXPECT_EQ(nodes[5]->facts().parent, nodes[4].get());
+  ASSERT_THAT(NamesOf(nodes), ElementsAre(L"root.dwg", L"a.dwg", L"b.dwg", L"b.dwg", L"c.dwg"));
+  EXPECT_FALSE(nodes[3]->facts().isRepeated);
+  EXPECT_EQ(nodes[4]->facts().parent, nodes[3].get());
 }
 
-TEST_F(WalkTest, AnUnloadedDrawingIsListedAndNotOpened) {
+TEST_F(WalkTest, AnUnloadedDrawingIsMarkedAndFollowedLikeAnyOther) {
   auto unloaded = Attached(L"a.dwg");
   unloaded.isUnloaded = true;
   world.drawings[L"root.dwg"].references = {unloaded};
   world.drawings[L"a.dwg"].references = {Attached(L"b.dwg")};
   const Nodes nodes = WalkFrom(world, L"root.dwg");
-  ASSERT_THAT(NamesOf(nodes), ElementsAre(L"root.dwg", L"a.dwg"));
-  EXPECT_TRUE(nodes[1]->facts().isUnloaded);
-  EXPECT_TRUE(nodes[1]->facts().isFound);
+  ASSERT_THAT(NamesOf(nodes), ElementsAre(L"root.dwg", L"a.dwg", L"b.dwg"));
   EXPECT_FALSE(nodes[0]->facts().isUnloaded);
-  EXPECT_THAT(world.opened, ElementsAre(L"root.dwg"));
+  EXPECT_TRUE(nodes[1]->facts().isUnloaded);
+  EXPECT_FALSE(nodes[2]->facts().isUnloaded);
 }
 
 TEST_F(WalkTest, DirectWalksOpenTheWalkedDrawingAlone) {

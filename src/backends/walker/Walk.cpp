@@ -105,8 +105,7 @@ bool Walk::Claim(const Node& parent, FileFacts& facts) {
   facts.isRepeated = claimed_.count(identity) != 0;
   const bool isInnerOverlay =
       facts.use == model::FileUse::kOverlaidDrawing && parent.facts().parent != nullptr;
-  if (facts.isRepeated || facts.isUnloaded ||
-      (isInnerOverlay && (settings_ & kFollowInnerOverlays) == 0)) {
+  if (facts.isRepeated || (isInnerOverlay && (settings_ & kFollowInnerOverlays) == 0)) {
     return false;
   }
   claimed_.insert(std::move(identity));

@@ -99,7 +99,8 @@ struct FileReference {
   std::wstring name;
   // Whether the record came with a drawing that this one refers to.
   bool isDependent = false;
-  // Whether the drawing was put aside by its user; only some versions tell.
+  // Whether the drawing is marked as put aside, or wasn't at hand when the file was saved; only
+  // some versions tell.
   bool isUnloaded = false;
 };
 
