@@ -134,6 +134,23 @@ void Fill(DependencyReport& report, const WalkedRecords& walked, const std::wstr
   KeepParentsBefore(report.dependencies);
 }
 
+// What FileReferenceMgr::GetDependencies does, but that the records are ours when a service fails.
+ZDXEngine::DwgFileType Walk(const std::wstring& path, const ZDXEngine::DependencySettings& settings,
+                            const DependencyWanted& wanted, WalkedRecords& walked) {
+  FileReferenceMgr& manager = FileReferenceMgr::Instance();
+  ZnDbDatabase* database = nullptr;
+  bool unused = false;
+  ZDXEngine::DwgFileType type = ZDXEngine::DwgFileType::Unrecognized;
+  walked.list = manager.GetZnDependencies(database, path, settings, unused, walked.root, type,
+                                          wanted.directOnly);
+  for (const auto& [key, service] : manager.GetExternalVerticalReferenceServices(wanted.services)) {
+    const std::vector<DwgDependentFile*> more =
+        manager.GetVerticalDependencies(database, service->Get_GetDependenciesFuncPtr());
+    walked.list.insert(walked.list.end(), more.begin(), more.end());
+  }
+  return type;
+}
+
 }  // namespace
 
 ZDXEngine::ServiceModules ServicesNotLoaded(const ZDXEngine::ServiceModules& requested) {
@@ -151,10 +168,7 @@ std::variant<DependencyReport, Failure> ReadDependencies(const std::wstring& pat
     ZDXEngine::DependencySettings settings;
     settings.DetectOverlays = wanted.overlays;
     WalkedRecords walked;
-    bool unused = false;
-    ZDXEngine::DwgFileType type = ZDXEngine::DwgFileType::Unrecognized;
-    walked.list = FileReferenceMgr::Instance().GetDependencies(
-        name, settings, unused, walked.root, type, wanted.directOnly, wanted.services);
+    const ZDXEngine::DwgFileType type = Walk(name, settings, wanted, walked);
     DependencyReport report;
     report.drawingType = DrawingTypeText(type);
     Fill(report, walked, path);
