@@ -46,6 +46,20 @@ class Variable {
   std::string before_;
 };
 
+// The working folder for a while.
+class InFolder {
+ public:
+  explicit InFolder(const fs::path& folder) : before_(fs::current_path()) {
+    fs::current_path(folder);
+  }
+  ~InFolder() { fs::current_path(before_); }
+  InFolder(const InFolder&) = delete;
+  InFolder& operator=(const InFolder&) = delete;
+
+ private:
+  fs::path before_;
+};
+
 class PosixPaths : public testing::Test {
  protected:
   std::wstring Here() const { return zdx_test::NameOf(folder.path()); }
@@ -115,10 +129,28 @@ TEST_F(PosixPaths, WhatIsJoinedIsSpeltAsItReallyIs) {
   EXPECT_EQ(Combined(Here() + L"/nowhere", L"..\\xrefs\\GRID.dwg"), At("Xrefs/Grid.dwg"));
 }
 
+TEST_F(PosixPaths, AnAbsoluteFileIsNoneBelowTheFolder) {
+  Write("Plans/a.dwg");
+  Write("only here.dwg");
+  EXPECT_EQ(Combined(Here(), At("PLANS/A.dwg")), At("Plans/a.dwg"));
+  EXPECT_EQ(Combined(Here(), L"/only here.dwg"), L"/only here.dwg");
+  EXPECT_EQ(Combined(Here(), L"\\only here.dwg"), L"/only here.dwg");
+}
+
+TEST_F(PosixPaths, BehindALinkWhatIsJoinedLeadsToTheSameFile) {
+  Write("one/two/three/a.dwg");
+  Write("one/two/b.dwg");
+  fs::create_symlink("one/two/three", folder.path() / "link");
+  EXPECT_EQ(Combined(Here(), L"link\\..\\b.dwg"), At("link/../b.dwg"));
+  const InFolder inFolder(folder.path());
+  EXPECT_EQ(Combined(L"", L"link\\..\\b.dwg"), L"link/../b.dwg");
+}
+
 TEST_F(PosixPaths, WhatIsNotThereIsJoinedWithSlashes) {
   EXPECT_EQ(Combined(Here(), L"no\\such\\..\\file.dwg"), At("no/file.dwg"));
   EXPECT_EQ(Combined(L"/", L"..\\..\\no such file.dwg"), L"/no such file.dwg");
   EXPECT_EQ(Combined(L"plans", L"..\\..\\a.dwg"), L"../a.dwg");
+  EXPECT_EQ(Combined(L"plans", L"..\\..\\..\\a.dwg"), L"../../a.dwg");
 }
 
 TEST_F(PosixPaths, AFolderKeepsABackslashInItsName) {
@@ -137,11 +169,36 @@ TEST_F(PosixPaths, DrivesAndServersLeadNowhere) {
 
 TEST_F(PosixPaths, AFileMayHaveTheNameOfADrive) {
   Write("C:\\a.dwg");
-  const fs::path before = fs::current_path();
-  fs::current_path(folder.path());
+  const InFolder inFolder(folder.path());
   EXPECT_EQ(zdx::ExistingPath(L"C:\\a.dwg"), L"C:\\a.dwg");
   EXPECT_EQ(zdx::ExistingPath(L"c:\\a.dwg"), L"");
-  fs::current_path(before);
+}
+
+TEST_F(PosixPaths, ALetterAloneIsADrive) {
+  for (const wchar_t* path : {L"1:a.dwg", L"\u00E4:a.dwg", L":a.dwg", L"[:a.dwg"}) {
+    EXPECT_NE(paths.PathIsRelativeW(path), 0);
+  }
+  for (const wchar_t* path : {L"a:a.dwg", L"z:a.dwg", L"A:a.dwg", L"Z:a.dwg"}) {
+    EXPECT_EQ(paths.PathIsRelativeW(path), 0);
+  }
+}
+
+TEST_F(PosixPaths, ARelativePathIsSpeltAsItReallyIs) {
+  Write("Plan.dwg");
+  Write("Sub/A.dwg");
+  const InFolder inFolder(folder.path());
+  EXPECT_EQ(zdx::ExistingPath(L"PLAN.DWG"), L"Plan.dwg");
+  EXPECT_EQ(zdx::ExistingPath(L"sub\\a.dwg"), L"Sub/A.dwg");
+  EXPECT_EQ(zdx::ExistingPath(L"plan.dwg\\a.dwg"), L"");
+}
+
+TEST_F(PosixPaths, DotsLeadOnBehindAFolderThatIsNotThere) {
+  Write("Plan.dwg");
+  EXPECT_EQ(Found(L"nowhere\\..\\PLAN.dwg"), At("Plan.dwg"));
+  EXPECT_EQ(Found(L"nowhere/.././/PLAN.dwg"), At("Plan.dwg"));
+  const InFolder inFolder(folder.path());
+  EXPECT_EQ(zdx::ExistingPath(L"nowhere\\.."), L".");
+  EXPECT_EQ(zdx::FileIdentity(L"nowhere\\.."), zdx::FileIdentity(Here()));
 }
 
 TEST_F(PosixPaths, ALinkIsFollowedAndOneThatLeadsNowhereIsNothing) {
@@ -163,6 +220,7 @@ TEST_F(PosixPaths, BehindALinkAFullPathIsThatOfTheSameFile) {
   EXPECT_EQ(zdx::FileIdentity(zdx::FullPath(At("link/../b.dwg"))),
             zdx::FileIdentity(At("one/two/b.dwg")));
   EXPECT_EQ(zdx::FullPath(At("link/./a.dwg")), At("link/a.dwg"));
+  EXPECT_EQ(zdx::FileIdentity(At("link") + L"\\..\\b.dwg"), zdx::FileIdentity(At("one/two/b.dwg")));
 }
 
 TEST_F(PosixPaths, AFileOnTheWayLeadsNowhere) {
