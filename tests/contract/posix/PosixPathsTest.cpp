@@ -2,6 +2,7 @@
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -11,6 +12,7 @@
 #include <string>
 
 #include "backends/System.h"
+#include "backends/posix/ConfigFolder.h"
 #include "backends/posix/PosixPaths.h"
 #include "support/Paths.h"
 #include "support/Process.h"
@@ -290,6 +292,46 @@ TEST_F(PosixPaths, ASearchFindsFilesInOtherCaseAndNoFolders) {
   EXPECT_EQ(paths.SearchPathW(folders.c_str(), L"txt", L".shx", os::kPathSize, buffer, &leaf), 0u);
 }
 
+TEST_F(PosixPaths, AFoldersDotIsNoExtension) {
+  Write("fonts.d/romans.shx");
+  wchar_t buffer[os::kPathSize] = {};
+  wchar_t* leaf = nullptr;
+  EXPECT_NE(
+      paths.SearchPathW(Here().c_str(), L"fonts.d\\romans", L".shx", os::kPathSize, buffer, &leaf),
+      0u);
+  EXPECT_EQ(buffer, At("fonts.d/romans.shx"));
+}
+
+TEST_F(PosixPaths, AnExtensionMakesNoNameOfNone) {
+  Write(".shx");
+  wchar_t buffer[os::kPathSize] = {};
+  wchar_t* leaf = nullptr;
+  EXPECT_EQ(paths.SearchPathW(Here().c_str(), L"", L".shx", os::kPathSize, buffer, &leaf), 0u);
+}
+
+TEST_F(PosixPaths, AnAbsoluteNameNeedsNoFoldersAndGetsNoExtension) {
+  Write("a.shx");
+  wchar_t buffer[os::kPathSize] = {};
+  wchar_t* leaf = nullptr;
+  EXPECT_EQ(
+      paths.SearchPathW(Here().c_str(), At("a").c_str(), L".shx", os::kPathSize, buffer, &leaf),
+      0u);
+  EXPECT_NE(paths.SearchPathW(L":", At("A.shx").c_str(), nullptr, os::kPathSize, buffer, &leaf),
+            0u);
+  EXPECT_EQ(buffer, At("a.shx"));
+}
+
+TEST_F(PosixPaths, AnEmptyElementOfAListIsNoFolder) {
+  Write("a.shx");
+  Write("fonts/b.shx");
+  const InFolder inFolder(folder.path());
+  wchar_t buffer[os::kPathSize] = {};
+  wchar_t* leaf = nullptr;
+  for (const std::wstring& list : {std::wstring(L":"), L"::" + At("fonts") + L"::"}) {
+    EXPECT_EQ(paths.SearchPathW(list.c_str(), L"a.shx", nullptr, os::kPathSize, buffer, &leaf), 0u);
+  }
+}
+
 TEST_F(PosixPaths, AFileOfTheEnvironmentsPathIsFoundLast) {
   Write("tools/only-here.shx");
   const std::string path = "/no/such/folder:" + (folder.path() / "tools").string();
@@ -298,6 +340,12 @@ TEST_F(PosixPaths, AFileOfTheEnvironmentsPathIsFoundLast) {
   wchar_t* leaf = nullptr;
   paths.SearchPathW(nullptr, L"only-here.shx", nullptr, os::kPathSize, buffer, &leaf);
   EXPECT_EQ(buffer, At("tools/only-here.shx"));
+  Write("work/only-here.shx");
+  {
+    const InFolder inFolder(folder.path() / "work");
+    paths.SearchPathW(nullptr, L"only-here.shx", nullptr, os::kPathSize, buffer, &leaf);
+    EXPECT_EQ(buffer, At("work/only-here.shx"));
+  }
   const Variable none("PATH", nullptr);
   EXPECT_EQ(paths.SearchPathW(nullptr, L"only-here.shx", nullptr, os::kPathSize, buffer, &leaf),
             0u);
@@ -309,15 +357,28 @@ TEST_F(PosixPaths, TheRoamingFolderIsWhereTheUserKeepsSettings) {
   {
     const Variable config("XDG_CONFIG_HOME", own.c_str());
     EXPECT_EQ(Roaming(), At("own/settings"));
-    struct stat status = {};
-    ASSERT_EQ(stat(own.c_str(), &status), 0);
-    EXPECT_EQ(status.st_mode & 0777u, 0700u);
+    for (const std::wstring& made : {At("own/settings"), At("own")}) {
+      struct stat status = {};
+      ASSERT_EQ(stat(zdx_test::PathOf(made).c_str(), &status), 0);
+      EXPECT_EQ(status.st_mode & 0777u, 0700u);
+    }
   }
   for (const char* useless : {static_cast<const char*>(nullptr), "", "relative/folder"}) {
     const Variable config("XDG_CONFIG_HOME", useless);
     EXPECT_EQ(Roaming(), At(".config"));
   }
   EXPECT_TRUE(fs::is_directory(folder.path() / ".config"));
+}
+
+TEST_F(PosixPaths, WithoutAHomeThatIsNamedItIsTheOneOnRecord) {
+  const passwd* const user = getpwuid(getuid());
+  if (user == nullptr || user->pw_dir[0] != '/') GTEST_SKIP() << "no home is on record";
+  const std::wstring expected = zdx_test::NameOf(user->pw_dir) + L"/.config";
+  const Variable config("XDG_CONFIG_HOME", nullptr);
+  for (const char* useless : {static_cast<const char*>(nullptr), "", "relative/folder"}) {
+    const Variable home("HOME", useless);
+    EXPECT_EQ(zdx::ConfigFolder(), expected);
+  }
 }
 
 TEST_F(PosixPaths, ARoamingFolderThatCannotBeHadIsAFailure) {
