@@ -42,11 +42,11 @@ Files RootAndItsOwn(ZnDwgDepends::DwgFile* root) {
   return files;
 }
 
-// Of nodes that no record will own nobody else takes care.
+// Of nodes that no record will own nobody else takes care.  One may be listed more than once.
 void DeleteAllBut(const Files& kept, const Files& files) {
-  const std::unordered_set<ZnDwgDepends::File*> stay(kept.begin(), kept.end());
+  std::unordered_set<ZnDwgDepends::File*> settled(kept.begin(), kept.end());
   for (ZnDwgDepends::File* const file : files) {
-    if (!stay.contains(file)) delete file;
+    if (settled.insert(file).second) delete file;
   }
 }
 

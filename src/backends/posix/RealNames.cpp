@@ -43,7 +43,8 @@ std::optional<std::string> RealNameByElements(const std::string& start, std::wst
     name = *next;
     at = end + 1;
   }
-  return name;
+  // What leads nowhere from the working folder is that folder.
+  return name.empty() ? "." : name;
 }
 
 // `start` is empty or ends in a slash.

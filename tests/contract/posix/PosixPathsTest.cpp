@@ -2,6 +2,7 @@
 #include <fcntl.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -11,6 +12,7 @@
 #include <string>
 
 #include "backends/System.h"
+#include "backends/posix/ConfigFolder.h"
 #include "backends/posix/PosixPaths.h"
 #include "support/Paths.h"
 #include "support/Process.h"
@@ -44,6 +46,20 @@ class Variable {
   const char* name_;
   bool had_;
   std::string before_;
+};
+
+// The working folder for a while.
+class InFolder {
+ public:
+  explicit InFolder(const fs::path& folder) : before_(fs::current_path()) {
+    fs::current_path(folder);
+  }
+  ~InFolder() { fs::current_path(before_); }
+  InFolder(const InFolder&) = delete;
+  InFolder& operator=(const InFolder&) = delete;
+
+ private:
+  fs::path before_;
 };
 
 class PosixPaths : public testing::Test {
@@ -115,10 +131,28 @@ TEST_F(PosixPaths, WhatIsJoinedIsSpeltAsItReallyIs) {
   EXPECT_EQ(Combined(Here() + L"/nowhere", L"..\\xrefs\\GRID.dwg"), At("Xrefs/Grid.dwg"));
 }
 
+TEST_F(PosixPaths, AnAbsoluteFileIsNoneBelowTheFolder) {
+  Write("Plans/a.dwg");
+  Write("only here.dwg");
+  EXPECT_EQ(Combined(Here(), At("PLANS/A.dwg")), At("Plans/a.dwg"));
+  EXPECT_EQ(Combined(Here(), L"/only here.dwg"), L"/only here.dwg");
+  EXPECT_EQ(Combined(Here(), L"\\only here.dwg"), L"/only here.dwg");
+}
+
+TEST_F(PosixPaths, BehindALinkWhatIsJoinedLeadsToTheSameFile) {
+  Write("one/two/three/a.dwg");
+  Write("one/two/b.dwg");
+  fs::create_symlink("one/two/three", folder.path() / "link");
+  EXPECT_EQ(Combined(Here(), L"link\\..\\b.dwg"), At("link/../b.dwg"));
+  const InFolder inFolder(folder.path());
+  EXPECT_EQ(Combined(L"", L"link\\..\\b.dwg"), L"link/../b.dwg");
+}
+
 TEST_F(PosixPaths, WhatIsNotThereIsJoinedWithSlashes) {
   EXPECT_EQ(Combined(Here(), L"no\\such\\..\\file.dwg"), At("no/file.dwg"));
   EXPECT_EQ(Combined(L"/", L"..\\..\\no such file.dwg"), L"/no such file.dwg");
   EXPECT_EQ(Combined(L"plans", L"..\\..\\a.dwg"), L"../a.dwg");
+  EXPECT_EQ(Combined(L"plans", L"..\\..\\..\\a.dwg"), L"../../a.dwg");
 }
 
 TEST_F(PosixPaths, AFolderKeepsABackslashInItsName) {
@@ -137,11 +171,36 @@ TEST_F(PosixPaths, DrivesAndServersLeadNowhere) {
 
 TEST_F(PosixPaths, AFileMayHaveTheNameOfADrive) {
   Write("C:\\a.dwg");
-  const fs::path before = fs::current_path();
-  fs::current_path(folder.path());
+  const InFolder inFolder(folder.path());
   EXPECT_EQ(zdx::ExistingPath(L"C:\\a.dwg"), L"C:\\a.dwg");
   EXPECT_EQ(zdx::ExistingPath(L"c:\\a.dwg"), L"");
-  fs::current_path(before);
+}
+
+TEST_F(PosixPaths, ALetterAloneIsADrive) {
+  for (const wchar_t* path : {L"1:a.dwg", L"\u00E4:a.dwg", L":a.dwg", L"[:a.dwg"}) {
+    EXPECT_NE(paths.PathIsRelativeW(path), 0);
+  }
+  for (const wchar_t* path : {L"a:a.dwg", L"z:a.dwg", L"A:a.dwg", L"Z:a.dwg"}) {
+    EXPECT_EQ(paths.PathIsRelativeW(path), 0);
+  }
+}
+
+TEST_F(PosixPaths, ARelativePathIsSpeltAsItReallyIs) {
+  Write("Plan.dwg");
+  Write("Sub/A.dwg");
+  const InFolder inFolder(folder.path());
+  EXPECT_EQ(zdx::ExistingPath(L"PLAN.DWG"), L"Plan.dwg");
+  EXPECT_EQ(zdx::ExistingPath(L"sub\\a.dwg"), L"Sub/A.dwg");
+  EXPECT_EQ(zdx::ExistingPath(L"plan.dwg\\a.dwg"), L"");
+}
+
+TEST_F(PosixPaths, DotsLeadOnBehindAFolderThatIsNotThere) {
+  Write("Plan.dwg");
+  EXPECT_EQ(Found(L"nowhere\\..\\PLAN.dwg"), At("Plan.dwg"));
+  EXPECT_EQ(Found(L"nowhere/.././/PLAN.dwg"), At("Plan.dwg"));
+  const InFolder inFolder(folder.path());
+  EXPECT_EQ(zdx::ExistingPath(L"nowhere\\.."), L".");
+  EXPECT_EQ(zdx::FileIdentity(L"nowhere\\.."), zdx::FileIdentity(Here()));
 }
 
 TEST_F(PosixPaths, ALinkIsFollowedAndOneThatLeadsNowhereIsNothing) {
@@ -163,6 +222,7 @@ TEST_F(PosixPaths, BehindALinkAFullPathIsThatOfTheSameFile) {
   EXPECT_EQ(zdx::FileIdentity(zdx::FullPath(At("link/../b.dwg"))),
             zdx::FileIdentity(At("one/two/b.dwg")));
   EXPECT_EQ(zdx::FullPath(At("link/./a.dwg")), At("link/a.dwg"));
+  EXPECT_EQ(zdx::FileIdentity(At("link") + L"\\..\\b.dwg"), zdx::FileIdentity(At("one/two/b.dwg")));
 }
 
 TEST_F(PosixPaths, AFileOnTheWayLeadsNowhere) {
@@ -232,6 +292,46 @@ TEST_F(PosixPaths, ASearchFindsFilesInOtherCaseAndNoFolders) {
   EXPECT_EQ(paths.SearchPathW(folders.c_str(), L"txt", L".shx", os::kPathSize, buffer, &leaf), 0u);
 }
 
+TEST_F(PosixPaths, AFoldersDotIsNoExtension) {
+  Write("fonts.d/romans.shx");
+  wchar_t buffer[os::kPathSize] = {};
+  wchar_t* leaf = nullptr;
+  EXPECT_NE(
+      paths.SearchPathW(Here().c_str(), L"fonts.d\\romans", L".shx", os::kPathSize, buffer, &leaf),
+      0u);
+  EXPECT_EQ(buffer, At("fonts.d/romans.shx"));
+}
+
+TEST_F(PosixPaths, AnExtensionMakesNoNameOfNone) {
+  Write(".shx");
+  wchar_t buffer[os::kPathSize] = {};
+  wchar_t* leaf = nullptr;
+  EXPECT_EQ(paths.SearchPathW(Here().c_str(), L"", L".shx", os::kPathSize, buffer, &leaf), 0u);
+}
+
+TEST_F(PosixPaths, AnAbsoluteNameNeedsNoFoldersAndGetsNoExtension) {
+  Write("a.shx");
+  wchar_t buffer[os::kPathSize] = {};
+  wchar_t* leaf = nullptr;
+  EXPECT_EQ(
+      paths.SearchPathW(Here().c_str(), At("a").c_str(), L".shx", os::kPathSize, buffer, &leaf),
+      0u);
+  EXPECT_NE(paths.SearchPathW(L":", At("A.shx").c_str(), nullptr, os::kPathSize, buffer, &leaf),
+            0u);
+  EXPECT_EQ(buffer, At("a.shx"));
+}
+
+TEST_F(PosixPaths, AnEmptyElementOfAListIsNoFolder) {
+  Write("a.shx");
+  Write("fonts/b.shx");
+  const InFolder inFolder(folder.path());
+  wchar_t buffer[os::kPathSize] = {};
+  wchar_t* leaf = nullptr;
+  for (const std::wstring& list : {std::wstring(L":"), L"::" + At("fonts") + L"::"}) {
+    EXPECT_EQ(paths.SearchPathW(list.c_str(), L"a.shx", nullptr, os::kPathSize, buffer, &leaf), 0u);
+  }
+}
+
 TEST_F(PosixPaths, AFileOfTheEnvironmentsPathIsFoundLast) {
   Write("tools/only-here.shx");
   const std::string path = "/no/such/folder:" + (folder.path() / "tools").string();
@@ -240,6 +340,12 @@ TEST_F(PosixPaths, AFileOfTheEnvironmentsPathIsFoundLast) {
   wchar_t* leaf = nullptr;
   paths.SearchPathW(nullptr, L"only-here.shx", nullptr, os::kPathSize, buffer, &leaf);
   EXPECT_EQ(buffer, At("tools/only-here.shx"));
+  Write("work/only-here.shx");
+  {
+    const InFolder inFolder(folder.path() / "work");
+    paths.SearchPathW(nullptr, L"only-here.shx", nullptr, os::kPathSize, buffer, &leaf);
+    EXPECT_EQ(buffer, At("work/only-here.shx"));
+  }
   const Variable none("PATH", nullptr);
   EXPECT_EQ(paths.SearchPathW(nullptr, L"only-here.shx", nullptr, os::kPathSize, buffer, &leaf),
             0u);
@@ -251,15 +357,28 @@ TEST_F(PosixPaths, TheRoamingFolderIsWhereTheUserKeepsSettings) {
   {
     const Variable config("XDG_CONFIG_HOME", own.c_str());
     EXPECT_EQ(Roaming(), At("own/settings"));
-    struct stat status = {};
-    ASSERT_EQ(stat(own.c_str(), &status), 0);
-    EXPECT_EQ(status.st_mode & 0777u, 0700u);
+    for (const std::wstring& made : {At("own/settings"), At("own")}) {
+      struct stat status = {};
+      ASSERT_EQ(stat(zdx_test::PathOf(made).c_str(), &status), 0);
+      EXPECT_EQ(status.st_mode & 0777u, 0700u);
+    }
   }
   for (const char* useless : {static_cast<const char*>(nullptr), "", "relative/folder"}) {
     const Variable config("XDG_CONFIG_HOME", useless);
     EXPECT_EQ(Roaming(), At(".config"));
   }
   EXPECT_TRUE(fs::is_directory(folder.path() / ".config"));
+}
+
+TEST_F(PosixPaths, WithoutAHomeThatIsNamedItIsTheOneOnRecord) {
+  const passwd* const user = getpwuid(getuid());
+  if (user == nullptr || user->pw_dir[0] != '/') GTEST_SKIP() << "no home is on record";
+  const std::wstring expected = zdx_test::NameOf(user->pw_dir) + L"/.config";
+  const Variable config("XDG_CONFIG_HOME", nullptr);
+  for (const char* useless : {static_cast<const char*>(nullptr), "", "relative/folder"}) {
+    const Variable home("HOME", useless);
+    EXPECT_EQ(zdx::ConfigFolder(), expected);
+  }
 }
 
 TEST_F(PosixPaths, ARoamingFolderThatCannotBeHadIsAFailure) {

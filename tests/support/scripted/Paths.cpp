@@ -84,7 +84,8 @@ std::uint32_t Paths::SearchPathW(const wchar_t* folders, const wchar_t* name,
     const auto row = inFolders.find(folders);
     found = row == inFolders.end() ? std::nullopt : std::optional(row->second);
   }
-  if (outcome.status != 0 || !found) return 0;
+  if (outcome.status != 0) return static_cast<std::uint32_t>(outcome.status);
+  if (!found) return 0;
   if (found->size() >= size) return static_cast<std::uint32_t>(found->size() + 1);
   Put(*found, path, size);
   *leaf = path + found->find_last_of(L'\\') + 1;

@@ -34,6 +34,7 @@ class Paths : public os::PathProvider {
   // Says so if the buffer it is given isn't zeros throughout.
   wchar_t* PathCombineW(wchar_t* path, const wchar_t* folder, const wchar_t* file) override;
   int PathRemoveFileSpecW(wchar_t* path) override;
+  // A script's status is the length that it tells.
   std::uint32_t SearchPathW(const wchar_t* folders, const wchar_t* name, const wchar_t* extension,
                             std::uint32_t size, wchar_t* path, wchar_t** leaf) override;
   int CreateDirectoryW(const wchar_t* path, void* security) override;

@@ -86,6 +86,11 @@ TEST_F(FindFile, ADrawingIsToldByItsExtensionInAnyCase) {
   }
 }
 
+TEST_F(FindFile, AnExtensionIsComparedWithoutRegardToCase) {
+  Find(L"a.dwT", nullptr);
+  EXPECT_THAT(Calls({"Order"}), ElementsAre("Order(.dwT, .DWG, 0, 1)"));
+}
+
 TEST_F(FindFile, TemplatesAndStandardsAreNoDrawings) {
   for (const wchar_t* name : {L"a.dwt", L"a.DWT", L"a.dws", L"a.dxf", L"a"}) {
     world.paths.existing = {L"C:\\plans\\" + std::wstring(name)};
@@ -209,6 +214,14 @@ TEST_F(FindFile, AnAnswerAsLongAsTheBufferIsAMiss) {
   world.paths.onOwnPath = L"C:\\a.shx";
   EXPECT_EQ(Find(L"a.shx", nullptr, 2, 8), Zent::kFileNotFound);
   EXPECT_EQ(Find(L"a.shx", nullptr, 2, 9), Zent::kOk);
+}
+
+TEST_F(FindFile, ALengthThatIsTheBuffersIsAMiss) {
+  world.Fail("SearchPathW", os::kPathSize);
+  EXPECT_EQ(Find(L"a.shx", nullptr, 2), Zent::kFileNotFound);
+  EXPECT_EQ(world.Count("SearchPathW"), 2);
+  world.Fail("SearchPathW", os::kPathSize - 1);
+  EXPECT_EQ(Find(L"a.shx", nullptr, 2), Zent::kOk);
 }
 
 TEST_F(FindFile, ABufferOfNoLengthIsNeverWrittenByTheSearch) {

@@ -122,6 +122,29 @@ TEST(Record, GettersGiveTheFieldItself) {
   EXPECT_EQ(destination, L"there");
 }
 
+template <class Record>
+concept TakesARefId = requires(Record record, const std::wstring& refId) {
+  record.SetRefId(refId);
+};
+template <class Getter, class Value>
+concept GivesAReferenceTo = std::is_same_v<Getter, const Value& (DwgDependentFile::*)()>;
+
+TEST(Record, ItsRefIdIsReadFromAConstantRecordTooAndSetByItsOwnClassesAlone) {
+  static_assert(std::is_same_v<decltype(&DwgDependentFile::GetRefId),
+                               const std::wstring& (DwgDependentFile::*)() const>);
+  static_assert(!TakesARefId<DwgDependentFile>);
+  static_assert(TakesARefId<OpenRecord>);
+}
+
+TEST(Record, ItsOtherFieldsAreReadByReference) {
+  static_assert(GivesAReferenceTo<decltype(&DwgDependentFile::GetSourcePath), std::wstring>);
+  static_assert(GivesAReferenceTo<decltype(&DwgDependentFile::GetAbsolutePath), std::wstring>);
+  static_assert(GivesAReferenceTo<decltype(&DwgDependentFile::GetDestinationPath), std::wstring>);
+  static_assert(GivesAReferenceTo<decltype(&DwgDependentFile::GetFileType), FileType>);
+  static_assert(GivesAReferenceTo<decltype(&DwgDependentFile::GetSupportRePath), bool>);
+  static_assert(GivesAReferenceTo<decltype(&DwgDependentFile::GetIsOverlay), bool>);
+}
+
 TEST(Record, FieldsStandInTheirOrder) {
   const OpenRecord record(L"", L"", L"", FileType{0}, false);
   const std::vector<const void*> places = record.Places();

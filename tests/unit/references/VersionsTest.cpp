@@ -54,6 +54,13 @@ TEST_F(Versions, TheSavedOneIsTheFilesIfItWasNeverSaved) {
   EXPECT_EQ(Manager().GetLastSavedAsFileVersion(L"C:\\a.dwg"), L"kDHL_1027");
 }
 
+TEST_F(Versions, TheSavedOneIsNotTheFilesUnlessItIsZero) {
+  world.drawing.lastSavedAsVersion = -1;
+  world.drawing.originalFileVersion = 31;
+  EXPECT_EQ(Manager().GetLastSavedAsFileVersion(L"C:\\a.dwg"), L"kDHL_Unknown");
+  EXPECT_EQ(world.Count("originalFileVersion"), 0);
+}
+
 TEST_F(Versions, TheSavedOneOfADxfFileIsToldToo) {
   world.drawing.lastSavedAsVersion = 16;
   EXPECT_EQ(Manager().GetLastSavedAsFileVersion(L"C:\\a.dxf"), L"kDHL_1009");

@@ -101,6 +101,12 @@ TEST_F(HeldServices, AnotherModuleUnderAVersionIsOneMore) {
               ElementsAre("1=a.zdx 1", "1=b.zdx 1", "2=c.zdx 2"));
 }
 
+TEST_F(HeldServices, FewerThanAreHeldAreLoadedAllTheSame) {
+  Request({{L"1", L"a.zdx"}, {L"2", L"b.zdx"}});
+  EXPECT_THAT(Held(Request({{L"3", L"c.zdx"}})),
+              ElementsAre("1=a.zdx 1", "2=b.zdx 2", "3=c.zdx 3"));
+}
+
 TEST_F(HeldServices, OneModuleUnderTwoVersionsIsTwo) {
   FileReferenceMgr::Services& held = Request({{L"1", L"a.zdx"}, {L"2", L"a.zdx"}});
   EXPECT_THAT(Held(held), ElementsAre("1=a.zdx 1", "2=a.zdx 2"));

@@ -177,6 +177,13 @@ TEST_F(DirectRecords, TheNodesAreDeletedInTheOrderOfTheList) {
   EXPECT_THAT(world.Calls({"delete"}), ElementsAre("direct.delete()", "nested.delete()"));
 }
 
+TEST_F(DirectRecords, ANodeThatIsListedTwiceIsDeletedOnce) {
+  world.walker.AddAgain(nested);
+  Walked walked;
+  WalkInto(walked, {}, true);
+  EXPECT_THAT(world.Calls({"delete"}), ElementsAre("nested.delete()"));
+}
+
 TEST_F(DirectRecords, UnderTheFlagTheOthersNodesStayTheRoots) {
   SetFlag(true);
   Walked walked;

@@ -85,6 +85,13 @@ TEST_F(BoundRecord, IsARecordWithoutAVirtualDestructor) {
   static_assert(!std::has_virtual_destructor_v<ZnDwgDependentFile>);
 }
 
+template <class Record>
+concept TakesANode = requires(Record record, ZnDwgDepends::DwgFile* node) {
+  record.SetDwgFile(node);
+};
+
+TEST_F(BoundRecord, IsBoundByItsOwnClassAlone) { static_assert(!TakesANode<ZnDwgDependentFile>); }
+
 TEST_F(BoundRecord, ItsEndLeavesTheNode) {
   const scripted::WalkedFile& file = AddFile("image");
   { const ZnDwgDependentFile record = RecordOf(file, true); }
