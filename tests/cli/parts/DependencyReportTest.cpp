@@ -71,11 +71,13 @@ TEST(MissingFiles, AreThoseThatWereLookedForInVain) {
   EXPECT_FALSE(IsMissing(damaged));
 }
 
-TEST(MissingFiles, OfServicesAreThoseThatDoNotExist) {
-  DependencyRecord record = Found(DependencyKind::Service, L"a.rvt");
-  EXPECT_FALSE(IsMissing(record));
-  record.detail.exists = false;
-  EXPECT_TRUE(IsMissing(record));
+TEST(MissingFiles, OfServicesAreToldApartAsOthersAre) {
+  EXPECT_FALSE(IsMissing(Found(DependencyKind::Service, L"a.txt")));
+  EXPECT_TRUE(IsMissing(Missing(DependencyKind::Service, L"a.txt")));
+  DependencyRecord address = Found(DependencyKind::Service, L"https://example.org/a.txt");
+  address.detail.exists = false;
+  EXPECT_FALSE(IsMissing(address));
+  EXPECT_THAT(TextOf(L"a", ReportOf({address})), HasSubstr("file of a service  not looked for\n"));
 }
 
 TEST(CountOfFiles, CountsEachFileOnceAndTheDrawingNever) {
