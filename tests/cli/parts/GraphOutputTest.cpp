@@ -44,7 +44,7 @@ TEST(DotOfGraph, KeepsNamesInsideTheirQuotes) {
 TEST(HtmlOfGraph, MarksWhatItShows) {
   const std::string page = HtmlOf(GraphOf(ReportOfPlant()));
   EXPECT_THAT(page, HasSubstr("<title>Files that plan.dwg depends on</title>"));
-  EXPECT_THAT(page, HasSubstr("<p>6 files, 5 references, 2 missing</p>"));
+  EXPECT_THAT(page, HasSubstr("<p>1 drawing, 5 other files, 5 references, 2 missing</p>"));
   EXPECT_THAT(page, HasSubstr("<g class=\"node root\" id=\"n0\""));
   EXPECT_THAT(page, HasSubstr("<g class=\"node missing\" id=\"n3\""));
   EXPECT_THAT(page, HasSubstr("<path class=\"edge overlay\""));
