@@ -230,6 +230,25 @@ TEST_F(Deps, ThatRunInACircleEnd) {
   EXPECT_THAT(dot, HasSubstr("-> n0 [tooltip=\"attached drawing PLAN: plan.dwg\"]"));
 }
 
+TEST_F(Deps, ThroughALinkAreTheFileThatItLeadsTo) {
+  std::error_code refused;
+  std::filesystem::create_symlink("valves.dwg", Folder() / "link.dwg", refused);
+  if (refused) GTEST_SKIP() << "No link can be made here: " << refused.message();
+  Write("linked.dwg", dwg::Make(DrawingOf({XrefBlock("A", "link.dwg"), XrefBlock("B", "link.dwg"),
+                                           XrefBlock("C", "valves.dwg")})));
+  // The valves and the font.
+  EXPECT_THAT(Zdx({"deps", "--direct", "linked.dwg"}).out, EndsWith("2 files, none missing\n"));
+}
+
+TEST_F(Deps, ThatAreTheDrawingItselfByAnotherNameDoNotCount) {
+  Write("twin.dwg", dwg::Make(DrawingOf({XrefBlock("OTHER", "other.dwg")})));
+  std::error_code refused;
+  std::filesystem::create_hard_link(Folder() / "twin.dwg", Folder() / "other.dwg", refused);
+  if (refused) GTEST_SKIP() << "No link can be made here: " << refused.message();
+  // The font.
+  EXPECT_THAT(Zdx({"deps", "twin.dwg"}).out, EndsWith("1 file, none missing\n"));
+}
+
 TEST_F(Deps, AreOneGraphForAllFiles) {
   const Outcome dot = Zdx({"deps", "-o", "dot", "plan.dwg", "nowhere.dwg", "pipes.dxf"});
   EXPECT_EQ(dot.exitCode, kFileFailed);
@@ -286,6 +305,16 @@ TEST_F(DepsOfServices, ThatAreMissingCount) {
       Zdx({"deps", "--missing", "--service", "1=" + Module("good.zdx"), "steel.dwg"});
   EXPECT_EQ(outcome.exitCode, kSomethingMissing);
   EXPECT_THAT(outcome.out, HasSubstr("points.txt  file of a service  MISSING\n"));
+}
+
+TEST_F(DepsOfServices, ThatTheDrawingNamesTooAreOneFile) {
+  Write("curves.txt", "beside the drawing");
+  drawing::DrawingSpec spec;
+  spec.textStyles = {{"Standard", "curves.txt"}, {"Other", "points.txt"}};
+  Write("curves.dwg", dwg::Make(spec));
+  EXPECT_THAT(
+      Zdx({"deps", "--service", "1=" + Module("good.zdx"), "curves.dwg"}).out,
+      AllOf(HasSubstr("curves.txt  file of a service\n"), EndsWith("3 files, 2 missing\n")));
 }
 
 TEST_F(DepsOfServices, FailWithTheService) {
