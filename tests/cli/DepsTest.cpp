@@ -308,12 +308,13 @@ TEST_F(DepsOfServices, ThatAreMissingCount) {
 }
 
 TEST_F(DepsOfServices, ThatTheDrawingNamesTooAreOneFile) {
-  Write("curves.txt", "beside the drawing");
+  std::filesystem::create_directory(Folder() / "survey");
+  Write("survey/curves.txt", "beside the drawing");
   drawing::DrawingSpec spec;
   spec.textStyles = {{"Standard", "curves.txt"}, {"Other", "points.txt"}};
-  Write("curves.dwg", dwg::Make(spec));
+  Write("survey/curves.dwg", dwg::Make(spec));
   EXPECT_THAT(
-      Zdx({"deps", "--service", "1=" + Module("good.zdx"), "curves.dwg"}).out,
+      Zdx({"deps", "--service", "1=" + Module("good.zdx"), "survey/curves.dwg"}).out,
       AllOf(HasSubstr("curves.txt  file of a service\n"), EndsWith("3 files, 2 missing\n")));
 }
 

@@ -138,7 +138,14 @@ TEST(TextOfDependencies, TellsWhatIsSpecialAboutAReference) {
   damaged.detail.reason = L"Half of it\nis gone.";
   DependencyRecord address = Found(DependencyKind::Image, L"d.png");
   address.detail.exists = false;
-  const std::string text = TextOf(L"a", ReportOf({repeated, unloaded, damaged, address}));
+  DependencyRecord overlaid = Found(DependencyKind::OverlaidDrawing, L"e.dwg");
+  overlaid.isOverlay = true;
+  DependencyRecord missing = Missing(DependencyKind::Image, L"f.png");
+  missing.detail.reason = L"There is no such file.";
+  const std::string text =
+      TextOf(L"a", ReportOf({repeated, unloaded, damaged, address, overlaid, missing}));
+  EXPECT_THAT(text, HasSubstr("e.dwg  overlaid drawing\n"));
+  EXPECT_THAT(text, HasSubstr("f.png  image             MISSING\n"));
   EXPECT_THAT(text, HasSubstr("d.png  image             not looked for\n"));
   EXPECT_THAT(text, HasSubstr("a.dwg  attached drawing  overlaid, repeated\n"));
   EXPECT_THAT(text, HasSubstr("b.png  image             MISSING, unloaded\n"));
@@ -168,6 +175,8 @@ TEST(TextOfDependencies, OfALongChainStaysSmall) {
   const std::string text = TextOf(L"a", ReportOfChain(10000));
   EXPECT_LT(text.size(), 3u * 1000 * 1000);
   EXPECT_THAT(text, HasSubstr("(9999 below) └─ 9999.dwg"));
+  EXPECT_THAT(text, HasSubstr("(33 below) └─ 33.dwg"));
+  EXPECT_THAT(text, HasSubstr("   └─ 32.dwg"));
 }
 
 TEST(JsonOfDependencies, IsOneDocumentWithItsKeysInOrder) {

@@ -51,6 +51,15 @@ TEST(HtmlOfGraph, MarksWhatItShows) {
   EXPECT_THAT(page, HasSubstr("<div>pipes.dwg: font (NOTES): romans.shx</div>"));
 }
 
+TEST(HtmlOfGraph, MarksOverlaysAndWhatIsUnloaded) {
+  DependencyRecord record = Found(DependencyKind::AttachedDrawing, L"a.dwg");
+  record.isOverlay = true;
+  record.detail.isUnloaded = true;
+  const std::string page = HtmlOf(GraphOf(ReportOf({record})));
+  EXPECT_THAT(page, HasSubstr("<path class=\"edge overlay unloaded\""));
+  EXPECT_THAT(page, HasSubstr(": attached drawing, overlaid, unloaded: a.dwg</div>"));
+}
+
 TEST(HtmlOfGraph, LoadsNothing) {
   const std::string page = HtmlOf(GraphOf(ReportOfPlant()));
   EXPECT_THAT(page, HasSubstr("default-src 'none'"));
