@@ -153,6 +153,10 @@ TEST_F(Deps, ThatAreMissingCanBeToldAlone) {
   EXPECT_THAT(StoredPaths(ListOf({"--missing"})), ElementsAre("roof.dwg"));
 }
 
+TEST_F(Deps, ThatAreMissingInTheFirstOfSeveralFilesCount) {
+  EXPECT_EQ(Zdx({"deps", "--missing", "plan.dwg", "steel.dwg"}).exitCode, kSomethingMissing);
+}
+
 TEST_F(Deps, ThatAreAllThereGiveNothingMissing) {
   const Outcome text = Zdx({"deps", "--missing", "pipes.dxf"});
   EXPECT_EQ(text.exitCode, 0);
@@ -174,7 +178,7 @@ TEST_F(Deps, AreFoundInTheFoldersThatAreGiven) {
           return spec;
         }()));
   Write("fonts/rare-letters.shx", "a font");
-  const std::vector<std::string> options = {"--search-path", "more", "--search-path=fonts"};
+  const std::vector<std::string> options = {"--search-path=fonts", "--search-path", "more"};
   EXPECT_EQ(ListOf(options)[1].at("exists"), true);
   const nlohmann::json fonts = DocumentOf(options, "letters.dxf").at("dependencies");
   ASSERT_THAT(fonts, SizeIs(1));

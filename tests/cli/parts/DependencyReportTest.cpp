@@ -158,6 +158,12 @@ TEST(TextOfDependencies, AlignsNamesOfWideCharacters) {
               HasSubstr("├─ \xE5\x9C\xB0\xE5\x9B\xB3    image\n  └─ abcdef  image\n"));
 }
 
+TEST(TextOfDependencies, DoesNotAlignWithAVeryLongName) {
+  EXPECT_THAT(TextOf(L"a", ReportOf({Found(DependencyKind::Image, std::wstring(70, L'x') + L".png"),
+                                     Found(DependencyKind::Image, L"b.png")})),
+              HasSubstr("└─ b.png  image\n"));
+}
+
 TEST(TextOfDependencies, HasNothingThatActsOnATerminal) {
   std::vector<DependencyRecord> records;
   for (const wchar_t* const name : kHostileNames) {

@@ -60,6 +60,25 @@ TEST(HtmlOfGraph, MarksOverlaysAndWhatIsUnloaded) {
   EXPECT_THAT(page, HasSubstr(": attached drawing, overlaid, unloaded: a.dwg</div>"));
 }
 
+TEST(HtmlOfGraph, SaysWhatIsWrongWithAFile) {
+  DependencyRecord damaged = Found(DependencyKind::AttachedDrawing, L"a.dwg");
+  damaged.detail.problem = DependencyProblem::Damaged;
+  damaged.detail.reason = L"Half of it is gone.";
+  EXPECT_THAT(HtmlOf(GraphOf(ReportOf({damaged}))), HasSubstr("<div>Half of it is gone.</div>"));
+}
+
+TEST(HtmlOfGraph, DrawsReferencesToOneFileBesideEachOther) {
+  const std::string page =
+      HtmlOf(GraphOf(ReportOf({Named(Found(DependencyKind::AttachedDrawing, L"a.dwg"), L"A"),
+                               Named(Found(DependencyKind::AttachedDrawing, L"a.dwg"), L"B")})));
+  const std::string start = "marker-end=\"url(#tip)\" d=\"";
+  const std::size_t first = page.find(start);
+  const std::size_t second = page.find(start, first + 1);
+  ASSERT_NE(second, std::string::npos);
+  EXPECT_NE(page.substr(first, page.find('>', first) - first),
+            page.substr(second, page.find('>', second) - second));
+}
+
 TEST(HtmlOfGraph, LoadsNothing) {
   const std::string page = HtmlOf(GraphOf(ReportOfPlant()));
   EXPECT_THAT(page, HasSubstr("default-src 'none'"));
