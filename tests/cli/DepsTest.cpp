@@ -180,6 +180,9 @@ TEST_F(Deps, AreFoundInTheFoldersThatAreGiven) {
   Write("fonts/rare-letters.shx", "a font");
   const std::vector<std::string> options = {"--search-path=fonts", "--search-path", "more"};
   EXPECT_EQ(ListOf(options)[1].at("exists"), true);
+  // What follows one folder are files.
+  EXPECT_THAT(Zdx({"deps", "--search-path", "more", "steel.dwg", "pipes.dxf"}).out,
+              StartsWith("steel.dwg\n"));
   const nlohmann::json fonts = DocumentOf(options, "letters.dxf").at("dependencies");
   ASSERT_THAT(fonts, SizeIs(1));
   EXPECT_EQ(PathOf(fonts[0].at("sourcePath").get<std::string>()),
