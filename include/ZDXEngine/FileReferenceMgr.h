@@ -96,8 +96,8 @@ class ZDXENGINE_API FileReferenceMgr {
   // The version as which the drawing at `path` was last saved.  Throws a FileError if it can't be
   // opened.
   std::wstring GetLastSavedAsFileVersion(const std::wstring& path);
-  // The version that the first six bytes of the file at `path` tell; "kDHL_Unknown" for anything
-  // else, AC1018 and older ones among them.  Never throws.
+  // The version that the first six bytes of the file at `path` tell: AC1015, AC1021, AC1024, AC1027
+  // or AC1032; "kDHL_Unknown" for all others.  Never throws.
   std::wstring GetTerrane3DVersion(const std::wstring& path);
 
   // Writes the drawing that is embedded in the one at `path` to a file of its own, whose full path

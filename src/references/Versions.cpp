@@ -21,7 +21,7 @@ struct Signature {
   int version;
 };
 
-// AC1018 and what is older isn't told by its signature.
+// AC1018 isn't told by its signature, nor what is older than AC1015.
 constexpr Signature kSignatures[] = {
     {"AC1015", 23}, {"AC1021", 27}, {"AC1024", 29}, {"AC1027", 31}, {"AC1032", 33},
 };

@@ -153,6 +153,10 @@ TEST_F(Deps, ThatAreMissingCanBeToldAlone) {
   EXPECT_THAT(StoredPaths(ListOf({"--missing"})), ElementsAre("roof.dwg"));
 }
 
+TEST_F(Deps, ThatAreMissingInTheFirstOfSeveralFilesCount) {
+  EXPECT_EQ(Zdx({"deps", "--missing", "plan.dwg", "steel.dwg"}).exitCode, kSomethingMissing);
+}
+
 TEST_F(Deps, ThatAreAllThereGiveNothingMissing) {
   const Outcome text = Zdx({"deps", "--missing", "pipes.dxf"});
   EXPECT_EQ(text.exitCode, 0);
@@ -174,8 +178,11 @@ TEST_F(Deps, AreFoundInTheFoldersThatAreGiven) {
           return spec;
         }()));
   Write("fonts/rare-letters.shx", "a font");
-  const std::vector<std::string> options = {"--search-path", "more", "--search-path=fonts"};
+  const std::vector<std::string> options = {"--search-path=fonts", "--search-path", "more"};
   EXPECT_EQ(ListOf(options)[1].at("exists"), true);
+  // What follows one folder are files.
+  EXPECT_THAT(Zdx({"deps", "--search-path", "more", "steel.dwg", "pipes.dxf"}).out,
+              StartsWith("steel.dwg\n"));
   const nlohmann::json fonts = DocumentOf(options, "letters.dxf").at("dependencies");
   ASSERT_THAT(fonts, SizeIs(1));
   EXPECT_EQ(PathOf(fonts[0].at("sourcePath").get<std::string>()),
@@ -228,6 +235,25 @@ TEST_F(Deps, ThatRunInACircleEnd) {
   // The circle leads to the node of the drawing.
   const std::string dot = Zdx({"deps", "-o", "dot", "plan.dwg"}).out;
   EXPECT_THAT(dot, HasSubstr("-> n0 [tooltip=\"attached drawing PLAN: plan.dwg\"]"));
+}
+
+TEST_F(Deps, ThroughALinkAreTheFileThatItLeadsTo) {
+  std::error_code refused;
+  std::filesystem::create_symlink("valves.dwg", Folder() / "link.dwg", refused);
+  if (refused) GTEST_SKIP() << "No link can be made here: " << refused.message();
+  Write("linked.dwg", dwg::Make(DrawingOf({XrefBlock("A", "link.dwg"), XrefBlock("B", "link.dwg"),
+                                           XrefBlock("C", "valves.dwg")})));
+  // The valves and the font.
+  EXPECT_THAT(Zdx({"deps", "--direct", "linked.dwg"}).out, EndsWith("2 files, none missing\n"));
+}
+
+TEST_F(Deps, ThatAreTheDrawingItselfByAnotherNameDoNotCount) {
+  Write("twin.dwg", dwg::Make(DrawingOf({XrefBlock("OTHER", "other.dwg")})));
+  std::error_code refused;
+  std::filesystem::create_hard_link(Folder() / "twin.dwg", Folder() / "other.dwg", refused);
+  if (refused) GTEST_SKIP() << "No link can be made here: " << refused.message();
+  // The font.
+  EXPECT_THAT(Zdx({"deps", "twin.dwg"}).out, EndsWith("1 file, none missing\n"));
 }
 
 TEST_F(Deps, AreOneGraphForAllFiles) {
@@ -286,6 +312,17 @@ TEST_F(DepsOfServices, ThatAreMissingCount) {
       Zdx({"deps", "--missing", "--service", "1=" + Module("good.zdx"), "steel.dwg"});
   EXPECT_EQ(outcome.exitCode, kSomethingMissing);
   EXPECT_THAT(outcome.out, HasSubstr("points.txt  file of a service  MISSING\n"));
+}
+
+TEST_F(DepsOfServices, ThatTheDrawingNamesTooAreOneFile) {
+  std::filesystem::create_directory(Folder() / "survey");
+  Write("survey/curves.txt", "beside the drawing");
+  drawing::DrawingSpec spec;
+  spec.textStyles = {{"Standard", "curves.txt"}, {"Other", "points.txt"}};
+  Write("survey/curves.dwg", dwg::Make(spec));
+  EXPECT_THAT(
+      Zdx({"deps", "--service", "1=" + Module("good.zdx"), "survey/curves.dwg"}).out,
+      AllOf(HasSubstr("curves.txt  file of a service\n"), EndsWith("3 files, 2 missing\n")));
 }
 
 TEST_F(DepsOfServices, FailWithTheService) {

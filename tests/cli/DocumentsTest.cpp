@@ -86,8 +86,8 @@ TEST_P(DocumentExamples, GiveWhatIsShown) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Each, DocumentExamples,
-                         ::testing::Values(Document{"README.md", 6}, Document{"docs/cli.md", 11},
-                                           Document{"docs/json.md", 5}),
+                         ::testing::Values(Document{"README.md", 6}, Document{"docs/cli.md", 12},
+                                           Document{"docs/json.md", 7}),
                          [](const auto& document) {
                            std::string name = document.param.name;
                            std::erase_if(name, [](char c) { return c == '/' || c == '.'; });

@@ -6,9 +6,7 @@
 namespace zdx {
 
 bool IsMissing(const DependencyRecord& record) {
-  const ZDXEngine::DependencyDetail& detail = record.detail;
-  if (detail.kind == ZDXEngine::DependencyKind::Service) return !detail.exists;
-  return detail.problem == ZDXEngine::DependencyProblem::NotFound;
+  return record.detail.problem == ZDXEngine::DependencyProblem::NotFound;
 }
 
 FileCount CountFiles(const DependencyReport& report) {

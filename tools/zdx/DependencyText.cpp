@@ -13,7 +13,6 @@ namespace zdx {
 namespace {
 
 using ZDXEngine::DependencyKind;
-using ZDXEngine::DependencyProblem;
 
 constexpr std::size_t kIndent = 2;
 constexpr std::size_t kGap = 2;
@@ -53,8 +52,7 @@ void AppendPart(std::string& text, const std::string& part) {
 
 std::string StateOf(const DependencyRecord& record) {
   const ZDXEngine::DependencyDetail& detail = record.detail;
-  std::string text =
-      IsMissing(record) ? ProblemText(DependencyProblem::NotFound) : ProblemText(detail.problem);
+  std::string text = ProblemText(detail.problem);
   if (!IsMissing(record) && !detail.reason.empty()) {
     text += (text.empty() ? "" : ": ") + ReadableText(detail.reason);
   }

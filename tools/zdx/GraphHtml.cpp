@@ -84,10 +84,15 @@ std::string TitleOf(const FileGraph& graph) {
 }
 
 std::string SummaryOf(const FileGraph& graph) {
-  const auto missing =
-      static_cast<std::size_t>(std::count_if(graph.Nodes().begin(), graph.Nodes().end(),
-                                             [](const GraphNode& node) { return node.isMissing; }));
-  return CountText(graph.Nodes().size(), "file") + ", " +
+  const auto count = [&](bool GraphNode::*flag) {
+    return static_cast<std::size_t>(
+        std::count_if(graph.Nodes().begin(), graph.Nodes().end(),
+                      [flag](const GraphNode& node) { return node.*flag; }));
+  };
+  const std::size_t roots = count(&GraphNode::isRoot);
+  const std::size_t missing = count(&GraphNode::isMissing);
+  return CountText(roots, "drawing") + ", " +
+         CountText(graph.Nodes().size() - roots, "other file") + ", " +
          CountText(graph.Edges().size(), "reference") + ", " +
          (missing == 0 ? "none" : std::to_string(missing)) + " missing";
 }

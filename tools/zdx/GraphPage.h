@@ -51,7 +51,7 @@ const height = Number(picture.getAttribute("height"));
 let scale = 1;
 function zoom(to) {
   const before = scale;
-  scale = Math.min(4, Math.max(0.02, to));
+  scale = Math.min(4, Math.max(0.0001, to));
   const x = graph.scrollLeft + graph.clientWidth / 2, y = graph.scrollTop + graph.clientHeight / 2;
   picture.setAttribute("width", width * scale);
   picture.setAttribute("height", height * scale);
@@ -60,8 +60,11 @@ function zoom(to) {
 }
 document.getElementById("larger").onclick = () => zoom(scale * 1.25);
 document.getElementById("smaller").onclick = () => zoom(scale / 1.25);
-document.getElementById("whole").onclick =
-  () => zoom(Math.min(1, graph.clientWidth / width, graph.clientHeight / height));
+document.getElementById("whole").onclick = () => {
+  // The frame shrinks with the picture.
+  zoom(1);
+  zoom(Math.min(1, graph.clientWidth / width, graph.clientHeight / height));
+};
 document.getElementById("plain").onclick = () => zoom(1);
 graph.addEventListener("wheel", (event) => {
   if (!event.ctrlKey) return;
@@ -87,10 +90,11 @@ const found = document.getElementById("found");
 const entries = Array.from(document.querySelectorAll("li"),
                            (entry) => [entry, entry.textContent.toLowerCase()]);
 function show() {
-  const words = filter.value.toLowerCase();
+  const words = filter.value.toLowerCase().split(/\s+/);
   let count = 0;
   for (const [entry, text] of entries) {
-    entry.hidden = !text.includes(words) || only.checked && !entry.classList.contains("missing");
+    entry.hidden = !words.every((word) => text.includes(word)) ||
+                   only.checked && !entry.classList.contains("missing");
     if (!entry.hidden) ++count;
   }
   found.textContent = count + " of " + entries.length + " files";

@@ -71,11 +71,13 @@ TEST(MissingFiles, AreThoseThatWereLookedForInVain) {
   EXPECT_FALSE(IsMissing(damaged));
 }
 
-TEST(MissingFiles, OfServicesAreThoseThatDoNotExist) {
-  DependencyRecord record = Found(DependencyKind::Service, L"a.rvt");
-  EXPECT_FALSE(IsMissing(record));
-  record.detail.exists = false;
-  EXPECT_TRUE(IsMissing(record));
+TEST(MissingFiles, OfServicesAreToldApartAsOthersAre) {
+  EXPECT_FALSE(IsMissing(Found(DependencyKind::Service, L"a.txt")));
+  EXPECT_TRUE(IsMissing(Missing(DependencyKind::Service, L"a.txt")));
+  DependencyRecord address = Found(DependencyKind::Service, L"https://example.org/a.txt");
+  address.detail.exists = false;
+  EXPECT_FALSE(IsMissing(address));
+  EXPECT_THAT(TextOf(L"a", ReportOf({address})), HasSubstr("file of a service  not looked for\n"));
 }
 
 TEST(CountOfFiles, CountsEachFileOnceAndTheDrawingNever) {
@@ -136,7 +138,14 @@ TEST(TextOfDependencies, TellsWhatIsSpecialAboutAReference) {
   damaged.detail.reason = L"Half of it\nis gone.";
   DependencyRecord address = Found(DependencyKind::Image, L"d.png");
   address.detail.exists = false;
-  const std::string text = TextOf(L"a", ReportOf({repeated, unloaded, damaged, address}));
+  DependencyRecord overlaid = Found(DependencyKind::OverlaidDrawing, L"e.dwg");
+  overlaid.isOverlay = true;
+  DependencyRecord missing = Missing(DependencyKind::Image, L"f.png");
+  missing.detail.reason = L"There is no such file.";
+  const std::string text =
+      TextOf(L"a", ReportOf({repeated, unloaded, damaged, address, overlaid, missing}));
+  EXPECT_THAT(text, HasSubstr("e.dwg  overlaid drawing\n"));
+  EXPECT_THAT(text, HasSubstr("f.png  image             MISSING\n"));
   EXPECT_THAT(text, HasSubstr("d.png  image             not looked for\n"));
   EXPECT_THAT(text, HasSubstr("a.dwg  attached drawing  overlaid, repeated\n"));
   EXPECT_THAT(text, HasSubstr("b.png  image             MISSING, unloaded\n"));
@@ -147,6 +156,12 @@ TEST(TextOfDependencies, AlignsNamesOfWideCharacters) {
   EXPECT_THAT(TextOf(L"a", ReportOf({Found(DependencyKind::Image, L"\u5730\u56F3"),
                                      Found(DependencyKind::Image, L"abcdef")})),
               HasSubstr("├─ \xE5\x9C\xB0\xE5\x9B\xB3    image\n  └─ abcdef  image\n"));
+}
+
+TEST(TextOfDependencies, DoesNotAlignWithAVeryLongName) {
+  EXPECT_THAT(TextOf(L"a", ReportOf({Found(DependencyKind::Image, std::wstring(70, L'x') + L".png"),
+                                     Found(DependencyKind::Image, L"b.png")})),
+              HasSubstr("└─ b.png  image\n"));
 }
 
 TEST(TextOfDependencies, HasNothingThatActsOnATerminal) {
@@ -166,6 +181,8 @@ TEST(TextOfDependencies, OfALongChainStaysSmall) {
   const std::string text = TextOf(L"a", ReportOfChain(10000));
   EXPECT_LT(text.size(), 3u * 1000 * 1000);
   EXPECT_THAT(text, HasSubstr("(9999 below) └─ 9999.dwg"));
+  EXPECT_THAT(text, HasSubstr("(33 below) └─ 33.dwg"));
+  EXPECT_THAT(text, HasSubstr("   └─ 32.dwg"));
 }
 
 TEST(JsonOfDependencies, IsOneDocumentWithItsKeysInOrder) {

@@ -112,6 +112,18 @@ TEST(GraphLayout, PutsNoTwoFilesOntoOnePlace) {
   EXPECT_EQ(taken.size(), graph.Nodes().size());
 }
 
+TEST(GraphLayout, LeavesRowsForAllThatIsBelowAFile) {
+  const auto drawing = [](const wchar_t* name, std::optional<std::size_t> parent) {
+    return Found(DependencyKind::AttachedDrawing, name, parent);
+  };
+  const FileGraph graph = GraphOf(
+      ReportOf({drawing(L"a", {}), drawing(L"b", {}), drawing(L"a1", 0), drawing(L"a2", 0),
+                drawing(L"a21", 3), drawing(L"a22", 3), drawing(L"b1", 1), drawing(L"b11", 6)}));
+  std::set<std::pair<std::size_t, std::size_t>> taken;
+  for (const GraphPlace& place : LayOut(graph)) taken.emplace(place.column, place.row);
+  EXPECT_EQ(taken.size(), graph.Nodes().size());
+}
+
 TEST(GraphLayout, MayBeDeeperThanAStack) {
   const std::vector<GraphPlace> places = LayOut(GraphOf(ReportOfChain(100000)));
   EXPECT_EQ(places.back().column, 100000u);

@@ -44,11 +44,39 @@ TEST(DotOfGraph, KeepsNamesInsideTheirQuotes) {
 TEST(HtmlOfGraph, MarksWhatItShows) {
   const std::string page = HtmlOf(GraphOf(ReportOfPlant()));
   EXPECT_THAT(page, HasSubstr("<title>Files that plan.dwg depends on</title>"));
-  EXPECT_THAT(page, HasSubstr("<p>6 files, 5 references, 2 missing</p>"));
+  EXPECT_THAT(page, HasSubstr("<p>1 drawing, 5 other files, 5 references, 2 missing</p>"));
   EXPECT_THAT(page, HasSubstr("<g class=\"node root\" id=\"n0\""));
   EXPECT_THAT(page, HasSubstr("<g class=\"node missing\" id=\"n3\""));
   EXPECT_THAT(page, HasSubstr("<path class=\"edge overlay\""));
   EXPECT_THAT(page, HasSubstr("<div>pipes.dwg: font (NOTES): romans.shx</div>"));
+}
+
+TEST(HtmlOfGraph, MarksOverlaysAndWhatIsUnloaded) {
+  DependencyRecord record = Found(DependencyKind::AttachedDrawing, L"a.dwg");
+  record.isOverlay = true;
+  record.detail.isUnloaded = true;
+  const std::string page = HtmlOf(GraphOf(ReportOf({record})));
+  EXPECT_THAT(page, HasSubstr("<path class=\"edge overlay unloaded\""));
+  EXPECT_THAT(page, HasSubstr(": attached drawing, overlaid, unloaded: a.dwg</div>"));
+}
+
+TEST(HtmlOfGraph, SaysWhatIsWrongWithAFile) {
+  DependencyRecord damaged = Found(DependencyKind::AttachedDrawing, L"a.dwg");
+  damaged.detail.problem = DependencyProblem::Damaged;
+  damaged.detail.reason = L"Half of it is gone.";
+  EXPECT_THAT(HtmlOf(GraphOf(ReportOf({damaged}))), HasSubstr("<div>Half of it is gone.</div>"));
+}
+
+TEST(HtmlOfGraph, DrawsReferencesToOneFileBesideEachOther) {
+  const std::string page =
+      HtmlOf(GraphOf(ReportOf({Named(Found(DependencyKind::AttachedDrawing, L"a.dwg"), L"A"),
+                               Named(Found(DependencyKind::AttachedDrawing, L"a.dwg"), L"B")})));
+  const std::string start = "marker-end=\"url(#tip)\" d=\"";
+  const std::size_t first = page.find(start);
+  const std::size_t second = page.find(start, first + 1);
+  ASSERT_NE(second, std::string::npos);
+  EXPECT_NE(page.substr(first, page.find('>', first) - first),
+            page.substr(second, page.find('>', second) - second));
 }
 
 TEST(HtmlOfGraph, LoadsNothing) {

@@ -169,6 +169,30 @@ TEST(Browser, ShowsTheFilesThatAreAskedFor) {
   EXPECT_THAT(*shown, HasSubstr("data-seen=\"1 of 1001 files; 143 of 1001 files; 1.25; 143\""));
 }
 
+TEST(Browser, LooksForWordsInAnyOrderAndWithBlanksAround) {
+  std::string page = HtmlOf(GraphOf(ReportOfPlant()));
+  page.insert(page.find("</body>"),
+              "<script>document.body.dataset.seen=['NOTES romans', ' ', 'steel romans'].map("
+              "(words)=>{filter.value=words; filter.oninput(); return found.textContent;})"
+              ".join('; ');</script>\n");
+  const auto shown = Shown(page);
+  if (!shown) GTEST_SKIP() << kNoBrowser;
+  EXPECT_THAT(*shown, HasSubstr("data-seen=\"1 of 6 files; 6 of 6 files; 0 of 6 files\""));
+}
+
+TEST(Browser, ShowsTheWholeOfALargeGraph) {
+  std::string page = HtmlOf(LargeGraph());
+  page.insert(
+      page.find("</body>"),
+      "<script>const press=(name)=>document.getElementById(name).onclick();"
+      "press('whole'); const first=scale; press('smaller'); press('smaller'); press('whole');"
+      "document.body.dataset.seen=scale===first&&graph.scrollWidth<=graph.clientWidth&&"
+      "graph.scrollHeight<=graph.clientHeight;</script>\n");
+  const auto shown = Shown(page);
+  if (!shown) GTEST_SKIP() << kNoBrowser;
+  EXPECT_THAT(*shown, HasSubstr("data-seen=\"true\""));
+}
+
 }  // namespace
 
 }  // namespace zdx
