@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <climits>
 #include <string_view>
+#include <utility>
 
 #include "ZDXEngine/Utf8.h"
 #include "backends/posix/FolderNames.h"
@@ -37,7 +38,17 @@ std::optional<std::string> RealElement(const std::string& folder, std::wstring_v
 std::optional<std::string> RealNameByElements(const std::string& start, std::wstring_view path,
                                               const std::string& absent) {
   std::string name = start;
-  for (std::size_t at = 0; at < path.size();) {
+  std::size_t at = 0;
+  // Mostly the last element alone is another.
+  const std::size_t leaf = path.rfind(L'/');
+  if (leaf != std::wstring_view::npos) {
+    std::string folder = start + ZDXEngine::BytesFromWide(path.substr(0, leaf));
+    if (IsFolder(folder)) {
+      name = std::move(folder);
+      at = leaf + 1;
+    }
+  }
+  while (at < path.size()) {
     const std::size_t end = std::min(path.find(L'/', at), path.size());
     const std::optional<std::string> next =
         RealElement(name, path.substr(at, end - at), end < path.size(), absent);
