@@ -20,8 +20,10 @@ namespace {
 // few folders: they are read once, until they change.
 constexpr std::size_t kMostFolders = 64;
 constexpr std::size_t kMostNames = 1 << 20;
-// A change as long ago as that shows in the folder's time, however coarse the clock.
-constexpr std::time_t kSettledAfter = 2;
+// A change as long ago as that, in seconds, shows in the folder's time: by clocks that tell parts
+// of a second, and by those that don't.
+constexpr double kSettledAfter = 0.1;
+constexpr double kSettledAfterByCoarseClock = 3.0;
 
 struct Row {
   std::size_t hash;
@@ -40,6 +42,19 @@ std::size_t FoldedHash(std::wstring_view name) { return std::hash<std::wstring>(
 
 bool IsSame(const timespec& a, const timespec& b) {
   return a.tv_sec == b.tv_sec && a.tv_nsec == b.tv_nsec;
+}
+
+double SecondsFrom(const timespec& begin, const timespec& end) {
+  return static_cast<double>(end.tv_sec - begin.tv_sec) +
+         static_cast<double>(end.tv_nsec - begin.tv_nsec) * 1e-9;
+}
+
+// Whether names that are read now can't change any more without the folder's time telling it.
+bool IsSettled(const timespec& changed) {
+  timespec now = {};
+  clock_gettime(CLOCK_REALTIME, &now);
+  return SecondsFrom(changed, now) >
+         (changed.tv_nsec == 0 ? kSettledAfterByCoarseClock : kSettledAfter);
 }
 
 bool IsUnchanged(const Names& names, const struct stat& now) {
@@ -84,7 +99,7 @@ Names Read(const std::string& folder) {
   names.folder = folder;
   Reading reading(folder);
   if (!reading.Status(names.status)) return names;
-  names.isSettled = std::time(nullptr) - names.status.st_mtim.tv_sec > kSettledAfter;
+  names.isSettled = IsSettled(names.status.st_mtim);
   while (const char* const name = reading.Next()) {
     names.rows.push_back({FoldedHash(ZDXEngine::WideFromUtf8(name)), name});
   }

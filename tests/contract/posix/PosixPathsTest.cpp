@@ -6,10 +6,12 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
 #include <string>
+#include <thread>
 
 #include "backends/System.h"
 #include "backends/posix/ConfigFolder.h"
@@ -265,6 +267,17 @@ TEST_F(PosixPaths, ThousandsOfMissingNamesInAFullFolderCostLittle) {
   const std::clock_t start = std::clock();
   for (int i = 0; i < 10000; ++i) EXPECT_EQ(Found(L"MISSING " + std::to_wstring(i)), L"");
   EXPECT_LT(std::clock() - start, 3 * CLOCKS_PER_SEC);
+}
+
+TEST_F(PosixPaths, AFolderThatChangedAMomentAgoIsNotReadForEachName) {
+  for (int i = 0; i < 2000; ++i) Write(("file " + std::to_string(i)).c_str());
+  std::this_thread::sleep_for(std::chrono::milliseconds(200));
+  struct stat status = {};
+  ASSERT_EQ(stat(folder.path().c_str(), &status), 0);
+  if (status.st_mtim.tv_nsec == 0) GTEST_SKIP() << "the clock of this file system is coarse";
+  const std::clock_t start = std::clock();
+  for (int i = 0; i < 2000; ++i) EXPECT_EQ(Found(L"MISSING " + std::to_wstring(i)), L"");
+  EXPECT_LT(std::clock() - start, CLOCKS_PER_SEC);
 }
 
 TEST_F(PosixPaths, WhatChangesInAFolderIsSeen) {
