@@ -70,7 +70,7 @@ function(zdx_layer name folder)
 endfunction()
 
 # What the sanitizers would change is built by this target, and has this label among CTest's tests: the
-# module as it is handed out, the tool as it is used, and what hostile files cost.
+# module as it is handed out, and what hostile files cost.
 add_custom_target(zdx_plain_tests)
 
 # zdx_test(NAME source... [LINK target...] [PARTS count] [PLAIN]): a GoogleTest program of which each test

@@ -5,7 +5,8 @@
 
 namespace zdx::database {
 
-// Knows the object modules whose work the database does itself, and leaves all others to the system.
+// Knows the object modules whose work the database does itself, and leaves all others to the
+// system.
 class DynamicLinker : public ZnRxDynamicLinker {
  public:
   ZnRxClass* isA() const override { return desc(); }
