@@ -14,11 +14,16 @@ drawing::DrawingSpec DrawingOf(std::vector<drawing::BlockSpec> blocks, const std
   return spec;
 }
 
+std::string MadeDrawing(const std::string& name, std::vector<drawing::BlockSpec> blocks,
+                        const std::string& version) {
+  const drawing::DrawingSpec spec = DrawingOf(std::move(blocks), version);
+  return name.ends_with(".dxf") ? dxf::Make(spec) : dwg::Make(spec);
+}
+
 std::filesystem::path DrawingFolder::Write(const std::string& name,
                                            std::vector<drawing::BlockSpec> blocks,
                                            const std::string& version) const {
-  const drawing::DrawingSpec spec = DrawingOf(std::move(blocks), version);
-  return WriteBytes(name, name.ends_with(".dxf") ? dxf::Make(spec) : dwg::Make(spec));
+  return WriteBytes(name, MadeDrawing(name, std::move(blocks), version));
 }
 
 std::filesystem::path DrawingFolder::WriteBytes(const std::string& name,

@@ -10,9 +10,13 @@
 
 namespace zdx_test {
 
+// A drawing that names no file but those of `blocks`, in the format of its name's extension.
+std::string MadeDrawing(const std::string& name, std::vector<drawing::BlockSpec> blocks,
+                        const std::string& version = "AC1018");
+
 class DrawingFolder {
  public:
-  // A drawing that names no file but those of `blocks`, in the format of its name's extension.
+  // Such a drawing.
   std::filesystem::path Write(const std::string& name, std::vector<drawing::BlockSpec> blocks = {},
                               const std::string& version = "AC1018") const;
   std::filesystem::path WriteBytes(const std::string& name, const std::string& bytes) const;
@@ -22,7 +26,7 @@ class DrawingFolder {
   ScratchFolder folder_;
 };
 
-// Such a drawing.
+// The description of such a drawing.
 drawing::DrawingSpec DrawingOf(std::vector<drawing::BlockSpec> blocks, const std::string& version);
 
 // A walk's files as lines: "parent > stored path", with "missing", "repeated", "unloaded" and

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <map>
 #include <set>
 
 #include "interface/DrawingFolder.h"
@@ -38,20 +39,37 @@ class References : public testing::TestWithParam<zdx_test::WrittenAs> {
                              Form().make(zdx_test::DrawingOf(std::move(blocks), Version())));
   }
 
+  using BytesByName = std::map<std::string, std::string>;
+
+  // Made once, for they are the same in every version and form.
+  static const BytesByName& Others(const std::string& root) {
+    static std::map<std::string, BytesByName> made;
+    BytesByName& files = made[root];
+    if (!files.empty()) return files;
+    const auto add = [&files](const std::string& name, std::vector<drawing::BlockSpec> blocks,
+                              const std::string& version) {
+      files[name] = zdx_test::MadeDrawing(name, std::move(blocks), version);
+    };
+    add("a.dwg",
+        {XrefBlock("c", "c.dxf"), XrefBlock("root", root),
+         XrefBlock("over", "over.dxf", Xref::Overlaid)},
+        "AC1018");
+    add("away.dwg", {XrefBlock("behind", "behind.dxf")}, "AC1032");
+    add("behind.dxf", {}, "AC1014");
+    add("b.dxf", {XrefBlock("c", "c.dxf")}, "AC1009");
+    add("c.dxf", {XrefBlock("a", "a.dwg"), XrefBlock("self", "c.dxf")}, "AC1021");
+    add("over.dxf", {XrefBlock("deep", "deep.dxf")}, "AC1021");
+    add("deep.dxf", {}, "AC1032");
+    return files;
+  }
+
   // A drawing of each sort: shared, in circles, overlaid at both depths, missing, unloaded.
   void WriteAll() {
     drawing::BlockSpec away = XrefBlock("away", "away.dwg");
     away.isUnloaded = true;
     WriteRoot({XrefBlock("a", "a.dwg"), XrefBlock("gone", "gone.dwg"), away,
                XrefBlock("b", "b.dxf", Xref::Overlaid)});
-    folder.Write("a.dwg", {XrefBlock("c", "c.dxf"), XrefBlock("root", RootName()),
-                           XrefBlock("over", "over.dxf", Xref::Overlaid)});
-    folder.Write("away.dwg", {XrefBlock("behind", "behind.dxf")}, "AC1032");
-    folder.Write("behind.dxf", {}, "AC1014");
-    folder.Write("b.dxf", {XrefBlock("c", "c.dxf")}, "AC1009");
-    folder.Write("c.dxf", {XrefBlock("a", "a.dwg"), XrefBlock("self", "c.dxf")}, "AC1021");
-    folder.Write("over.dxf", {XrefBlock("deep", "deep.dxf")}, "AC1021");
-    folder.Write("deep.dxf", {}, "AC1032");
+    for (const auto& [name, bytes] : Others(RootName())) folder.WriteBytes(name, bytes);
   }
 
   Lines WithAway(Lines lines) const {

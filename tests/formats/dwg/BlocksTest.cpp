@@ -4,6 +4,7 @@
 
 #include "formats/dwg/OpenDrawing.h"
 #include "support/drawing/GeoSpec.h"
+#include "support/drawing/Tokens.h"
 #include "support/dwg/Containers.h"
 #include "support/dwg/Drawing.h"
 #include "support/dwg/Types.h"
@@ -343,7 +344,7 @@ TEST_P(Blocks, AreDynamicByTheirExtensionAndTheirName) {
       {.name = "*U2", .extendedData = {{1001, "AcDbBlockRepBTag"}, {1070, 1}, {1005, "A00"}}},
       {.name = "WALL", .handle = "A10"},
       {.name = "*U1", .extendedData = {{1001, "AcDbBlockRepBTag"}, {1070, 1}, {1005, "A00"}}},
-      {.name = "DOOR", .extension = {{"ACAD_ENHANCEDBLOCK", drawing::Xrecord()}}},
+      {.name = "DOOR", .extension = {{drawing::kDynamicBlockKey, drawing::Xrecord()}}},
       {.name = "ROOF", .extendedData = {{1001, "AcDbDynamicBlockTrueName"}, {1000, "ROOF"}}}};
   spec.blocks[0].isDynamic = true;
   OpenDrawing opened(spec);
@@ -373,7 +374,7 @@ TEST_P(Blocks, ModelSpaceKnowsWhereItLiesOnTheEarth) {
   geo.northY = 1.0;
   geo.correctsSeaLevel = true;
   geo.coordinateSystem = "<Dictionary/>";
-  spec.modelExtension = {{"ACAD_GEOGRAPHICDATA", drawing::GeoObject(geo)}};
+  spec.modelExtension = {{drawing::kGeoKey, drawing::GeoObject(geo)}};
   OpenDrawing opened(spec);
   const auto object = opened->GeoDataObject();
   ASSERT_TRUE(object);
@@ -390,7 +391,7 @@ TEST_P(Blocks, ModelSpaceKnowsWhereItLiesOnTheEarth) {
 }
 
 TEST_P(Blocks, WithoutALocationObjectThereIsNone) {
-  spec.modelExtension = {{"ACAD_GEOGRAPHICDATA", drawing::Xrecord()}};
+  spec.modelExtension = {{drawing::kGeoKey, drawing::Xrecord()}};
   OpenDrawing other(spec);
   EXPECT_EQ(other->GeoDataObject(), std::nullopt);
   EXPECT_EQ(other.report->warningCount, 1u);

@@ -12,6 +12,7 @@
 #include "base/LittleEndian.h"
 #include "formats/dwg/LayersOf.h"
 #include "formats/dwg/OpenDrawing.h"
+#include "support/drawing/Tokens.h"
 #include "support/dwg/Bytes.h"
 #include "support/dwg/Checksums.h"
 #include "support/dwg/Compression.h"
@@ -309,7 +310,7 @@ TEST(HostileFiles, APictureUnderManyKeysIsToldOnce) {
   spec.images = {{.name = "APE", .path = "a.png", .handle = "A01"}};
   OpenDrawing opened = PagedWith(spec, [](dwg::Drawing& drawing) {
     dwg::WriteDictionary(drawing, kLargeDictionary, drawing.roots.named, ManyEntries(50000, 0xA01));
-    dwg::WriteDictionary(drawing, drawing.roots.named, 0, {{"ACAD_IMAGE_DICT", kLargeDictionary}});
+    dwg::WriteDictionary(drawing, drawing.roots.named, 0, {{drawing::kImageKey, kLargeDictionary}});
   });
   EXPECT_EQ(CountFiles(opened, model::FileUse::kImage), 1u);
 }

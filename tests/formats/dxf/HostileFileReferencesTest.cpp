@@ -6,6 +6,7 @@
 
 #include "formats/dxf/HandmadeDrawing.h"
 #include "support/drawing/Tokens.h"
+#include "support/dxf/Tokens.h"
 
 namespace dxf_hostile_references {
 namespace {
@@ -25,7 +26,8 @@ std::string SectionText(const std::string& name, const std::string& objects) {
   return "  0\nSECTION\n  2\n" + name + "\n" + objects + "  0\nENDSEC\n";
 }
 
-const std::string kHeaderText = SectionText("HEADER", "  9\n$ACADVER\n  1\nAC1021\n");
+const std::string kHeaderText =
+    SectionText("HEADER", "  9\n" + std::string(dxf::kVersionVariable) + "\n  1\nAC1021\n");
 
 template <class Part>
 std::string Repeated(std::size_t count, const Part& part) {

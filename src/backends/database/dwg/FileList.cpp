@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 
+#include "backends/database/dwg/bits/ByteReader.h"
 #include "base/LittleEndian.h"
 
 namespace zdx::dwg {
@@ -17,34 +18,16 @@ constexpr std::size_t kWideSize = 4;
 constexpr std::uint32_t kLastCharacter = 0x10FFFF;
 constexpr std::uint32_t kFirstOfPairs = 0x10000;
 
-class ListReader {
+class ListReader : public ByteReader {
  public:
-  explicit ListReader(std::string_view bytes) : bytes_(bytes) {}
+  using ByteReader::ByteReader;
 
-  std::optional<std::uint32_t> Number() {
-    const auto bytes = Take(sizeof(std::uint32_t));
-    return bytes ? std::optional(LittleEndian<std::uint32_t>(*bytes)) : std::nullopt;
-  }
+  std::optional<std::uint32_t> Number() { return ByteReader::Number<std::uint32_t>(); }
 
   std::optional<std::string_view> Text() {
     const auto size = Number();
     return size ? Take(*size) : std::nullopt;
   }
-
-  bool Skip(std::size_t count) { return Take(count).has_value(); }
-
- private:
-  std::optional<std::string_view> Take(std::size_t count) {
-    if (count > bytes_.size()) {
-      bytes_ = {};
-      return std::nullopt;
-    }
-    const std::string_view taken = bytes_.substr(0, count);
-    bytes_.remove_prefix(count);
-    return taken;
-  }
-
-  std::string_view bytes_;
 };
 
 // Whether each character of a text has four bytes.  Two of UTF-16 would make no character, for the

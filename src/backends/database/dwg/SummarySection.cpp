@@ -1,19 +1,21 @@
 #include "backends/database/dwg/SummarySection.h"
 
-#include "base/LittleEndian.h"
+#include <cstdint>
+
+#include "backends/database/dwg/bits/ByteReader.h"
 
 namespace zdx::dwg {
 namespace {
 
 constexpr std::size_t kTimesSize = std::size_t{3} * 8;
 
-class SummaryReader {
+class SummaryReader : public ByteReader {
  public:
   SummaryReader(std::string_view bytes, Format format)
-      : bytes_(bytes), unit_(format.HasStringStream() ? 2 : 1) {}
+      : ByteReader(bytes), unit_(format.HasStringStream() ? 2 : 1) {}
 
   std::optional<std::string_view> Text() {
-    const auto count = Number();
+    const auto count = Number<std::uint16_t>();
     if (!count) return std::nullopt;
     auto text = Take(*count * unit_);
     const bool terminated = text && text->size() >= unit_ &&
@@ -22,31 +24,13 @@ class SummaryReader {
     return text;
   }
 
-  std::optional<std::size_t> Number() {
-    const auto bytes = Take(2);
-    return bytes ? std::optional<std::size_t>(LittleEndian<std::uint16_t>(*bytes)) : std::nullopt;
-  }
-
-  bool Skip(std::size_t count) { return Take(count).has_value(); }
-
  private:
-  std::optional<std::string_view> Take(std::size_t count) {
-    if (count > bytes_.size()) {
-      bytes_ = {};
-      return std::nullopt;
-    }
-    const std::string_view taken = bytes_.substr(0, count);
-    bytes_.remove_prefix(count);
-    return taken;
-  }
-
-  std::string_view bytes_;
   std::size_t unit_;
 };
 
 bool ReadCustom(SummaryReader& reader, StoredSummary& summary) {
   if (!reader.Skip(kTimesSize)) return false;
-  const auto count = reader.Number();
+  const auto count = reader.Number<std::uint16_t>();
   if (!count) return false;
   for (std::size_t i = 0; i < *count; ++i) {
     const auto name = reader.Text();
