@@ -67,7 +67,7 @@ class RecordList {
     }
     if (overlaysOf_ != nullptr) candidate->SetIsOverlay(IsOverlaid(id));
     records_.push_back(candidate.get());
-    candidate.release();
+    static_cast<void>(candidate.release());
   }
 
   std::vector<DwgDependentFile*> Take() { return std::move(records_); }
@@ -75,7 +75,9 @@ class RecordList {
  private:
   // A second record of a node that has one, or of one that belongs to the root, is left alone.
   void LetGo(std::unique_ptr<ZnDwgDependentFile> candidate, ZnDwgDependentFile& found) const {
-    if (rootOwnsAll_ || found.GetDwgFile() == candidate->GetDwgFile()) candidate.release();
+    if (rootOwnsAll_ || found.GetDwgFile() == candidate->GetDwgFile()) {
+      static_cast<void>(candidate.release());
+    }
   }
 
   bool IsOverlaid(std::uint64_t id) {

@@ -84,7 +84,7 @@ FileReferenceMgr::Services& FileReferenceMgr::GetExternalVerticalReferenceServic
         FileReferenceService::CreateInstance(version, module.c_str()));
     if (service == nullptr) continue;
     held.emplace(key, service.get());
-    service.release();
+    static_cast<void>(service.release());
   }
   return held;
 }
