@@ -14,6 +14,13 @@
 
 namespace handmade_dxf {
 
+// What a question to a hostile drawing may take.  The sanitizers have a pace of their own.
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+inline constexpr double kMostSeconds = 60.0;
+#else
+inline constexpr double kMostSeconds = 3.0;
+#endif
+
 using Tags = std::vector<drawing::Tag>;
 
 Tags Join(std::initializer_list<Tags> parts);

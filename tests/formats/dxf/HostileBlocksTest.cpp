@@ -15,13 +15,6 @@ using namespace handmade_dxf;
 using zdx::model::ObjectKey;
 using zdx::model::TableKind;
 
-// The sanitizers have a pace of their own.
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr double kMostSeconds = 60.0;
-#else
-constexpr double kMostSeconds = 3.0;
-#endif
-
 std::string Many(std::size_t count, const std::function<std::string(std::size_t)>& part) {
   std::string all;
   for (std::size_t i = 0; i < count; ++i) all += part(i);

@@ -15,13 +15,6 @@ using namespace handmade_dxf;
 using zdx::model::FileReference;
 using zdx::model::FreeValue;
 
-// The sanitizers have a pace of their own.
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr double kMostTime = 60.0;
-#else
-constexpr double kMostTime = 3.0;
-#endif
-
 std::string SectionText(const std::string& name, const std::string& objects) {
   return "  0\nSECTION\n  2\n" + name + "\n" + objects + "  0\nENDSEC\n";
 }
@@ -44,7 +37,7 @@ std::vector<FileReference> ToldSoon(const std::string& bytes) {
   const auto begin = std::chrono::steady_clock::now();
   auto references = drawing->FileReferences();
   const std::chrono::duration<double> spent = std::chrono::steady_clock::now() - begin;
-  EXPECT_LT(spent.count(), kMostTime);
+  EXPECT_LT(spent.count(), kMostSeconds);
   return references;
 }
 
